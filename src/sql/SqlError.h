@@ -52,6 +52,7 @@ enum class ErrorCode {
     UnionColumnCount = 3307,
     InvalidSubquery = 3306,
     WrongValueCount = 3346,
+    TooComplex = 3360,
     IndexNotFound = 3372,
     IndexExists = 3375,
     FieldExists = 3380,
