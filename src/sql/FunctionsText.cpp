@@ -92,7 +92,8 @@ void InStrRev(Call &call) {
     if (wanted.isEmpty()) {
         return call.Return(end);
     }
-    call.Return(qint64(QStringView(text).left(end).lastIndexOf(wanted) + 1));
+    const qsizetype last = qsizetype(end) - wanted.size();
+    call.Return(last < 0 ? qint64(0) : qint64(text.lastIndexOf(wanted, last) + 1));
 }
 
 void UCase(Call &call) {

@@ -9,10 +9,10 @@ namespace {
 
 TEST(Functions, AreFoundByNameWithoutCase) {
     for (const auto name : {u"Left", u"LEFT", u"left$", u"Format", u"IIf", u"switch", u"Count", u"StDevP", u"Timer"}) {
-        EXPECT_NE(FindFunction(name), nullptr) << QString(name).toStdString();
+        EXPECT_NE(FindFunction(name), nullptr) << QString::fromUtf16(name).toStdString();
     }
     for (const auto name : {u"", u"$", u"lefty", u"_like", u"fn_left", u"NoSuchFunction", u"like"}) {
-        EXPECT_EQ(FindFunction(name), nullptr) << QString(name).toStdString();
+        EXPECT_EQ(FindFunction(name), nullptr) << QString::fromUtf16(name).toStdString();
     }
 }
 
@@ -29,11 +29,11 @@ TEST(Functions, TellTheirArgumentsAndTypes) {
     EXPECT_EQ(FindFunction(u"Abs")->result, ResultRule::FirstArgument);
     EXPECT_EQ(FindFunction(u"DateAdd")->result, ResultRule::Date);
     for (const auto name : {u"Now", u"Date", u"Time", u"Rnd", u"Timer"}) {
-        EXPECT_FALSE(FindFunction(name)->deterministic) << QString(name).toStdString();
+        EXPECT_FALSE(FindFunction(name)->deterministic) << QString::fromUtf16(name).toStdString();
     }
     for (const auto name :
          {u"Count", u"Sum", u"Avg", u"Min", u"Max", u"First", u"Last", u"StDev", u"StDevP", u"Var", u"VarP"}) {
-        EXPECT_TRUE(FindFunction(name)->aggregate) << QString(name).toStdString();
+        EXPECT_TRUE(FindFunction(name)->aggregate) << QString::fromUtf16(name).toStdString();
     }
 }
 

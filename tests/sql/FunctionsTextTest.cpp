@@ -64,6 +64,8 @@ TEST(TextFunctions, FindTexts) {
            {"fn_instrrev('abcabc', 'B')", "5"},
            {"fn_instrrev('abcabc', 'b', 4)", "2"},
            {"fn_instrrev('abcabc', 'b', 5)", "5"},
+           {"fn_instrrev('abc', 'bc', 2)", "0"},
+           {"fn_instrrev('abc', 'abcd')", "0"},
            {"fn_instrrev('abc', 'z')", "0"},
            {"fn_instrrev('abc', '')", "3"},
            {"fn_instrrev('', 'a')", "0"},
@@ -105,7 +107,7 @@ TEST(TextFunctions, ChangeCase) {
            {"fn_strconv('the green LAMP', 1)", "'THE GREEN LAMP'"},
            {"fn_strconv('the green LAMP', 2)", "'the green lamp'"},
            {"fn_strconv('the green LAMP', 3)", "'The Green Lamp'"},
-           {"fn_strconv('o''neil', 3)", "'O''neil'"},
+           {"fn_strconv('o''neil', 3)", "'O'neil'"},
            {"fn_strconv('a', 64)", "error 5"},
            {"fn_strreverse('abc')", "'cba'"}});
 }
