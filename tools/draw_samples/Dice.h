@@ -1,6 +1,7 @@
 // Numbers that are the same on every machine for the same word.
 #pragma once
 
+#include <QPointF>
 #include <QString>
 
 #include <cstdint>
@@ -18,6 +19,12 @@ public:
     /// A number from 0 to `sides` - 1.
     int Roll(int sides) { return static_cast<int>(Next() >> 33U) % sides; }
     double Between(double low, double high) { return low + (high - low) * Roll(10000) / 9999.0; }
+
+    /// Compilers draw two arguments of one call in an order of their own, so a point draws its parts itself.
+    QPointF Point(double left, double right, double top, double bottom) {
+        const double x = Between(left, right);
+        return {x, Between(top, bottom)};
+    }
 
 private:
     std::uint64_t Next() {

@@ -126,7 +126,7 @@ void DrawBackground(QPainter &painter, Dice &dice) {
     gradient.setColorAt(1, QColor::fromHsv((hue + 30) % 360, 110, 150));
     painter.fillRect(QRectF(0, 0, kWidth, kHeight), gradient);
     painter.setBrush(QColor(255, 255, 255, 45));
-    painter.drawEllipse(QPointF(dice.Between(10, 110), dice.Between(20, 90)), 52, 52);
+    painter.drawEllipse(dice.Point(10, 110, 20, 90), 52, 52);
 }
 
 void DrawPerson(QPainter &painter, const Face &face, Dice &dice) {

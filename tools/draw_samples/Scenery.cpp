@@ -40,13 +40,15 @@ void Sea(QPainter &painter, const QRectF &area, const Palette &palette, Dice &di
     for (int i = 0; i < 6; ++i) {
         QColor color = palette.dark;
         color.setAlpha(70 + 30 * i);
-        Wave(painter, area, area.height() * (0.52 + 0.08 * i), dice.Between(4, 12), dice.Between(0, 6), color);
+        const double depth = dice.Between(4, 12);
+        Wave(painter, area, area.height() * (0.52 + 0.08 * i), depth, dice.Between(0, 6), color);
     }
 }
 
 void Rays(QPainter &painter, const QRectF &area, const Palette &palette, Dice &dice) {
     Fill(painter, area, palette.light, palette.middle);
-    const QPointF centre(area.width() * dice.Between(0.3, 0.7), area.height() * dice.Between(0.5, 0.75));
+    const QPointF centre =
+        dice.Point(area.width() * 0.3, area.width() * 0.7, area.height() * 0.5, area.height() * 0.75);
     const int count = 10 + dice.Roll(8);
     painter.setBrush(palette.accent);
     for (int i = 0; i < count; ++i) {
@@ -61,7 +63,7 @@ void Rays(QPainter &painter, const QRectF &area, const Palette &palette, Dice &d
     painter.setBrush(palette.paper);
     painter.drawEllipse(centre, 36, 36);
     painter.setBrush(palette.dark);
-    painter.drawEllipse(centre + QPointF(dice.Between(-12, 12), dice.Between(-12, 12)), 14, 14);
+    painter.drawEllipse(centre + dice.Point(-12, 12, -12, 12), 14, 14);
 }
 
 void City(QPainter &painter, const QRectF &area, const Palette &palette, Dice &dice) {
@@ -94,7 +96,7 @@ void Space(QPainter &painter, const QRectF &area, const Palette &palette, Dice &
     painter.setBrush(palette.paper);
     for (int i = 0; i < 90; ++i) {
         const double size = dice.Between(0.4, 1.6);
-        painter.drawEllipse(QPointF(dice.Between(0, area.width()), dice.Between(0, area.height())), size, size);
+        painter.drawEllipse(dice.Point(0, area.width(), 0, area.height()), size, size);
     }
     const QPointF planet(area.width() * dice.Between(0.3, 0.7), area.height() * 0.62);
     const double radius = dice.Between(56, 84);
@@ -119,7 +121,8 @@ void Hills(QPainter &painter, const QRectF &area, const Palette &palette, Dice &
     painter.drawEllipse(QPointF(area.width() * dice.Between(0.2, 0.8), area.height() * 0.48), 34, 34);
     const std::array<QColor, 3> colors{palette.middle.lighter(125), palette.middle, palette.dark};
     for (int i = 0; i < 3; ++i) {
-        Wave(painter, area, area.height() * (0.6 + 0.11 * i), dice.Between(14, 30), dice.Between(0, 6), colors[i]);
+        const double depth = dice.Between(14, 30);
+        Wave(painter, area, area.height() * (0.6 + 0.11 * i), depth, dice.Between(0, 6), colors[i]);
     }
     painter.setBrush(palette.dark.darker(130));
     const double house = area.width() * dice.Between(0.2, 0.6);
@@ -158,7 +161,7 @@ void Rain(QPainter &painter, const QRectF &area, const Palette &palette, Dice &d
     Fill(painter, area, palette.middle, palette.dark);
     painter.setPen(QPen(palette.light, 1.4));
     for (int i = 0; i < 110; ++i) {
-        const QPointF drop(dice.Between(0, area.width()), dice.Between(0, area.height()));
+        const QPointF drop = dice.Point(0, area.width(), 0, area.height());
         painter.drawLine(drop, drop + QPointF(-4, 13));
     }
     const QPointF top(area.width() * dice.Between(0.35, 0.65), area.height() * 0.52);
@@ -178,7 +181,7 @@ void Spiral(QPainter &painter, const QRectF &area, const Palette &palette, Dice 
     for (int i = rings; i > 0; --i) {
         painter.setBrush(i % 2 != 0 ? palette.accent : palette.dark);
         const double size = 21.0 * i;
-        painter.drawEllipse(centre + QPointF(dice.Between(-5, 5), dice.Between(-5, 5)), size, size * 0.92);
+        painter.drawEllipse(centre + dice.Point(-5, 5, -5, 5), size, size * 0.92);
     }
     painter.setBrush(palette.paper);
     painter.drawEllipse(centre, 11, 11);
@@ -198,7 +201,7 @@ void Forest(QPainter &painter, const QRectF &area, const Palette &palette, Dice 
         painter.drawRect(QRectF(0, area.height() * (0.715 + 0.09 * row), area.width(), area.height()));
     }
     for (int i = 0; i < 3; ++i) {
-        const QPointF cap(dice.Between(30, area.width() - 30), area.height() * dice.Between(0.8, 0.92));
+        const QPointF cap = dice.Point(30, area.width() - 30, area.height() * 0.8, area.height() * 0.92);
         painter.setBrush(palette.paper);
         painter.drawRect(QRectF(cap.x() - 4, cap.y(), 8, 22));
         painter.setBrush(palette.accent);
