@@ -27,6 +27,7 @@ struct ResultShape {
     std::vector<Field> fields;
     std::vector<QString> base_columns; ///< per field the column of `table`, empty for an expression
     QString table;                     ///< the one table of an editable result; its row id is the last SQLite column
+    QString row_id;                    ///< SQLite's name of it in that table
 
     /// Exact label first, then the first label that ends in ".name"; -1 when there is none.
     int Find(QStringView name) const;

@@ -45,6 +45,7 @@ private:
         QString sql;
         std::vector<OutputColumn> columns;
         QString row_id_table; ///< the table whose row id stands behind the columns
+        QString row_id;
     };
     /// The parts of a SELECT that several forms of it share.
     struct SelectParts {

@@ -195,11 +195,11 @@ Compiled Compiler::CompileJoinUpdate(const ast::Update &update, Scope &scope, co
         RowUpdate row;
         row.first_column = int(columns.size());
         row.column_count = int(target.values.size()) + 1;
-        row.sql = QStringLiteral("UPDATE OR IGNORE %1 SET %2 WHERE rowid = ?%3")
+        row.sql = QStringLiteral("UPDATE OR IGNORE %1 SET %2 WHERE %3 = ?%4")
                       .arg(QuoteName(target.source->table->name), target.assignments.join(u','),
-                           QString::number(row.column_count));
+                           target.source->table->RowIdName(), QString::number(row.column_count));
         columns.append(target.values);
-        columns.append(target.source->alias + QStringLiteral(".rowid"));
+        columns.append(target.source->RowId());
         compiled.updates.push_back(row);
     }
     compiled.sql = QStringLiteral("SELECT %1 FROM %2").arg(columns.join(u','), from);
@@ -228,8 +228,8 @@ Compiled Compiler::CompileDelete(const ast::Delete &statement) {
         compiled.sql = QStringLiteral("DELETE FROM ") + from + where;
     } else {
         const QString name = QuoteName(target->table->name);
-        compiled.sql = QStringLiteral("DELETE FROM %1 WHERE rowid IN (SELECT %2.rowid FROM %3%4)")
-                           .arg(name, target->alias, from, where);
+        compiled.sql = QStringLiteral("DELETE FROM %1 WHERE %2 IN (SELECT %3 FROM %4%5)")
+                           .arg(name, target->table->RowIdName(), target->RowId(), from, where);
     }
     return Finish(std::move(compiled));
 }

@@ -322,7 +322,7 @@ QString Compiler::DistinctRowGroup(const ast::Select &select, const Scope &scope
             return {}; // a derived table has no rows of its own
         }
         if (shown) {
-            keys.append(source.alias + QStringLiteral(".rowid"));
+            keys.append(source.RowId());
         }
     }
     return keys.size() < qsizetype(scope.sources.size()) ? keys.join(u',') : QString();
@@ -368,8 +368,7 @@ QString Compiler::AssembleSelect(const ast::Select &select, const SelectParts &e
     parts.where = parts.where.isEmpty() ? QString() : QStringLiteral(" WHERE ") + parts.where;
     parts.having = parts.having.isEmpty() ? QString() : QStringLiteral(" HAVING ") + parts.having;
     const QString group_by = group.isEmpty() ? QString() : QStringLiteral(" GROUP BY ") + group.join(u',');
-    const QString row_id =
-        with_row_id ? QStringLiteral(", %1.rowid AS rid").arg(scope.sources.front().alias) : QString();
+    const QString row_id = with_row_id ? QStringLiteral(", %1 AS rid").arg(scope.sources.front().RowId()) : QString();
     if (select.top) {
         parts.group = QStringList{group_by};
         return AssembleTop(select, parts, row_id);
@@ -402,12 +401,13 @@ Compiler::QueryText Compiler::EmitSelect(const ast::Select &select, const std::v
     SelectParts parts = EmitSelectParts(select, order_by, scope);
     aggregate_filter_ = filter;
     const bool editable = top_level && scope.sources.size() == 1 && scope.sources.front().table && !parts.grouped &&
-                          select.distinct == ast::Distinct::All;
+                          select.distinct == ast::Distinct::All && !scope.sources.front().table->RowIdName().isEmpty();
     QueryText text;
     text.sql = AssembleSelect(select, parts, scope, top_level, editable);
     text.columns = std::move(parts.columns);
     if (editable) {
         text.row_id_table = scope.sources.front().table->name;
+        text.row_id = scope.sources.front().table->RowIdName();
     }
     return text;
 }
@@ -497,6 +497,7 @@ std::shared_ptr<const ResultShape> Compiler::MakeResult(const QueryText &text) {
         result->base_columns.push_back(column.base_column);
     }
     result->table = text.row_id_table;
+    result->row_id = text.row_id;
     return result;
 }
 

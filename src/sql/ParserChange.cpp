@@ -30,7 +30,7 @@ ast::Insert Parser::ParseInsert(ast::Statement &statement) {
         trailing_ = ErrorCode::InsertSyntax;
         return insert;
     }
-    if (!AtQuery(at_, true)) {
+    if (!AtQuery(At(TokenType::LeftParen) ? at_ + 1 : at_, true)) {
         Fail(ErrorCode::InsertSyntax);
     }
     insert.query = ParseQuery().query;

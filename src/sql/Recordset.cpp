@@ -182,7 +182,7 @@ void Recordset::Update() {
         CancelUpdate();
         return;
     } else {
-        sql = QStringLiteral("UPDATE %1 SET %2 WHERE rowid = ?").arg(table, names);
+        sql = QStringLiteral("UPDATE %1 SET %2 WHERE %3 = ?").arg(table, names, data_->shape->row_id);
         values.emplace_back(data_->row_ids[size_t(data_->current)]);
     }
     const int changes = data_->database->RunEdit(sql, values);
@@ -208,7 +208,8 @@ void Recordset::Delete() {
     if (Eof()) {
         throw NoRow();
     }
-    const QString sql = QStringLiteral("DELETE FROM %1 WHERE rowid = ?").arg(QuoteName(data_->shape->table));
+    const QString sql =
+        QStringLiteral("DELETE FROM %1 WHERE %2 = ?").arg(QuoteName(data_->shape->table), data_->shape->row_id);
     if (data_->database->RunEdit(sql, {Value(data_->row_ids[size_t(data_->current)])}) == 0) {
         throw SqlError(ErrorCode::KeyViolatesReference,
                        QStringLiteral("The row is gone, or rows of another table refer to it."));

@@ -24,6 +24,9 @@ struct Source {
     QString alias; ///< ours, unique in the statement
     const TableInfo *table = nullptr;
     std::vector<SourceColumn> columns;
+
+    /// The row id of a table, qualified; a column of the table may have taken the usual name.
+    QString RowId() const { return alias + u'.' + table->RowIdName(); }
 };
 
 struct Scope {

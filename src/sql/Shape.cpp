@@ -17,6 +17,12 @@ constexpr char16_t kLessEqualMark = u'\x05';
 constexpr char16_t kGreaterEqualMark = u'\x06';
 constexpr char16_t kNotEqualMark = u'\x07';
 
+/// A letter that folds to one of ASCII (the Kelvin sign) stays: no keyword is spelled with it.
+char16_t Fold(char16_t c) {
+    const char16_t folded = QChar(c).toCaseFolded().unicode();
+    return folded < 128 ? c : folded;
+}
+
 /// Writes a key. No token takes more room in the key than in the text: a blank is written only between two words,
 /// and there stands one in the text.
 class KeyWriter {
@@ -44,7 +50,7 @@ public:
             if (c >= u'A' && c <= u'Z') {
                 *at_++ = c | 0x20;
             } else {
-                *at_++ = c < 128 ? c : QChar(c).toCaseFolded().unicode();
+                *at_++ = c < 128 ? c : Fold(c);
             }
         }
         after_word_ = true;

@@ -26,9 +26,9 @@ struct Shape {
 };
 
 /// Scans a statement into its shape, in one pass and without looking at its grammar. White space, letter case of
-/// words and a closing semicolon do not count; names in brackets are kept as written. Both members of `shape` are overwritten, so that one object can be
-/// used again without new memory. Returns false where the text holds no tokens of the dialect (an unclosed literal,
-/// a character that begins no token); the parser then finds the fault.
+/// words and a closing semicolon do not count; names in brackets are kept as written. Both members of `shape` are
+/// overwritten, so that one object can be used again without new memory. Returns false where the text holds no tokens
+/// of the dialect (an unclosed literal, a character that begins no token); the parser then finds the fault.
 bool ScanShape(QStringView text, Shape &shape);
 
 } // namespace ostrand::sql

@@ -61,9 +61,10 @@ std::string Show(const Recordset &rows, const std::vector<std::vector<Value>> &c
     for (const auto &row : cells) {
         text += QStringLiteral("\n  ");
         for (const Value &value : row) {
-            text += value.IsNull()                               ? QStringLiteral("NULL, ")
-                    : value.GetType() == Value::Type::Text ? u'"' + value.Text() + QStringLiteral("\", ")
-                                                                 : QString::number(value.Real(), 'g', 15) + QStringLiteral(", ");
+            text += value.IsNull() ? QStringLiteral("NULL, ")
+                    : value.GetType() == Value::Type::Text
+                        ? u'"' + value.Text() + QStringLiteral("\", ")
+                        : QString::number(value.Real(), 'g', 15) + QStringLiteral(", ");
         }
     }
     return text.toStdString();
@@ -98,9 +99,9 @@ bool SameRows(const QJsonArray &expected, std::vector<std::vector<Value>> rows, 
     }
     for (int i = 0; i < expected.size(); ++i) {
         const QJsonArray wanted = expected[i].toArray();
-        const auto found = ordered ? (SameRow(wanted, rows.front()) ? rows.begin() : rows.end())
-                                   : std::find_if(rows.begin(), rows.end(),
-                                                  [&](const auto &row) { return SameRow(wanted, row); });
+        const auto found =
+            ordered ? (SameRow(wanted, rows.front()) ? rows.begin() : rows.end())
+                    : std::find_if(rows.begin(), rows.end(), [&](const auto &row) { return SameRow(wanted, row); });
         if (found == rows.end()) {
             return false;
         }
@@ -126,13 +127,13 @@ bool SameColumns(const QJsonObject &expected, Recordset &rows) {
     return true;
 }
 
-void RunCase(const QJsonObject &example, const std::vector<QString> &schema) {
+void RunCase(const QJsonObject &example, const QString &schema_file) {
     SCOPED_TRACE(example[u"id"].toString().toStdString() + ": " + example[u"sql"].toString().toStdString() + "\n" +
                  example[u"why"].toString().toStdString());
-    test::TestDatabase database;
-    for (const QString &statement : schema) {
-        database->Execute(statement);
-    }
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("case.mdb"));
+    ASSERT_TRUE(QFile::copy(schema_file, path));
+    const auto database = Database::Open(path, test::FixedEnvironment());
     for (const QJsonValue &statement : example[u"setup"].toArray()) {
         database->Execute(statement.toString());
     }
@@ -142,7 +143,8 @@ void RunCase(const QJsonObject &example, const std::vector<QString> &schema) {
         Recordset rows = database->OpenRecordset(sql);
         EXPECT_FALSE(expect.isString() && expect.toString() == u"error") << "no fault was raised";
         if (expect.isArray()) {
-            const bool ordered = example[u"ordered"].toBool(sql.contains(QStringLiteral("ORDER BY"), Qt::CaseInsensitive));
+            const bool ordered =
+                example[u"ordered"].toBool(sql.contains(QStringLiteral("ORDER BY"), Qt::CaseInsensitive));
             const auto cells = AllRows(rows);
             EXPECT_TRUE(SameRows(expect.toArray(), cells, ordered)) << Show(rows, cells);
         } else if (expect.isObject()) {
@@ -164,12 +166,16 @@ TEST(DialectCases, AllHold) {
     if (!file.open(QIODevice::ReadOnly)) {
         GTEST_SKIP() << "the collected cases are not here (OSTRAND_SHARED)";
     }
-    const std::vector<QString> schema = SchemaStatements(folder + QStringLiteral("/schema.sql"));
+    test::TestDatabase schema;
+    for (const QString &statement : SchemaStatements(folder + QStringLiteral("/schema.sql"))) {
+        schema->Execute(statement);
+    }
+    schema.Close();
     int count = 0;
     while (!file.atEnd()) {
         const QJsonObject example = QJsonDocument::fromJson(file.readLine()).object();
         if (!example.isEmpty()) {
-            RunCase(example, schema);
+            RunCase(example, schema.Path());
             ++count;
         }
     }

@@ -70,13 +70,14 @@ TEST_P(OtherShapeTest, HasAnotherKey) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Key, OtherShapeTest,
-                         testing::Values(Pair{"SELECT 1", "SELECT '1'"}, Pair{"SELECT 1", "SELECT 1.0"},
-                                         Pair{"SELECT 1", "SELECT -1"}, Pair{"SELECT 1.5", "SELECT #1/1/2009#"},
-                                         Pair{"SELECT No", "SELECT [No]"}, Pair{"SELECT True", "SELECT False"},
-                                         Pair{"SELECT a b", "SELECT ab"}, Pair{"a < = b", "a <= b"},
-                                         Pair{"a > = b", "a >= b"}, Pair{"a < > b", "a <> b"},
-                                         Pair{"SELECT [a]", "SELECT `a`"}, Pair{"SELECT a;;", "SELECT a"},
-                                         Pair{"SELECT 'a' 'b'", "SELECT 'a''b'"}, Pair{"SELECT a &H1", "SELECT a, &H1"},
+                         testing::Values(Pair{"SELECT 1", "SELECT '1'"}, Pair{"a LIKE b", "a LI\u212aE b"},
+                                         Pair{"SELECT 1", "SELECT 1.0"}, Pair{"SELECT 1", "SELECT -1"},
+                                         Pair{"SELECT 1.5", "SELECT #1/1/2009#"}, Pair{"SELECT No", "SELECT [No]"},
+                                         Pair{"SELECT True", "SELECT False"}, Pair{"SELECT a b", "SELECT ab"},
+                                         Pair{"a < = b", "a <= b"}, Pair{"a > = b", "a >= b"},
+                                         Pair{"a < > b", "a <> b"}, Pair{"SELECT [a]", "SELECT `a`"},
+                                         Pair{"SELECT a;;", "SELECT a"}, Pair{"SELECT 'a' 'b'", "SELECT 'a''b'"},
+                                         Pair{"SELECT a &H1", "SELECT a, &H1"},
                                          Pair{"SELECT [a b]", "SELECT [a] [b]"}));
 
 TEST(ShapeTest, LiteralsComeInTheOrderOfTheText) {
