@@ -52,7 +52,6 @@ void CreateTables(Session &session) {
 
 /// What a file from before the settings table lacks to be told as the oldest version.
 void CreateFirstSettings(Session &session) {
-    const sql::Database::Bracket bracket(*session.Database);
     session.Database->Execute(
         u"CREATE TABLE DbInfo (InfoName varchar PRIMARY KEY, InfoValue varchar, Comment varchar)");
     WriteINIString(session, u"Main"_s, u"Scheme"_s, u"n/a"_s);
@@ -71,25 +70,59 @@ int ReadVersion(Session &session) {
     return int(version.toDouble());
 }
 
-/// True when the open database stands at the present version.
-bool BringToPresentVersion(Session &session) {
-    const int version = ReadVersion(session);
-    if (version > kSchemaVersion) {
-        Say(session, MessageIcon::Critical,
-            Translate(session, u"Database version too high!"_s) + "\r\n"_L1 +
-                Translate(session, u"Please update the program with the latest version."_s));
-        return false; // the file stays open
-    }
-    if (version < kSchemaVersion && !UpgradeDatabase(session, version)) {
-        session.Database.reset(); // so that nothing more is written to the old file
-        return false;
-    }
+void WidenValues(Session &session) {
     const sql::TableInfo *settings = session.Database->FindTable(u"DbInfo");
     const sql::ColumnInfo *value = settings ? settings->FindColumn(u"InfoValue") : nullptr;
     if (value && value->kind == sql::Kind::Text) {
         session.Database->Execute(u"ALTER TABLE DbInfo ALTER COLUMN InfoValue memo");
     }
-    return true;
+}
+
+enum class Standing { Present, Newer, NotUpgraded };
+
+Standing BringToPresentVersion(Session &session) {
+    const int version = ReadVersion(session);
+    if (version > kSchemaVersion) {
+        return Standing::Newer;
+    }
+    if (version < kSchemaVersion && !UpgradeDatabase(session, version)) {
+        return Standing::NotUpgraded;
+    }
+    WidenValues(session);
+    return Standing::Present;
+}
+
+/// The same as one durable whole that is taken back where it does not come to its end.
+Standing BringToPresentVersionOrLeave(Session &session) {
+    session.Database->Flush();
+    sql::Database::Bracket bracket(*session.Database);
+    try {
+        const Standing standing = BringToPresentVersion(session);
+        if (standing == Standing::NotUpgraded) {
+            bracket.Abandon();
+        }
+        return standing;
+    } catch (const sql::SqlError &) {
+        bracket.Abandon();
+        throw;
+    }
+}
+
+/// True when the open database stands at the present version.
+bool Prepare(Session &session) {
+    switch (BringToPresentVersionOrLeave(session)) {
+    case Standing::Present:
+        return true;
+    case Standing::Newer:
+        Say(session, MessageIcon::Critical,
+            Translate(session, u"Database version too high!"_s) + "\r\n"_L1 +
+                Translate(session, u"Please update the program with the latest version."_s));
+        return false; // the file stays open
+    case Standing::NotUpgraded:
+        session.Database.reset(); // so that nothing more is written to the old file
+        return false;
+    }
+    return false;
 }
 
 void LoadCrewRoles(Session &session) {
@@ -202,7 +235,7 @@ bool Open(Session &session, const QString &path) {
     try {
         OpenFile(session, path);
         opened = true;
-        if (!BringToPresentVersion(session)) {
+        if (!Prepare(session)) {
             return false;
         }
         LoadCrewRoles(session);

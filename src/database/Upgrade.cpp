@@ -464,6 +464,19 @@ bool AskToDelete(Session &session) {
     return answer == MessageAnswer::Yes;
 }
 
+void RunSteps(const Chain &chain) {
+    for (const Step &step : kSteps) {
+        if (chain.version < step.below) {
+            step.run(chain);
+        }
+    }
+    // Tables that the chain made anew have lost their indexes.
+    for (const IndexSpec &index : SchemaIndexes()) {
+        chain.CreateIndex(index);
+    }
+    WriteDbInfo(chain.session, u"Schema"_s, QString::number(kSchemaVersion), u"Database Schema"_s);
+}
+
 bool RunChain(Session &session, int version) {
     if (version > kSchemaVersion) {
         ShowMessage(session, {.text = Translate(session, u"Database version too high!"_s) + "\r\n"_L1 +
@@ -476,19 +489,15 @@ bool RunChain(Session &session, int version) {
         session.EndProgram = true;
         return false;
     }
-    const Chain chain{session, version};
-    // One durable whole: a process that dies in the middle leaves the old version.
-    const sql::Database::Bracket bracket(*session.Database);
-    for (const Step &step : kSteps) {
-        if (version < step.below) {
-            step.run(chain);
-        }
+    // One durable whole: a process that dies in the middle, and a step that fails, leave the old version.
+    session.Database->Flush();
+    sql::Database::Bracket bracket(*session.Database);
+    try {
+        RunSteps({session, version});
+    } catch (const sql::SqlError &) {
+        bracket.Abandon();
+        throw;
     }
-    // Tables that the chain made anew have lost their indexes.
-    for (const IndexSpec &index : SchemaIndexes()) {
-        chain.CreateIndex(index);
-    }
-    WriteDbInfo(session, u"Schema"_s, QString::number(kSchemaVersion), u"Database Schema"_s);
     return true;
 }
 
