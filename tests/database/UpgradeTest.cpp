@@ -291,6 +291,7 @@ TEST_F(UpgradeTest, NoLeavesEvenAFileWithoutSettingsAsItWas) {
 }
 
 TEST_F(UpgradeTest, AFileWithoutSettingsIsMarkedInTheSettingsOfTheInstallation) {
+    QDir().mkpath(session.DataFolder);
     BuildFile(32);
     ExpectQuestion(MessageAnswer::Yes);
     ASSERT_TRUE(OpenOld());
