@@ -1,7 +1,6 @@
 // Creating, opening, compacting: messages, order, and what stays of a file that cannot be opened.
 #include "CollectionFixture.h"
-
-#include "sql/LockFile.h"
+#include "sql/ForkedChild.h"
 
 #include <QFileInfo>
 
@@ -213,6 +212,38 @@ TEST_F(FilesTest, ALockOfAProcessThatIsGoneDoesNotCount) {
     session.Database.reset();
     folder_.Write(u"New.ldb"_s, "2147483000\t1\t1\tostrand\n");
     EXPECT_FALSE(IsDatabaseBusy(session, Path(u"New.mdb"_s)));
+}
+
+TEST_F(FilesTest, ADatabaseOpenInAnotherProcessIsBusyUntilThatIsGone) {
+    Create();
+    session.Database.reset();
+    std::unique_ptr<sql::Database> held;
+    const sql::testing::WaitingChild child([&] { held = sql::Database::Open(Path(u"New.mdb"_s)); });
+    ASSERT_TRUE(child.IsStarted());
+    ExpectBusy();
+    EXPECT_TRUE(IsDatabaseBusy(session, Path(u"New.mdb"_s)));
+    ExpectBusy();
+    EXPECT_FALSE(CompactCollectionDatabase(session, Path(u"New.mdb"_s)));
+    child.Kill();
+    EXPECT_FALSE(IsDatabaseBusy(session, Path(u"New.mdb"_s)));
+}
+
+TEST_F(FilesTest, CompactingAFileThatACrashLeftTakesItsLogIn) {
+    Create();
+    session.Database.reset();
+    std::unique_ptr<sql::Database> held;
+    const sql::testing::WaitingChild child([&] {
+        held = sql::Database::Open(Path(u"New.mdb"_s));
+        held->Execute(u"INSERT INTO SQLQueries (Name, SQLStatement) VALUES ('Kept', 'SELECT 1')");
+        held->Flush();
+    });
+    ASSERT_TRUE(child.IsStarted());
+    child.Kill();
+    ASSERT_TRUE(folder_.Has(u"New.mdb-wal"_s));
+    ASSERT_TRUE(CompactCollectionDatabase(session, Path(u"New.mdb"_s)));
+    EXPECT_EQ(QDir(folder_.Path()).entryList(QDir::Files), QStringList(u"New.mdb"_s));
+    ASSERT_TRUE(Open(u"New.mdb"_s));
+    EXPECT_EQ(Rows(u"SELECT Name FROM SQLQueries"), QStringList(u"Kept"_s));
 }
 
 TEST_F(FilesTest, CompactingKeepsTheRowsAndLeavesNoOtherFile) {

@@ -1,6 +1,7 @@
 // Databases of every earlier version come to the present schema with the data that must survive.
 #include "CollectionFixture.h"
 #include "HistoricSchema.h"
+#include "sql/ForkedChild.h"
 
 #include "database/Schema.h"
 #include "database/Upgrade.h"
@@ -176,6 +177,16 @@ QStringList SchemaLines(sql::Database &database) {
     return lines;
 }
 
+/// Ends the process where a job tells its first line.
+class DeadlyProgress : public test::ScriptedProgress {
+public:
+    void LineChanged(const QString &line) override {
+        if (!line.isEmpty()) {
+            ::raise(SIGKILL);
+        }
+    }
+};
+
 class UpgradeTest : public CollectionTest, public testing::WithParamInterface<int> {
 protected:
     /// A filled file of that version.
@@ -319,6 +330,24 @@ TEST_F(UpgradeTest, AFailingStatementLeavesTheOldVersionWhichUpgradesOnceRepaire
     ASSERT_TRUE(OpenOld());
     EXPECT_EQ(SchemaLines(*session.Database), NewSchemaLines());
     EXPECT_EQ(Rows(u"SELECT Award FROM Awards WHERE Won = true"), QStringList(u"Golden Leaf"_s));
+}
+
+TEST_F(UpgradeTest, AProcessThatDiesInTheMiddleLeavesTheOldVersionWhichUpgradesAgain) {
+    BuildFile(70);
+    const QStringList before = SchemaLines(*sql::Database::Open(Path(u"Old.mdb"_s)));
+    const int died = sql::testing::InChild([&] {
+        DeadlyProgress deadly;
+        Services &world = services.services;
+        Services own{world.dialogs, deadly,          world.pump,    world.clock,
+                     world.random,  world.processes, world.folders, world.locale};
+        Session other(own);
+        return OpenCollectionDatabase(other, Path(u"Old.mdb"_s)) ? 1 : 2;
+    });
+    ASSERT_EQ(died, -1);
+    EXPECT_EQ(SchemaLines(*sql::Database::Open(Path(u"Old.mdb"_s))), before);
+    ASSERT_TRUE(OpenOld());
+    EXPECT_EQ(SchemaLines(*session.Database), NewSchemaLines());
+    EXPECT_EQ(Rows(u"SELECT Name FROM CastCrew WHERE IsCast = true"), QStringList(u"Mia Stone"_s));
 }
 
 TEST_F(UpgradeTest, AFailingStatementRaisesToTheCallerOfTheChain) {
