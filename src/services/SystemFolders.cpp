@@ -29,7 +29,7 @@ bool IsPrivate(const QByteArray &path) {
 /// The folder between the system's one, which everybody may write to, and ours. A name that somebody else has taken is
 /// left to them.
 QString PrivateFolder(const QString &system_temp) {
-    const QString name = system_temp + QStringLiteral("/OstrandApp-%1").arg(geteuid());
+    QString name = system_temp + QStringLiteral("/OstrandApp-%1").arg(geteuid());
     const QByteArray path = QFile::encodeName(name);
     if (mkdir(path.constData(), 0700) == 0 || (errno == EEXIST && IsPrivate(path)))
         return name;
