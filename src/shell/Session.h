@@ -56,6 +56,9 @@ struct Session {
     bool Profiler3 = false;
     QMap<int, QString> CountryNames;
     CrewRoleMaps CrewRoles;
+    /// The user chose to end the program inside a routine. Whoever called it ends the program, without asking or
+    /// showing anything more.
+    bool EndProgram = false;
 
     /// What the main window does when data changed under it; set by the window, empty without one.
     struct WindowHooks {
