@@ -1,6 +1,6 @@
 #include "Arguments.h"
 
-#include <QLocale>
+#include "services/SystemServices.h"
 
 namespace ostrand::batch {
 
@@ -22,8 +22,7 @@ void SetFormat(Arguments &arguments, const QString &value) {
 
 void SetLocale(Arguments &arguments, const QString &value) {
     arguments.locale = value;
-    const bool plain = value == QStringLiteral("C") || value == QStringLiteral("POSIX");
-    if (!plain && QLocale(value).language() == QLocale::C) {
+    if (value != QStringLiteral("C") && !SystemLocaleInfo::IsKnown(value)) {
         arguments.fault = QStringLiteral("There is no locale \"%1\".").arg(value);
     }
 }

@@ -76,7 +76,7 @@ private:
             return;
         }
         failed_ = !console_.Run(statement) || failed_;
-        if (input_.IsTerminal()) {
+        if (terminal_) {
             Flush();
         } else {
             Guarded([this] { database_.FlushIfDue(); });
@@ -102,6 +102,7 @@ private:
     StandardInput input_;
     StatementSplitter splitter_;
     QStringDecoder decoder_{QStringDecoder::Utf8};
+    const bool terminal_ = IsTerminal(stdin);
     bool idle_ = false;
     bool ended_ = false;
     bool failed_ = false;

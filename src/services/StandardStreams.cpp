@@ -29,8 +29,8 @@ StandardInput::State StandardInput::Read(QByteArray &bytes, int timeout) {
     return count > 0 ? State::Data : wait ? State::Nothing : State::End;
 }
 
-bool StandardInput::IsTerminal() const {
-    return isatty(STDIN_FILENO) == 1;
+bool IsTerminal(std::FILE *stream) {
+    return isatty(fileno(stream)) == 1;
 }
 
 #else
@@ -43,8 +43,8 @@ StandardInput::State StandardInput::Read(QByteArray &bytes, int) {
     return count > 0 ? State::Data : State::End;
 }
 
-bool StandardInput::IsTerminal() const {
-    return _isatty(0) != 0;
+bool IsTerminal(std::FILE *stream) {
+    return _isatty(_fileno(stream)) != 0;
 }
 
 #endif

@@ -124,6 +124,7 @@ void RunCommandFile(Session &session, const QString &path) {
             break;
         }
         CallCommand(session, line);
+        session.services.pump.Turn();
     }
 }
 
@@ -137,7 +138,12 @@ void CallCommand(Session &session, const QString &line) {
         Warn(session, QStringLiteral("This command is not available in this version:"), line.trimmed());
         return;
     }
-    call.command->run(session, call.argument);
+    try {
+        call.command->run(session, call.argument);
+    } catch (const sql::SqlError &error) {
+        Trace(session, QStringLiteral("CallCommand: ") + error.Text(), kTraceError);
+        ShowMessage(session, {.text = error.Text(), .title = {}, .icon = MessageIcon::Critical});
+    }
 }
 
 } // namespace ostrand

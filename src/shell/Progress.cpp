@@ -68,7 +68,7 @@ QString frmProgress::AddNode(const QString &text, const QString &key, const QStr
 
 void frmProgress::Tick(const QString &key) {
     const auto node = nodes_.find(key);
-    if (node != nodes_.end() && !*node) {
+    if (loaded_ && node != nodes_.end() && !*node) {
         *node = true;
         view_.NodeTicked(key);
     }

@@ -98,8 +98,6 @@ struct Session {
         std::function<void()> GetLastSelectedItem;
         std::function<void()> ReloadTitles;
         std::function<void()> ShowTitlesDue;
-        /// The settings of a database are in the session: lists, tabs and mode follow.
-        std::function<void()> SettingsLoaded;
     };
     WindowHooks window;
 };

@@ -88,9 +88,6 @@ void LoadDatabaseSettings(Session &session) {
     LoadImdbUrl(session);
     LoadStep(session, SettingStep::Rest);
     LoadFolders(session);
-    if (session.window.SettingsLoaded) {
-        session.window.SettingsLoaded();
-    }
     EnsureCoverFolder(session);
     Trace(session, QStringLiteral("LoadDatabaseSettings()"), kTraceExit);
 }

@@ -8,7 +8,7 @@ namespace ostrand {
 struct Session;
 
 /// Reads all settings of the open database into the session and its view state, and makes the image folders. What
-/// windows do with them follows through `Session::window.SettingsLoaded`.
+/// windows do with them comes behind it (`Session::window.LoadDatabaseSettings`).
 void LoadDatabaseSettings(Session &session);
 /// Writes what follows the windows. Does nothing while no database is open.
 void SaveDatabaseSettings(Session &session);

@@ -1,7 +1,6 @@
 #include "shell/StartUp.h"
 
 #include "base/Files.h"
-#include "collection_files/Localities.h"
 #include "database/DatabaseFunctions.h"
 #include "shell/CommandFile.h"
 #include "shell/InstanceMarker.h"
@@ -19,8 +18,6 @@ namespace ostrand {
 
 namespace {
 
-constexpr const char16_t *kAppFolder = u"OstrandApp";
-
 QString Below(const QString &folder, const char16_t *name) {
     return folder + QDir::separator() + QString::fromUtf16(name);
 }
@@ -36,17 +33,12 @@ bool ReadTruth(const Session &session, const char16_t *section, const char16_t *
 }
 
 void MakeFolders(Session &session) {
-    const Folders &folders = session.services.folders;
-    session.TempFolder = Below(folders.Temp(), kAppFolder);
     MakeFolderPath(session.TempFolder);
     session.instance = std::make_shared<InstanceMarker>(session.TempFolder);
-    session.DataFolder = Below(folders.Documents(), kAppFolder);
     MakeFolderPath(session.DataFolder);
-    session.ProgramFolder = folders.Program();
 }
 
-void FindSettingsFile(Session &session) {
-    session.SettingsPath = Below(session.DataFolder, u"Settings.ini");
+void MigrateSettingsFile(Session &session) {
     const QString beside_program = Below(session.ProgramFolder, u"Settings.ini");
     if (!QFile::exists(session.SettingsPath) && QFile::exists(beside_program)) {
         // Older versions kept it beside the program file.
@@ -57,11 +49,6 @@ void FindSettingsFile(Session &session) {
 }
 
 void StartTrace(Session &session) {
-    session.trace.path = Below(session.DataFolder, u"Debug.log");
-    if (!session.trace.seconds) {
-        Clock &clock = session.services.clock;
-        session.trace.seconds = [&clock] { return clock.SecondsSinceMidnight(); };
-    }
     session.trace.Mask = ParseTraceMask(ReadIniSetting(session, u"Main", u"Debug"));
     WriteIniSetting(session, u"Main", u"Debug", TraceMaskText(session.trace.Mask));
     if (session.trace.Mask & kTraceFresh) {
@@ -91,11 +78,6 @@ void ReadAuditSettings(Session &session) {
     audit.menus_shown = audit.SVNAuditEnabled && QFileInfo(viewer).isFile();
 }
 
-void ReadLocale(Session &session) {
-    session.DecimalSeparator = session.services.locale.DecimalSeparator();
-    session.LongDateFormat = WithoutWeekday(session.services.locale.LongDatePattern());
-}
-
 constexpr struct {
     const char16_t *key;
     bool ViewState::GridLines::*shown;
@@ -121,17 +103,6 @@ void WriteInstallationSettings(Session &session) {
     for (const auto &row : kGridLines) {
         WriteIniSetting(session, u"GridLines", row.key, TruthText(session.view.grid_lines.*row.shown));
     }
-}
-
-void ConnectProgress(Session &session) {
-    session.progress.translate = [&session](const QString &text) { return Translate(session, text); };
-    session.progress.read_auto_close = [&session] {
-        return ReadDbInfoFlag(session, QStringLiteral("ProgressWindowAutoClose"), false);
-    };
-    session.progress.write_auto_close = [&session](bool on) {
-        session.view.ProgressWindowAutoClose = on;
-        WriteDbInfo(session, QStringLiteral("ProgressWindowAutoClose"), QString(on ? u'1' : u'0'));
-    };
 }
 
 } // namespace
@@ -162,20 +133,13 @@ QString TraceMaskText(std::uint32_t mask) {
     return QStringLiteral("0x") + QString::number(mask, 16).toUpper();
 }
 
-QString WithoutWeekday(const QString &pattern) {
-    const qsizetype comma = pattern.indexOf(QStringLiteral(", "));
-    return comma < 0 ? pattern : pattern.mid(comma + 2);
-}
-
 CommandLine PrepareStartUp(Session &session, const QString &command_line) {
     session.StartingUp = true;
     MakeFolders(session);
-    FindSettingsFile(session);
+    MigrateSettingsFile(session);
     session.DatabasePath = ReadIniSetting(session, u"Main", u"DatabasePath");
     StartTrace(session);
     ReadAuditSettings(session);
-    ReadLocale(session);
-    ConnectProgress(session);
     if (session.window.EnableDBMenues) {
         session.window.EnableDBMenues(false);
     }
@@ -188,12 +152,9 @@ CommandLine PrepareStartUp(Session &session, const QString &command_line) {
         }
     }
     MakeFolderPath(Below(session.DataFolder, u"Skins"));
-    session.AppVersion =
-        QStringLiteral("%1.%2.%3").arg(OSTRAND_VERSION_MAJOR).arg(OSTRAND_VERSION_MINOR).arg(OSTRAND_VERSION_PATCH);
     session.URLHeadshots = ReadIniSetting(session, u"Main", u"URLHeadshots");
     session.TraceTranslateableStringsToFile = ReadIniSetting(session, u"Settings", u"TraceTranslateableStringsToFile");
     session.ShowFrontCover = true;
-    FillCountryNames(session);
     ReadGridLines(session);
     MakeFolderPath(Below(session.DataFolder, u"Images"));
     WriteIniSetting(session, u"Main", u"Version", session.AppVersion);
@@ -221,7 +182,11 @@ void CloseViewer(Session &session) {
     session.progress.Close();
     if (!session.SettingsPath.isEmpty()) {
         WriteInstallationSettings(session);
-        SaveDatabaseSettings(session);
+        try {
+            SaveDatabaseSettings(session);
+        } catch (const sql::SqlError &error) {
+            Trace(session, QStringLiteral("CloseViewer: ") + error.Text(), kTraceError);
+        }
         session.Database.reset();
     }
     if (session.instance) {

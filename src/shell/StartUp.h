@@ -22,11 +22,8 @@ std::uint32_t ParseTraceMask(const QString &text);
 /// The mask as it is written back.
 QString TraceMaskText(std::uint32_t mask);
 
-/// The long date pattern without the weekday: without everything up to and including the first ", ".
-QString WithoutWeekday(const QString &pattern);
-
-/// Everything before a database is opened: folders, Settings.ini, the trace log, the locale, the version, the tables
-/// that live as long as the program. Returns what the command line asks for; a database is in `DatabaseFile` already.
+/// Everything before a database is opened: folders, Settings.ini, the trace log, the installation's settings. Returns
+/// what the command line asks for; a database is in `DatabaseFile` already.
 CommandLine PrepareStartUp(Session &session, const QString &command_line);
 /// Opens `DatabaseFile`, or runs the command file. False when no database could be opened.
 bool OpenOrRun(Session &session, const CommandLine &command_line);

@@ -54,11 +54,13 @@ TEST(StatementSplitter, CutsAtSemicolonsThatEndALine) {
         {"quote in a backquoted name", "SELECT `it's`;\nSELECT 2;\n", {u"SELECT `it's`"_s, u"SELECT 2"_s}},
         {"semicolon ends in a name", "SELECT [a;]\nFROM t;\n", {u"SELECT [a;]\nFROM t"_s}},
         {"date", "SELECT #1/2/2003#;\nSELECT 2;\n", {u"SELECT #1/2/2003#"_s, u"SELECT 2"_s}},
-        {"marks that close nothing", "SELECT [a;\nSELECT `b;\nSELECT #;\n",
+        {"marks that close nothing",
+         "SELECT [a;\nSELECT `b;\nSELECT #;\n",
          {u"SELECT [a"_s, u"SELECT `b"_s, u"SELECT #"_s}},
         {"bracket in a text", "SELECT '[';\nSELECT 2;\n", {u"SELECT '['"_s, u"SELECT 2"_s}},
         {"a text left open takes the rest", "SELECT 'a;\nSELECT 2;\n", {u"SELECT 'a;\nSELECT 2;"_s}},
-        {"text ending in semicolon at the line's end", "SELECT 'a;'\n;\nSELECT 2;\n",
+        {"text ending in semicolon at the line's end",
+         "SELECT 'a;'\n;\nSELECT 2;\n",
          {u"SELECT 'a;'"_s, u"SELECT 2"_s}},
     };
     for (const Case &c : cases) {
