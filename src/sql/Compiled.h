@@ -45,7 +45,7 @@ struct Compiled {
     Type type = Type::Query;
     QString sql;
     std::vector<ParameterSlot> parameters;
-    std::vector<int> baked; ///< literals whose content stands in `sql`, sorted
+    std::vector<int> baked; ///< literals that no parameter takes: their content shaped `sql`
     std::shared_ptr<const ResultShape> result;
     std::vector<RowUpdate> updates;
     QString into;

@@ -130,7 +130,6 @@ private:
 
     const Catalogue &catalogue_;
     std::vector<ParameterSlot> parameters_;
-    std::vector<int> baked_;
     int next_alias_ = 0;
     bool bake_ = false;
     bool aggregates_allowed_ = false;

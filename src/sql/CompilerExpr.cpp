@@ -112,9 +112,6 @@ Fragment Compiler::EmitLiteral(const ast::Literal &literal) {
     } else if (literal.index >= 0 && !bake_) {
         result.sql = Parameter({literal.index, false, literal.kind, 0});
     } else {
-        if (literal.index >= 0) {
-            baked_.push_back(literal.index);
-        }
         if (literal.kind == Kind::Text) {
             result.sql = QuoteText(literal.text);
         } else if (literal.kind == Kind::Integer) {

@@ -503,9 +503,6 @@ std::shared_ptr<const ResultShape> Compiler::MakeResult(const QueryText &text) {
 
 Compiled Compiler::Finish(Compiled compiled) {
     compiled.parameters = std::move(parameters_);
-    std::sort(baked_.begin(), baked_.end());
-    baked_.erase(std::unique(baked_.begin(), baked_.end()), baked_.end());
-    compiled.baked = std::move(baked_);
     return compiled;
 }
 

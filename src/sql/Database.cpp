@@ -118,7 +118,7 @@ std::shared_ptr<CachedStatement> Database::Impl::PrepareAnew(QStringView sql) {
         return cached;
     }
     cached->statement = connection.Prepare(cached->compiled.sql);
-    cached->baked = BakedTexts(cached->compiled, shape);
+    NoteBakedLiterals(*cached, shape);
     return cached;
 }
 

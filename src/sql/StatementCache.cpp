@@ -2,12 +2,16 @@
 
 namespace ostrand::sql {
 
-std::vector<QString> BakedTexts(const Compiled &compiled, const Shape &shape) {
-    std::vector<QString> texts;
-    for (int literal : compiled.baked) {
-        texts.push_back(shape.literals[size_t(literal)].text);
+void NoteBakedLiterals(CachedStatement &cached, const Shape &shape) {
+    const auto &parameters = cached.compiled.parameters;
+    for (int literal = 0; literal < int(shape.literals.size()); ++literal) {
+        const bool bound = std::any_of(parameters.begin(), parameters.end(),
+                                       [&](const ParameterSlot &slot) { return slot.literal == literal; });
+        if (!bound) {
+            cached.compiled.baked.push_back(literal);
+            cached.baked.push_back(shape.literals[size_t(literal)].text);
+        }
     }
-    return texts;
 }
 
 std::shared_ptr<CachedStatement> StatementCache::Find(const Shape &shape) {

@@ -46,7 +46,8 @@ private:
     qint64 hits_ = 0;
 };
 
-/// The texts of the literals that a compiled statement holds in its SQL.
-std::vector<QString> BakedTexts(const Compiled &compiled, const Shape &shape);
+/// Notes which literals of the shape no parameter of the statement takes, and their texts: another content of theirs
+/// is another statement.
+void NoteBakedLiterals(CachedStatement &cached, const Shape &shape);
 
 } // namespace ostrand::sql
