@@ -48,6 +48,8 @@ struct TableInfo {
     const IndexInfo *PrimaryKey() const;
     /// True for a column that takes no NULL: declared so, or part of the primary key.
     bool TakesNoNull(QStringView column) const;
+    /// A name of SQLite's row number that no column hides; empty where all are hidden.
+    QString RowIdName() const;
 };
 
 /// The tables of one open file. Nothing is kept beside SQLite's own schema: declared types, keys and references are
@@ -63,7 +65,8 @@ public:
 
 private:
     std::vector<TableInfo> tables_;
-    QHash<QString, int> by_name_; // folded name to place
+    std::vector<QString> definitions_; // of each table and its indexes, to see which have changed
+    QHash<QString, int> by_name_;      // folded name to place
     int generation_ = 0;
 };
 

@@ -1,0 +1,1 @@
+ALTER Table T1 ADD PRIMARY KEY (A, B)

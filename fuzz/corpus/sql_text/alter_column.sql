@@ -1,0 +1,1 @@
+ALTER TABLE DbInfo ALTER COLUMN InfoValue memo

@@ -1,0 +1,1 @@
+SELECT * FROM Awards WHERE MovieTitle = 'a' AND (((MovieYear = 1999) OR ((Year BETWEEN 1998 AND 2001) AND (MovieYear IS NULL OR Year = MovieYear)) OR Year = 0))

@@ -1,0 +1,1 @@
+SELECT * FROM Profiles WHERE ProfileID = 'Key_1'AND IsCast = true ORDER BY Position

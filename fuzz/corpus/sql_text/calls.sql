@@ -1,0 +1,1 @@
+SELECT  switch(SortTitle<>'', SortTitle, Title<>'', Title) AS [RealSort] , * FROM Profiles p ORDER BY RIGHT('0000000000'+Iif((ColNo Is Null), '0', ColNo), 10) DESC, 1

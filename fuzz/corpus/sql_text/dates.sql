@@ -1,0 +1,1 @@
+SELECT EventID FROM Events WHERE EventTimeStamp >= #12/1/2009# AND EventTimeStamp < #11/23/2009 8:15:00#

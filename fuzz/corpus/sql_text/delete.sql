@@ -1,0 +1,1 @@
+DELETE DISTINCTROW Reviews.* FROM Reviews INNER JOIN Profiles ON Reviews.ProfileID = Profiles.ProfileID WHERE Profiles.Title = 'x'

@@ -1,0 +1,1 @@
+SELECT * FROM Profiles  WHERE ColType = 'Ordered' ColType = OR 'Wishlist'

@@ -1,0 +1,1 @@
+INSERT INTO Regions (ProfileID, Region) SELECT ChildID, 9 FROM (SELECT * FROM BoxSet) AS x

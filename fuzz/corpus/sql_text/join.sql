@@ -1,0 +1,1 @@
+SELECT p.Title, pi.PurchaseDate FROM (Profiles p LEFT JOIN BoxSet b ON b.ChildID = p.ProfileID) LEFT JOIN PurchaseInfo pi ON pi.ProfileID = p.ProfileID  WHERE b.BoxSetID = 'Key_5' ORDER BY p.SortTitle

@@ -1,0 +1,1 @@
+SELECT Größe, [Straße] FROM Tëst WHERE ÄÖ = 'ß'

@@ -1,0 +1,1 @@
+SELECT c.ProfileID FROM CastCrew c WHERE c.Role NOT LIKE '?Div*' AND NOT c.Name LIKE '[!a-z]#' & "*"

@@ -1,0 +1,1 @@
+SELECT a Imp b Eqv c Xor Not d Or Null And Yes, 1=1 FROM t

@@ -1,0 +1,1 @@
+PARAMETERS [Which one] Text (50), n Long; SELECT Title FROM Profiles WHERE UPC = [Which one]

@@ -1,0 +1,1 @@
+SELECT ProfileID FROM Profiles WHERE Runtime > ALL (SELECT Runtime FROM Profiles) OR EXISTS (SELECT 1) OR 5 = ANY ((SELECT 1))

@@ -1,0 +1,1 @@
+INSERT INTO DbInfo (InfoName, InfoValue, Comment) VALUES ('Owner', 'Ann''s PC', "say ""so""")

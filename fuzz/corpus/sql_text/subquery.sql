@@ -1,0 +1,1 @@
+SELECT DISTINCT Medium FROM Profiles WHERE (ColType = 'Owned' OR ColType = 'WishList') AND ProfileID NOT IN (SELECT ChildID FROM BoxSet b, Profiles p WHERE b.ChildID = p.ProfileID) ORDER BY Medium

@@ -1,0 +1,1 @@
+TRANSFORM COUNT(EventID) SELECT UserID FROM Events GROUP BY UserID ORDER BY UserID PIVOT EventType IN ('Watched', -1, True)

@@ -1,0 +1,1 @@
+(SELECT Name FROM CastCrew c WHERE c.Name = 'x') UNION ALL (SELECT Name FROM TVCastCrew) ORDER BY 1 DESC;

@@ -1,0 +1,1 @@
+UPDATE Profiles INNER JOIN BoxSet ON Profiles.ProfileID = BoxSet.ChildID SET Profiles.Notes = BoxSet.BoxSetID, Runtime = Runtime + 1 WHERE a

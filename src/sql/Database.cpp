@@ -1,0 +1,517 @@
+#include "sql/Database.h"
+
+#include "sql/Compiler.h"
+#include "sql/Conversion.h"
+#include "sql/DatabaseFile.h"
+#include "sql/DatabaseImpl.h"
+#include "sql/Functions.h"
+#include "sql/Parser.h"
+
+#include <sqlite3.h>
+
+namespace ostrand::sql {
+
+namespace {
+
+constexpr int kProgressSteps = 20'000;
+constexpr int kProgressMilliseconds = 30;
+
+Registration RegisterWith(const Environment &environment) {
+    return [&environment](sqlite3 *handle) { RegisterFunctions(handle, environment); };
+}
+
+const ast::QueryPtr *AsQuery(const ast::Statement &statement) {
+    return std::get_if<ast::QueryPtr>(&statement.node);
+}
+
+} // namespace
+
+Database::Impl::Impl(QString file, Environment world) : path(std::move(file)), environment(std::move(world)) {
+    clock.start();
+}
+
+Database::Impl::~Impl() {
+    if (batch) {
+        try {
+            batch->Flush();
+        } catch (const SqlError &) {
+            // The file is sound; what could not be made durable cannot be saved by a destructor either.
+        }
+    }
+    ForgetStatements();
+    batch.reset();
+    ddl.reset();
+    if (connection.Handle()) {
+        CloseFile(std::move(connection));
+    }
+}
+
+void Database::Impl::Attach(Connection opened) {
+    connection = std::move(opened);
+    batch.emplace(connection, [this] { return clock.elapsed(); });
+    ddl.emplace(connection, catalogue);
+    catalogue.Load(connection);
+    schema_version = connection.Single(u"PRAGMA schema_version").Integer();
+}
+
+void Database::Impl::ForgetStatements() {
+    cache.Clear();
+    edits.clear();
+}
+
+void Database::Impl::ReloadIfChanged() {
+    const qint64 version = connection.Single(u"PRAGMA schema_version").Integer();
+    if (version != schema_version) {
+        ForgetStatements();
+        catalogue.Load(connection);
+        schema_version = version;
+    }
+}
+
+int Database::Impl::OnProgress(void *self) {
+    auto &impl = *static_cast<Impl *>(self);
+    if (!impl.progress || impl.progress_timer.elapsed() < kProgressMilliseconds) {
+        return 0;
+    }
+    const bool stop = impl.progress();
+    impl.progress_timer.restart();
+    return stop && impl.interruptible ? 1 : 0;
+}
+
+void Database::Impl::BindLiterals(const Compiled &compiled, Statement &statement) const {
+    for (size_t i = 0; i < compiled.parameters.size(); ++i) {
+        const ParameterSlot &slot = compiled.parameters[i];
+        const LiteralToken &literal = shape.literals[size_t(slot.literal)];
+        Value value;
+        if (literal.kind == Kind::Text) {
+            value = Value(literal.text);
+        } else if (literal.kind == Kind::Integer) {
+            value = Value(qint64(literal.number));
+        } else {
+            value = Value(literal.number);
+        }
+        const bool as_is = !slot.convert || (literal.kind == Kind::Text && slot.kind == Kind::Memo);
+        statement.Bind(int(i),
+                       as_is ? value : ConvertForColumn(value, literal.kind, slot.kind, slot.length, environment));
+    }
+}
+
+std::shared_ptr<CachedStatement> Database::Impl::PrepareAnew(QStringView sql) {
+    const ast::Statement statement = Parse(sql);
+    if (!batch->IsOpen()) {
+        ReloadIfChanged();
+    }
+    Compiler compiler(catalogue);
+    auto cached = std::make_shared<CachedStatement>();
+    if (const ast::QueryPtr *query = AsQuery(statement)) {
+        cached->compiled = compiler.CompileQuery(**query);
+    } else if (const auto *insert = std::get_if<ast::Insert>(&statement.node)) {
+        cached->compiled = compiler.CompileInsert(*insert);
+    } else if (const auto *update = std::get_if<ast::Update>(&statement.node)) {
+        cached->compiled = compiler.CompileUpdate(*update);
+    } else if (const auto *removal = std::get_if<ast::Delete>(&statement.node)) {
+        cached->compiled = compiler.CompileDelete(*removal);
+    } else {
+        return nullptr;
+    }
+    if (cached->compiled.type == Compiled::Type::SelectInto) {
+        return cached;
+    }
+    cached->statement = connection.Prepare(cached->compiled.sql);
+    NoteBakedLiterals(*cached, shape);
+    return cached;
+}
+
+std::shared_ptr<CachedStatement> Database::Impl::Prepare(QStringView sql) {
+    if (!ScanShape(sql, shape)) {
+        Parse(sql); // names the fault
+        throw SqlError(ErrorCode::Syntax, QStringLiteral("The statement cannot be read."));
+    }
+    std::shared_ptr<CachedStatement> cached = cache.Find(shape);
+    if (!cached) {
+        cached = PrepareAnew(sql);
+        if (cached && cached->statement) {
+            cache.Insert(shape, cached);
+        }
+    }
+    if (cached && cached->busy) {
+        // The statement runs already, further down the stack: a handler that its progress let in asks the same.
+        auto twin = std::make_shared<CachedStatement>();
+        twin->compiled = cached->compiled;
+        twin->statement = connection.Prepare(twin->compiled.sql);
+        return twin;
+    }
+    return cached;
+}
+
+namespace {
+
+/// Marks a statement as running, and leaves it ready for the next run.
+class Running {
+public:
+    explicit Running(CachedStatement &cached) : cached_(cached) { cached_.busy = true; }
+    ~Running() {
+        cached_.statement.Reset();
+        cached_.busy = false;
+    }
+    Running(const Running &) = delete;
+    Running &operator=(const Running &) = delete;
+
+private:
+    CachedStatement &cached_;
+};
+
+} // namespace
+
+std::unique_ptr<Recordset::Data> Database::Impl::Collect(const Compiled &compiled, Statement &statement) {
+    auto data = std::make_unique<Recordset::Data>();
+    data->database = this;
+    data->shape = compiled.result;
+    data->columns = int(compiled.result->fields.size());
+    const bool row_ids = !compiled.result->table.isEmpty();
+    while (statement.Step()) {
+        for (int i = 0; i < data->columns; ++i) {
+            data->cells.push_back(statement.Column(i));
+        }
+        if (row_ids) {
+            data->row_ids.push_back(statement.ColumnInteger(data->columns));
+        }
+        ++data->rows;
+    }
+    return data;
+}
+
+std::unique_ptr<Recordset::Data> Database::Impl::ReadRows(CachedStatement &cached) {
+    const Running running(cached);
+    BindLiterals(cached.compiled, cached.statement);
+    const bool outer = interruptible.exchange(true);
+    try {
+        auto data = Collect(cached.compiled, cached.statement);
+        interruptible = outer;
+        return data;
+    } catch (const SqlError &) {
+        interruptible = outer;
+        throw;
+    }
+}
+
+int Database::Impl::Write(const std::function<int()> &change) {
+    const bool may_stop = bool(progress);
+    if (may_stop) {
+        batch->Flush(); // what is interrupted takes its whole transaction with it
+    }
+    batch->BeforeWrite();
+    const bool outer = interruptible.exchange(may_stop);
+    int changes = 0;
+    try {
+        changes = change();
+    } catch (const SqlError &error) {
+        interruptible = outer;
+        batch->OnError(error);
+        throw;
+    }
+    interruptible = outer;
+    batch->AfterWrite();
+    return changes;
+}
+
+int Database::Impl::RunChange(CachedStatement &cached) {
+    return Write([&] {
+        const Running running(cached);
+        BindLiterals(cached.compiled, cached.statement);
+        while (cached.statement.Step()) {
+        }
+        return connection.Changes();
+    });
+}
+
+int Database::Impl::RunJoinUpdate(CachedStatement &cached) {
+    return Write([&] {
+        std::vector<std::vector<Value>> rows;
+        {
+            const Running running(cached);
+            BindLiterals(cached.compiled, cached.statement);
+            const int columns = cached.statement.ColumnCount();
+            while (cached.statement.Step()) {
+                std::vector<Value> &row = rows.emplace_back();
+                for (int i = 0; i < columns; ++i) {
+                    row.push_back(cached.statement.Column(i));
+                }
+            }
+        }
+        int changes = 0;
+        for (const RowUpdate &update : cached.compiled.updates) {
+            Statement statement = connection.Prepare(update.sql);
+            for (const std::vector<Value> &row : rows) {
+                for (int i = 0; i < update.column_count; ++i) {
+                    statement.Bind(i, row[size_t(update.first_column + i)]);
+                }
+                while (statement.Step()) {
+                }
+                changes += connection.Changes();
+                statement.Reset();
+            }
+        }
+        return changes;
+    });
+}
+
+int Database::Impl::RunSelectInto(const Compiled &compiled) {
+    std::vector<ColumnInfo> columns;
+    QStringList values;
+    for (size_t i = 0; i < compiled.result->fields.size(); ++i) {
+        const Field &field = compiled.result->fields[i];
+        ColumnInfo column;
+        column.name = field.label;
+        column.kind = field.kind == Kind::Null || field.kind == Kind::Unknown ? Kind::Text : field.kind;
+        column.length = column.kind == Kind::Text ? 255 : 0;
+        columns.push_back(column);
+        const QString value = QStringLiteral("c%1").arg(i);
+        values.append(column.kind == Kind::Boolean ? QStringLiteral("fn__to_boolean(%1)").arg(value) : value);
+    }
+    return Write([&] {
+        ForgetStatements();
+        ddl->CreateTableFromColumns(compiled.into, columns);
+        schema_version = connection.Single(u"PRAGMA schema_version").Integer();
+        Statement statement = connection.Prepare(QStringLiteral("INSERT INTO %1 SELECT %2 FROM (%3)")
+                                                     .arg(QuoteName(compiled.into), values.join(u','), compiled.sql));
+        BindLiterals(compiled, statement);
+        while (statement.Step()) {
+        }
+        return connection.Changes();
+    });
+}
+
+std::unique_ptr<Recordset::Data> Database::Impl::RunTransform(const ast::Transform &transform) {
+    std::vector<Value> headings;
+    for (const ast::Literal &literal : transform.headings) {
+        headings.push_back(literal.kind == Kind::Text      ? Value(literal.text)
+                           : literal.kind == Kind::Integer ? Value(qint64(literal.number))
+                           : literal.kind == Kind::Null    ? Value()
+                                                           : Value(literal.number));
+    }
+    if (transform.headings.empty()) {
+        const Compiled pivot = Compiler(catalogue).CompilePivotValues(transform);
+        Statement statement = connection.Prepare(pivot.sql);
+        BindLiterals(pivot, statement);
+        auto values = Collect(pivot, statement);
+        headings = std::move(values->cells);
+    }
+    const Compiled compiled = Compiler(catalogue).CompileTransform(transform, headings);
+    Statement statement = connection.Prepare(compiled.sql);
+    BindLiterals(compiled, statement);
+    return Collect(compiled, statement);
+}
+
+void Database::Impl::RunDdl(const ast::Statement &statement) {
+    Write([&] {
+        ForgetStatements();
+        if (const auto *create = std::get_if<ast::CreateTable>(&statement.node)) {
+            ddl->CreateTable(*create);
+        } else if (const auto *index = std::get_if<ast::CreateIndex>(&statement.node)) {
+            ddl->CreateIndex(*index);
+        } else if (const auto *alter = std::get_if<ast::AlterTable>(&statement.node)) {
+            ddl->AlterTable(*alter);
+        } else if (const auto *drop = std::get_if<ast::DropTable>(&statement.node)) {
+            ddl->DropTable(*drop);
+        } else {
+            ddl->DropIndex(std::get<ast::DropIndex>(statement.node));
+        }
+        return 0;
+    });
+    schema_version = connection.Single(u"PRAGMA schema_version").Integer();
+}
+
+int Database::Impl::RunEdit(const QString &sql, const std::vector<Value> &values) {
+    return Write([&] {
+        std::shared_ptr<Statement> &kept = edits[sql];
+        if (!kept) {
+            kept = std::make_shared<Statement>(connection.Prepare(sql));
+        }
+        const std::shared_ptr<Statement> statement = kept;
+        for (size_t i = 0; i < values.size(); ++i) {
+            statement->Bind(int(i), values[i]);
+        }
+        try {
+            while (statement->Step()) {
+            }
+        } catch (const SqlError &) {
+            statement->Reset();
+            throw;
+        }
+        const int changes = connection.Changes();
+        statement->Reset();
+        return changes;
+    });
+}
+
+Database::Database(std::unique_ptr<Impl> impl) : impl_(std::move(impl)) {}
+Database::~Database() = default;
+
+std::unique_ptr<Database> Database::Create(const QString &path, Environment environment) {
+    auto impl = std::make_unique<Impl>(path, std::move(environment));
+    Connection connection = CreateFile(path, RegisterWith(impl->environment));
+    impl->lock = std::make_unique<LockFile>(path);
+    impl->Attach(std::move(connection));
+    return std::unique_ptr<Database>(new Database(std::move(impl)));
+}
+
+std::unique_ptr<Database> Database::Open(const QString &path, Environment environment) {
+    auto impl = std::make_unique<Impl>(path, std::move(environment));
+    Connection connection = OpenFile(path, RegisterWith(impl->environment));
+    impl->lock = std::make_unique<LockFile>(path);
+    impl->Attach(std::move(connection));
+    return std::unique_ptr<Database>(new Database(std::move(impl)));
+}
+
+void Database::Compact(const QString &source, const QString &target) {
+    const Environment environment;
+    CompactFile(source, target, RegisterWith(environment));
+}
+
+const QString &Database::Path() const {
+    return impl_->path;
+}
+const Environment &Database::GetEnvironment() const {
+    return impl_->environment;
+}
+
+Recordset Database::OpenRecordset(QStringView sql) {
+    const std::shared_ptr<CachedStatement> cached = impl_->Prepare(sql);
+    if (!cached) {
+        const ast::Statement statement = Parse(sql);
+        if (const auto *transform = std::get_if<ast::Transform>(&statement.node)) {
+            return Recordset(impl_->RunTransform(*transform));
+        }
+    } else if (cached->compiled.type == Compiled::Type::Query) {
+        return Recordset(impl_->ReadRows(*cached));
+    }
+    Execute(sql);
+    auto data = std::make_unique<Recordset::Data>();
+    data->database = impl_.get();
+    data->shape = std::make_shared<ResultShape>();
+    return Recordset(std::move(data));
+}
+
+int Database::Execute(QStringView sql) {
+    const std::shared_ptr<CachedStatement> cached = impl_->Prepare(sql);
+    if (!cached) {
+        const ast::Statement statement = Parse(sql);
+        if (const auto *transform = std::get_if<ast::Transform>(&statement.node)) {
+            impl_->RunTransform(*transform);
+        } else {
+            impl_->RunDdl(statement);
+        }
+        return 0;
+    }
+    switch (cached->compiled.type) {
+    case Compiled::Type::Query:
+        impl_->ReadRows(*cached);
+        return 0;
+    case Compiled::Type::Change:
+        return impl_->RunChange(*cached);
+    case Compiled::Type::JoinUpdate:
+        return impl_->RunJoinUpdate(*cached);
+    case Compiled::Type::SelectInto:
+        return impl_->RunSelectInto(cached->compiled);
+    }
+    return 0;
+}
+
+bool Database::GivesRows(QStringView sql) {
+    const ast::Statement statement = Parse(sql);
+    if (const ast::QueryPtr *query = AsQuery(statement)) {
+        const auto *select = std::get_if<std::unique_ptr<ast::Select>>(&(*query)->terms.front().node);
+        return !select || (*select)->into.isEmpty();
+    }
+    return std::holds_alternative<ast::Transform>(statement.node);
+}
+
+const Catalogue &Database::GetCatalogue() {
+    return impl_->catalogue;
+}
+
+int Database::RecordCount(QStringView table) {
+    const TableInfo *info = FindTable(table);
+    if (!info) {
+        throw SqlError(ErrorCode::UnknownTable, QStringLiteral("There is no table '%1'.").arg(table));
+    }
+    return int(impl_->connection.Single(QStringLiteral("SELECT count(*) FROM ") + QuoteName(info->name)).Integer());
+}
+
+void Database::RenameColumn(QStringView table, QStringView column, QStringView new_name) {
+    impl_->Write([&] {
+        impl_->ForgetStatements();
+        impl_->ddl->RenameColumn(table, column, new_name);
+        return 0;
+    });
+}
+
+void Database::DropColumn(QStringView table, QStringView column) {
+    impl_->Write([&] {
+        impl_->ForgetStatements();
+        impl_->ddl->DropColumn(table, column);
+        return 0;
+    });
+}
+
+void Database::DropIndex(QStringView table, QStringView index) {
+    impl_->Write([&] {
+        impl_->ForgetStatements();
+        impl_->ddl->DropIndex({index.toString(), table.toString()});
+        return 0;
+    });
+}
+
+void Database::Flush() {
+    impl_->batch->Flush();
+}
+void Database::FlushIfDue() {
+    impl_->batch->FlushIfDue();
+}
+
+void Database::Interrupt() {
+    if (impl_->interruptible) {
+        sqlite3_interrupt(impl_->connection.Handle());
+    }
+}
+
+void Database::SetProgress(std::function<bool()> progress) {
+    impl_->progress = std::move(progress);
+    impl_->progress_timer.start();
+    sqlite3_progress_handler(impl_->connection.Handle(), impl_->progress ? kProgressSteps : 0, &Impl::OnProgress,
+                             impl_.get());
+}
+
+Database::Bracket::Bracket(Database &database) : database_(database) {
+    database_.impl_->batch->Enter();
+}
+void Database::Bracket::Abandon() {
+    Impl &impl = *database_.impl_;
+    impl.ForgetStatements();
+    impl.batch->Abandon();
+    impl.catalogue.Load(impl.connection);
+    impl.schema_version = impl.connection.Single(u"PRAGMA schema_version").Integer();
+}
+Database::Bracket::~Bracket() {
+    database_.impl_->batch->Leave();
+}
+
+Database::CacheCounts Database::GetCacheCounts() const {
+    return {impl_->cache.Lookups(), impl_->cache.Hits()};
+}
+
+QStringList Database::QueryPlan(QStringView sql) {
+    QStringList plan;
+    const std::shared_ptr<CachedStatement> cached = impl_->Prepare(sql);
+    if (!cached) {
+        return plan;
+    }
+    Statement statement = impl_->connection.Prepare(QStringLiteral("EXPLAIN QUERY PLAN ") + cached->compiled.sql);
+    while (statement.Step()) {
+        plan.append(statement.ColumnText(3));
+    }
+    return plan;
+}
+
+} // namespace ostrand::sql

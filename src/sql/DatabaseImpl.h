@@ -1,0 +1,79 @@
+// The inside of an open database, shared by Database and its result sets.
+#pragma once
+
+#include "sql/Batch.h"
+#include "sql/Database.h"
+#include "sql/Ddl.h"
+#include "sql/LockFile.h"
+#include "sql/StatementCache.h"
+
+#include <QElapsedTimer>
+
+#include <atomic>
+
+namespace ostrand::sql {
+
+struct Database::Impl {
+    Impl(QString file, Environment world);
+    ~Impl();
+    Impl(const Impl &) = delete;
+    Impl &operator=(const Impl &) = delete;
+
+    /// Takes over an open handle and reads its schema.
+    void Attach(Connection opened);
+
+    /// The prepared form of a query or change, from the cache or made anew. `shape` holds its literals afterwards.
+    std::shared_ptr<CachedStatement> Prepare(QStringView sql);
+    std::shared_ptr<CachedStatement> PrepareAnew(QStringView sql);
+
+    std::unique_ptr<Recordset::Data> ReadRows(CachedStatement &cached);
+    int RunChange(CachedStatement &cached);
+    int RunJoinUpdate(CachedStatement &cached);
+    int RunSelectInto(const Compiled &compiled);
+    std::unique_ptr<Recordset::Data> RunTransform(const ast::Transform &transform);
+    void RunDdl(const ast::Statement &statement);
+
+    void BindLiterals(const Compiled &compiled, Statement &statement) const;
+    std::unique_ptr<Recordset::Data> Collect(const Compiled &compiled, Statement &statement);
+
+    /// Runs `change` as one write: opens a batch before it, counts it, notices a lost batch.
+    int Write(const std::function<int()> &change);
+    /// Runs SQLite text with values, prepared once and kept until the schema changes. Not OR IGNORE: throws.
+    int RunEdit(const QString &sql, const std::vector<Value> &values);
+
+    void ReloadIfChanged();
+    void ForgetStatements();
+    static int OnProgress(void *self);
+
+    QString path;
+    Environment environment;
+    std::unique_ptr<LockFile> lock;
+    Connection connection;
+    Catalogue catalogue;
+    std::optional<Batch> batch;
+    std::optional<Ddl> ddl;
+    StatementCache cache;
+    QHash<QString, std::shared_ptr<Statement>> edits;
+    Shape shape;
+    qint64 schema_version = -1;
+    std::function<bool()> progress;
+    QElapsedTimer progress_timer;
+    std::atomic<bool> interruptible = false;
+    QElapsedTimer clock;
+};
+
+struct Recordset::Data {
+    enum class Editing { None, New, Current };
+
+    Database::Impl *database = nullptr;
+    std::shared_ptr<const ResultShape> shape;
+    std::vector<Value> cells;
+    std::vector<qint64> row_ids;
+    int columns = 0;
+    int rows = 0;
+    int current = 0;
+    Editing editing = Editing::None;
+    std::vector<std::optional<Value>> pending;
+};
+
+} // namespace ostrand::sql
