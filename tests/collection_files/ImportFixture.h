@@ -12,6 +12,7 @@ class ImportTest : public CollectionTest {
 protected:
     void SetUp() override {
         Create();
+        QDir().mkpath(session.DataFolder);
         session.Profiler3 = true;
         services.random.numbers = {0.1, 0.2, 0.3, 0.4, 0.5, 0.6, 0.7, 0.8, 0.9};
         // The reminder of the cover path comes with the first file and is tested on its own.

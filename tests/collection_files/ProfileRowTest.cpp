@@ -26,7 +26,7 @@ constexpr auto kColumns =
 
 TEST_F(ProfileRow, EachElementHasItsColumn) {
     EXPECT_TRUE(ImportOne(kWhole));
-    EXPECT_EQ(Fields(QString(kColumns)), u"One|DVD|Uno|12|One S|Edition|WishList|012345-678901|PG|Film|Mild|1999|"
+    EXPECT_EQ(Fields(QString::fromUtf16(kColumns)), u"One|DVD|Uno|12|One S|Edition|WishList|012345-678901|PG|Film|Mild|1999|"
                                          "2001-02-03|95|Keep Case, Slip Cover|e\r\nf|3|United States|DVDProfiler|"
                                          "Norway|2"_s);
     EXPECT_EQ(Fields(u"ProfileTimestamp, LastEdited"_s), u"2012-05-09 18:10:47|2012-06-06 15:05:33"_s);
@@ -39,7 +39,7 @@ TEST_F(ProfileRow, EachElementHasItsColumn) {
 
 TEST_F(ProfileRow, MissingElementsGiveTheirDefaults) {
     EXPECT_TRUE(ImportOne(""));
-    EXPECT_EQ(Fields(QString(kColumns)), u"|DVD||||||||||0|1899-12-30|0||||United States|DVDProfiler||1"_s);
+    EXPECT_EQ(Fields(QString::fromUtf16(kColumns)), u"|DVD||||||||||0|1899-12-30|0||||United States|DVDProfiler||1"_s);
     EXPECT_EQ(Fields(u"ProfileTimestamp, LastEdited"_s), u"1899-12-30|1899-12-30"_s);
     EXPECT_EQ(
         Rows(u"SELECT WishListPriority FROM Profiles WHERE ProfileID = 'Key_1' AND WishListPriority Is Null").size(),

@@ -68,7 +68,7 @@ TEST_F(ProfilerImport, InvalidFilesAreToldAndChangeNothing) {
         QString text;
     };
     const Case cases[] = {
-        {"not XML", u"Invalid collection file!\nnot well-formed (invalid token)\nnot XML\nLine 1"_s},
+        {"not XML", u"Invalid collection file!\nsyntax error\nnot XML\nLine 1"_s},
         {"<Collection>\r\n<DVD><ID>1</ID></DVD>\r\n<DVD>",
          u"Invalid collection file!\nno element found\n<DVD>\nLine 3"_s},
         {"<Aliases>\n</Aliases>", u"Invalid collection file!\nthe root element is \"Aliases\"\n<Aliases>\nLine 1"_s},

@@ -138,7 +138,7 @@ TEST_F(Sections, AudioFormats) {
 
 TEST_F(Sections, SuggestedPrices) {
     const QString all = u"SELECT SRPValue, CurrencyID FROM SRPInfo"_s;
-    EXPECT_EQ(After("<SRP DenominationType='USD' DenominationDesc='US Dollar' FormattedValue='$1,021.99'>x</SRP>", all),
+    EXPECT_EQ(After("<SRP DenominationType='USD' DenominationDesc='US Dollar' FormattedValue='$1021.99'>x</SRP>", all),
               QStringList{u"1021.99|USD"_s});
     EXPECT_EQ(Rows(u"SELECT CurrencyID, CurrencyName, CurrencySymbol FROM Currencies"),
               QStringList{u"USD|US Dollar|$"_s});

@@ -49,7 +49,7 @@ TEST_F(Scanner, FindsTheElementsOfTheRootOnly) {
     auto document = scanner.Read(two);
     ASSERT_TRUE(document);
     EXPECT_EQ(XmlChildText(document->document_element(), "ID"), u"2"_s);
-    EXPECT_EQ(XmlNodeText(document->document_element()), u"</DVD>23"_s);
+    EXPECT_EQ(XmlNodeText(document->document_element()), u"\n</DVD>23"_s);
     document = scanner.Read(one);
     ASSERT_TRUE(document);
     EXPECT_EQ(XmlAttribute(document->document_element(), "a"), u">"_s);
@@ -152,7 +152,7 @@ TEST_F(Scanner, FaultsAreTold) {
     };
     const Case cases[] = {
         {"", "no element found", 1},
-        {"not XML\n", "not well-formed", 1},
+        {"not XML\n", "syntax error", 1},
         {"<Collection>\n<DVD></Collection>", "mismatched tag", 2},
         {"<Collection>\n<DVD>", "no element found", 2},
         {"<Collection/>\n<x/>", "junk after document element", 2},
@@ -187,7 +187,7 @@ TEST_F(Scanner, TruncatedAnywhereIsAFault) {
 }
 
 TEST_F(Scanner, TheCallerCanStop) {
-    const QByteArray content = Wrapped(QByteArray("<DVD><ID>1</ID></DVD>").repeated(2000000));
+    const QByteArray content = Wrapped(QByteArray("<DVD>" + QByteArray(1000, 'x') + "</DVD>").repeated(50000));
     ElementScanner scanner(Write(content), Query());
     int calls = 0;
     const XmlResult result = scanner.Scan([&] { return ++calls < 2; });
