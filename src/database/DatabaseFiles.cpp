@@ -118,6 +118,7 @@ bool Prepare(Session &session) {
     case Standing::Present:
         return true;
     case Standing::Newer:
+        session.DatabaseTooNew = true;
         Say(session, MessageIcon::Critical,
             Translate(session, u"Database version too high!"_s) + "\r\n"_L1 +
                 Translate(session, u"Please update the program with the latest version."_s));
@@ -175,6 +176,7 @@ void OpenFile(Session &session, const QString &path) {
     }
     auto opened = sql::Database::Open(path, DatabaseEnvironment(session));
     session.Database = std::move(opened);
+    session.DatabaseTooNew = false;
 }
 
 [[noreturn]] void RaiseCopyFault(const QString &path) {
@@ -292,6 +294,7 @@ void CreateCollectionDatabase(Session &session, const QString &path) {
     FlushOpenDatabase(session);
     auto created = sql::Database::Create(path, DatabaseEnvironment(session));
     session.Database = std::move(created);
+    session.DatabaseTooNew = false;
     try {
         {
             const sql::Database::Bracket bracket(*session.Database);
