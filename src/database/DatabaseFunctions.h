@@ -1,6 +1,8 @@
 // The access layer of the collection database: create, open, compact, settings, quoting.
 #pragma once
 
+#include "sql/Types.h"
+
 #include <QString>
 
 namespace ostrand {
@@ -25,15 +27,24 @@ void WriteAdditionalInfo(Session &session, const QString &id, const QString &nam
 QString ReadMetaInfo(Session &session, const QString &id, const QString &name, const QString &preset);
 void WriteMetaInfo(Session &session, const QString &id, const QString &name, const QString &value);
 
+/// The locale, clock and random numbers that statements of this session run with.
+sql::Environment DatabaseEnvironment(Session &session);
+
+/// Makes an empty collection and leaves it open; throws SqlError, and leaves no file then.
 void CreateCollectionDatabase(Session &session, const QString &path);
 void CreateProfileTables(Session &session);
 void CreateIndexes(Session &session);
 /// A matter of display in table browsers; nothing to do on this engine.
 void MarkYesNoColumns(Session &session);
+/// Makes a collection, opens it and writes its first settings. Faults are shown, and false returned.
 bool NewCollectionDatabase(Session &session, const QString &path);
+/// Opens a database, brings it to the present schema and takes its settings over. Faults are shown, and false
+/// returned; look at `Session::EndProgram` then.
 bool OpenCollectionDatabase(Session &session, const QString &path);
-/// Says so and returns true when another process holds the file.
+/// Says so and returns true when the file is open in another process that still runs, or in this one.
 bool IsDatabaseBusy(Session &session, const QString &path);
+/// Rewrites a closed database compactly; at every moment a whole file stands at `path`. Faults are shown, and false
+/// returned.
 bool CompactCollectionDatabase(Session &session, const QString &path);
 
 } // namespace ostrand

@@ -68,6 +68,8 @@ class EventPump {
 public:
     virtual ~EventPump() = default;
     virtual void Turn() = 0;
+    /// True when the system asked the program to end; who waits for another program ends it then.
+    virtual bool Stopping() const { return false; }
 };
 
 class Clock {

@@ -21,9 +21,13 @@ public:
     std::function<bool()> read_auto_close;
     std::function<void(bool)> write_auto_close;
 
-    /// Loads the window: resets `ProgressCancelled`, empties line, detail, counter, bar and tree.
+    /// Loads the window: resets `ProgressCancelled`, empties line, detail, counter, bar and tree. The title is shown
+    /// as it comes, as all other texts are.
     void Load(const QString &title);
-    bool IsLoaded() const { return loaded_; }
+    /// True while a job has the window; a window that only stays open to be read is free for the next job.
+    bool IsLoaded() const { return loaded_ && !finished_; }
+    /// True while the window is open.
+    bool IsShown() const { return loaded_; }
     void SetTitle(const QString &title);
     /// labelProgress
     void SetLine(const QString &line);
@@ -53,10 +57,13 @@ public:
 
 private:
     QString AddNode(const QString &text, const QString &key, const QString &parent);
+    void Tick(const QString &key);
+    QString Translated(const QString &text) const;
 
     ProgressView &view_;
     EventPump &pump_;
     bool loaded_ = false;
+    bool finished_ = false;
     bool cancelled_ = true;
     bool details_ = false;
     bool close_when_finished_ = false;

@@ -16,6 +16,25 @@
 
 namespace ostrand {
 
+class InstanceMarker;
+
+/// What Settings.ini tells of the audit trail.
+struct AuditSettings {
+    QString SVNExePath; ///< in double quotes when there is one
+    bool SVNAuditEnabled = false;
+    QString SVNAuditPath;
+    QString SVNTortProcExePath; ///< empty while the trail is off
+    /// mShowAuditTrail and mSVNAuditTrailDatabase are shown.
+    bool menus_shown = false;
+};
+
+/// How far the running command files are.
+struct CommandFileState {
+    /// The files nest too deep: all of them end.
+    bool abandoned = false;
+    int depth = 0;
+};
+
 /// The members keep the names by which the whole program knows its state. Paths carry no trailing separator except
 /// the cover and headshot folders, which always do.
 struct Session {
@@ -30,6 +49,8 @@ struct Session {
 
     /// Null until a database is open.
     std::unique_ptr<sql::Database> Database;
+    /// The open database comes from a newer program, and this one keeps its settings out of it.
+    bool DatabaseTooNew = false;
     QString DatabaseFile;
     QString DatabaseName;
 
@@ -56,6 +77,19 @@ struct Session {
     bool Profiler3 = false;
     QMap<int, QString> CountryNames;
     CrewRoleMaps CrewRoles;
+    /// The user chose to end the program inside a routine. Whoever called it ends the program, without asking or
+    /// showing anything more.
+    bool EndProgram = false;
+
+    /// Folder offered for databases.
+    QString DatabasePath;
+    QString URLHeadshots;
+    QString URLIMDb;
+    QString TraceTranslateableStringsToFile;
+    AuditSettings audit;
+    CommandFileState commands;
+    /// Keeps the temp folder while this program runs.
+    std::shared_ptr<InstanceMarker> instance;
 
     /// What the main window does when data changed under it; set by the window, empty without one.
     struct WindowHooks {

@@ -85,6 +85,16 @@ void Batch::OnError(const SqlError &error) {
     }
 }
 
+void Batch::Abandon() {
+    if (open_ && !IsLost()) {
+        connection_.Execute(u"ROLLBACK");
+    }
+    open_ = false;
+    if (depth_ > 0) {
+        broken_ = SqlError(ErrorCode::Interrupted, QStringLiteral("What was begun has been taken back."));
+    }
+}
+
 void Batch::Leave() noexcept {
     if (--depth_ == 0) {
         broken_.reset();

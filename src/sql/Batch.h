@@ -32,6 +32,9 @@ public:
     /// To be called with the fault of a statement that failed, which the caller throws on.
     void OnError(const SqlError &error);
 
+    /// Takes back all that is not durable yet. In a bracket further writes throw until it is left.
+    void Abandon();
+
     /// Brackets nest. Leaving makes nothing durable by itself, and never throws.
     void Enter() noexcept { ++depth_; }
     void Leave() noexcept;

@@ -486,6 +486,13 @@ void Database::SetProgress(std::function<bool()> progress) {
 Database::Bracket::Bracket(Database &database) : database_(database) {
     database_.impl_->batch->Enter();
 }
+void Database::Bracket::Abandon() {
+    Impl &impl = *database_.impl_;
+    impl.ForgetStatements();
+    impl.batch->Abandon();
+    impl.catalogue.Load(impl.connection);
+    impl.schema_version = impl.connection.Single(u"PRAGMA schema_version").Integer();
+}
 Database::Bracket::~Bracket() {
     database_.impl_->batch->Leave();
 }

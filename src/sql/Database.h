@@ -61,6 +61,9 @@ public:
     public:
         explicit Bracket(Database &database);
         ~Bracket();
+        /// Takes back all that is not durable, and thus, when `Flush` came just before the outermost bracket, all that
+        /// was done in it. Further writes throw until that is left.
+        void Abandon();
         Bracket(const Bracket &) = delete;
         Bracket &operator=(const Bracket &) = delete;
 

@@ -31,7 +31,7 @@ protected:
 
     /// Rows that another reader of the file sees.
     qint64 Durable() {
-        const Connection other = OpenFile(PathOf(u"own.mdb"_s), RegisterStandIns);
+        const Connection other = OpenFile(PathOf(u"own.mdb"_s), RegisterTestFunctions);
         return other.Single(u"SELECT COUNT(*) FROM T").Integer();
     }
     qint64 Seen() { return connection_.Single(u"SELECT COUNT(*) FROM T").Integer(); }
@@ -191,7 +191,7 @@ TEST_F(BatchTest, HalfABracketNeverReachesTheFile) {
 }
 
 TEST_F(BatchTest, AnotherWriterIsToldInWords) {
-    Connection other = OpenFile(PathOf(u"own.mdb"_s), RegisterStandIns);
+    Connection other = OpenFile(PathOf(u"own.mdb"_s), RegisterTestFunctions);
     other.Execute(u"BEGIN IMMEDIATE");
     sqlite3_busy_timeout(connection_.Handle(), 20);
     EXPECT_EQ(Insert(1), int(ErrorCode::CannotLock));
@@ -205,7 +205,7 @@ TEST_F(BatchTest, AProcessThatDiesLeavesBracketsWhollyOrNotAtAll) {
     const QString path = PathOf(u"own.mdb"_s);
     {
         WaitingChild child([&] {
-            auto *connection = new Connection(OpenFile(path, RegisterStandIns));
+            auto *connection = new Connection(OpenFile(path, RegisterTestFunctions));
             auto *batch = new Batch(*connection, [] { return qint64(0); });
             auto insert = [&](const QString &key) {
                 batch->BeforeWrite();

@@ -1,5 +1,5 @@
 #include "ForkedChild.h"
-#include "StandIns.h"
+#include "TestFunctions.h"
 
 #include "sql/Collation.h"
 #include "sql/DatabaseFile.h"
@@ -34,7 +34,7 @@ void Write(const QString &path, const QByteArray &bytes) {
 /// The number of the fault of opening, 0 when it opens.
 int FaultOfOpening(const QString &path) {
     try {
-        CloseFile(OpenFile(path, RegisterStandIns));
+        CloseFile(OpenFile(path, RegisterTestFunctions));
     } catch (const SqlError &error) {
         return error.Number();
     }
@@ -48,7 +48,7 @@ protected:
 
     /// A database with `rows` rows in table T.
     void Make(const QString &path, int rows = 500) {
-        Connection connection = CreateFile(path, RegisterStandIns);
+        Connection connection = CreateFile(path, RegisterTestFunctions);
         connection.Execute(u"CREATE TABLE T (A TEXT COLLATE dialect, B INT); CREATE UNIQUE INDEX i ON T (A)");
         Statement insert = connection.Prepare(u"INSERT INTO T VALUES (?, 7)");
         connection.Execute(u"BEGIN");
@@ -63,7 +63,7 @@ protected:
     }
 
     qint64 RowsOf(const QString &path) {
-        Connection connection = OpenFile(path, RegisterStandIns);
+        Connection connection = OpenFile(path, RegisterTestFunctions);
         const qint64 rows = connection.Single(u"SELECT COUNT(*) FROM T").Integer();
         CloseFile(std::move(connection));
         return rows;
@@ -82,7 +82,7 @@ TEST_F(DatabaseFileTest, OneFileStaysAfterClosing) {
 
 TEST_F(DatabaseFileTest, OpensWithTheSettingsOfTheEngine) {
     Make(path_);
-    const Connection connection = OpenFile(path_, RegisterStandIns);
+    const Connection connection = OpenFile(path_, RegisterTestFunctions);
     const std::pair<QString, Value> settings[] = {
         {u"journal_mode"_s, Value(u"wal"_s)},
         {u"synchronous"_s, Value(1)},
@@ -117,7 +117,7 @@ TEST_F(DatabaseFileTest, AFileIsNeverMadeOverAnother) {
     const QStringList before = Files();
     for (const Row &row : rows) {
         try {
-            CreateFile(PathOf(row.name), RegisterStandIns);
+            CreateFile(PathOf(row.name), RegisterTestFunctions);
             ADD_FAILURE() << row.name.toStdString();
         } catch (const SqlError &error) {
             EXPECT_EQ(error.Code(), row.code) << error.what();
@@ -167,6 +167,22 @@ TEST_F(DatabaseFileTest, FilesThatFailACheckStayAsTheyAre) {
     }
 }
 
+TEST_F(DatabaseFileTest, AnotherProgramsFileWithItsLogStaysAsItIs) {
+    const QString copy = PathOf(u"copy.mdb"_s);
+    {
+        Connection connection = CreateFile(path_, RegisterTestFunctions);
+        connection.Execute(u"PRAGMA application_id = 7; PRAGMA wal_checkpoint; CREATE TABLE T (A TEXT)");
+        ASSERT_TRUE(QFile::copy(path_, copy));
+        ASSERT_TRUE(QFile::copy(path_ + u"-wal"_s, copy + u"-wal"_s));
+    }
+    const QByteArray file = Read(copy);
+    const QByteArray log = Read(copy + u"-wal"_s);
+    ASSERT_FALSE(log.isEmpty());
+    EXPECT_EQ(FaultOfOpening(copy), int(ErrorCode::NotADatabase));
+    EXPECT_EQ(Read(copy), file);
+    EXPECT_EQ(Read(copy + u"-wal"_s), log);
+}
+
 TEST_F(DatabaseFileTest, MissingFilesAndFoldersDoNotOpen) {
     EXPECT_EQ(FaultOfOpening(path_), int(ErrorCode::CannotOpenDatabase));
     EXPECT_EQ(FaultOfOpening(directory_.path()), int(ErrorCode::CannotOpenDatabase));
@@ -176,7 +192,7 @@ TEST_F(DatabaseFileTest, MissingFilesAndFoldersDoNotOpen) {
 TEST_F(DatabaseFileTest, ALogBesideTheFileIsReadBack) {
     const QString copy = PathOf(u"copy.mdb"_s);
     {
-        Connection connection = CreateFile(path_, RegisterStandIns);
+        Connection connection = CreateFile(path_, RegisterTestFunctions);
         connection.Execute(u"CREATE TABLE T (A TEXT)");
         connection.Execute(u"INSERT INTO T SELECT 'row' FROM (WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 "
                            "FROM n WHERE i < 3000) SELECT i FROM n)");
@@ -191,15 +207,18 @@ TEST_F(DatabaseFileTest, ALogBesideTheFileIsReadBack) {
 TEST_F(DatabaseFileTest, IndexesFollowTheOrderOfTexts) {
     Make(path_, 3);
     {
-        Connection connection = OpenFile(path_, RegisterStandIns);
+        Connection connection = OpenFile(path_, RegisterTestFunctions);
         connection.Execute(u"PRAGMA user_version = 99");
         CloseFile(std::move(connection));
     }
     auto register_backwards = [](sqlite3 *handle) {
         sqlite3_create_collation_v2(
             handle, "dialect", SQLITE_UTF8, nullptr,
-            [](void *data, int left_size, const void *left, int right_size, const void *right) {
-                return CompareWithoutCase(data, right_size, right, left_size, left);
+            [](void *, int left_size, const void *left, int right_size, const void *right) {
+                const auto view = [](const void *text, int size) {
+                    return std::string_view(static_cast<const char *>(text), size_t(size));
+                };
+                return CompareUtf8(view(right, right_size), view(left, left_size));
             },
             nullptr);
     };
@@ -213,7 +232,7 @@ TEST_F(DatabaseFileTest, IndexesFollowTheOrderOfTexts) {
 TEST_F(DatabaseFileTest, TextsThatBecomeOneKeyStopTheOpeningAndChangeNothing) {
     Make(path_, 3);
     {
-        Connection connection = OpenFile(path_, RegisterStandIns);
+        Connection connection = OpenFile(path_, RegisterTestFunctions);
         connection.Execute(u"PRAGMA user_version = 99");
         CloseFile(std::move(connection));
     }
@@ -237,12 +256,12 @@ TEST_F(DatabaseFileTest, CompactingDropsWhatIsUnused) {
     const QString target = PathOf(u"small.mdb"_s);
     Make(path_, 20000);
     {
-        Connection connection = OpenFile(path_, RegisterStandIns);
+        Connection connection = OpenFile(path_, RegisterTestFunctions);
         connection.Execute(u"DELETE FROM T WHERE rowid > 10");
         CloseFile(std::move(connection));
     }
     const QByteArray before = Read(path_);
-    CompactFile(path_, target, RegisterStandIns);
+    CompactFile(path_, target, RegisterTestFunctions);
     EXPECT_EQ(Read(path_), before);
     EXPECT_LT(QFileInfo(target).size(), before.size() / 4);
     EXPECT_EQ(Files(), (QStringList{u"own.mdb"_s, u"small.mdb"_s}));
@@ -255,7 +274,7 @@ TEST_F(DatabaseFileTest, CompactingTakesNoTargetThatExistsAndNoBadSource) {
     Write(target, "mine");
     auto fault = [&](const QString &source, const QString &to) {
         try {
-            CompactFile(source, to, RegisterStandIns);
+            CompactFile(source, to, RegisterTestFunctions);
         } catch (const SqlError &error) {
             return error.Code();
         }
@@ -286,7 +305,7 @@ TEST_F(DatabaseFileTest, ReadOnlyFilesAndFoldersAreTold) {
     EXPECT_EQ(AsNobody([&] { return FaultOfOpening(inner) == int(ErrorCode::ReadOnly) ? 0 : 1; }), 0);
     EXPECT_EQ(AsNobody([&] {
                   try {
-                      CreateFile(PathOf(u"closed/new.mdb"_s), RegisterStandIns);
+                      CreateFile(PathOf(u"closed/new.mdb"_s), RegisterTestFunctions);
                   } catch (const SqlError &error) {
                       return error.Code() == ErrorCode::ReadOnly ? 0 : 1;
                   }

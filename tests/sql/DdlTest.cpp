@@ -243,7 +243,7 @@ TEST_F(DdlTest, ChangedColumnsConvertTheirValues) {
         {u"integer"_s, u"varchar"_s, u"42"_s, u"text|42"_s},
         {u"integer"_s, u"varchar(1)"_s, u"42"_s, u"text|4"_s},
         {u"integer"_s, u"memo"_s, u"NULL"_s, u"null|-"_s},
-        {u"yesno"_s, u"varchar"_s, u"-1"_s, u"text|True"_s},
+        {u"yesno"_s, u"varchar"_s, u"-1"_s, u"text|-1"_s},
         {u"date"_s, u"integer"_s, u"40140.75"_s, u"integer|40141"_s},
         {u"varchar"_s, u"date"_s, u"'2.5'"_s, u"real|2.5"_s},
         {u"integer"_s, u"double"_s, u"3"_s, u"real|3.0"_s},

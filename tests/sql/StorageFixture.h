@@ -1,7 +1,7 @@
 // A fresh database file with its catalogue, changed by trees that are put together by hand.
 #pragma once
 
-#include "StandIns.h"
+#include "TestFunctions.h"
 
 #include "sql/Catalogue.h"
 #include "sql/DatabaseFile.h"
@@ -106,7 +106,7 @@ protected:
     void Run(const QString &sql) { connection_.Execute(sql); }
 
     QTemporaryDir directory_;
-    Connection connection_ = CreateFile(PathOf(QStringLiteral("own.mdb")), RegisterStandIns);
+    Connection connection_ = CreateFile(PathOf(QStringLiteral("own.mdb")), RegisterTestFunctions);
     Catalogue catalogue_;
     Ddl ddl_{connection_, catalogue_};
 };

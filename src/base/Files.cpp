@@ -1,0 +1,55 @@
+#include "base/Files.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSaveFile>
+
+namespace ostrand {
+
+bool ReplaceFile(const QString &path, const QByteArray &content, QString *error) {
+    QSaveFile file(path);
+    const bool written =
+        file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit(); // commit syncs
+    if (!written && error != nullptr)
+        *error = file.errorString();
+    return written;
+}
+
+std::optional<QByteArray> ReadFile(const QString &path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return std::nullopt;
+    QByteArray content = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        return std::nullopt;
+    return content;
+}
+
+bool MakeFolderPath(const QString &path) {
+    return !path.isEmpty() && QDir().mkpath(path);
+}
+
+QString FindIgnoringCase(const QString &folder, const QString &name) {
+    const bool is_path = name.contains(u'/') || name.contains(QDir::separator()) || name.contains(QChar(u'\0'));
+    if (folder.isEmpty() || name.isEmpty() || is_path || name == QStringLiteral(".") || name == QStringLiteral(".."))
+        return {};
+    const QDir dir(folder);
+    if (dir.exists(name))
+        return dir.filePath(name);
+    const QStringList entries =
+        dir.entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot, QDir::NoSort);
+    QStringList found;
+    std::copy_if(entries.begin(), entries.end(), std::back_inserter(found),
+                 [&](const QString &entry) { return entry.compare(name, Qt::CaseInsensitive) == 0; });
+    if (found.isEmpty())
+        return {};
+    return dir.filePath(*std::min_element(found.begin(), found.end()));
+}
+
+QString WithSeparator(const QString &folder) {
+    if (folder.isEmpty() || folder.endsWith(u'/') || folder.endsWith(QDir::separator()))
+        return folder;
+    return folder + QDir::separator();
+}
+
+} // namespace ostrand

@@ -1,0 +1,28 @@
+// Files and folders.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <optional>
+
+namespace ostrand {
+
+/// Writes a new file beside the old one, makes it durable and puts it in the old one's place, so that a crash leaves
+/// either the one or the other. False on a fault, which leaves the old file; `error` then says why.
+bool ReplaceFile(const QString &path, const QByteArray &content, QString *error = nullptr);
+
+/// The whole file; nothing when it cannot be read.
+std::optional<QByteArray> ReadFile(const QString &path);
+
+/// Creates every missing folder of a path. False when one cannot be created.
+bool MakeFolderPath(const QString &path);
+
+/// The path of the entry of that name in a folder, looked up without regard to case, the exact spelling first. Empty
+/// when there is none, or when the name is not the name of an entry (it holds a separator, or is "." or "..").
+QString FindIgnoringCase(const QString &folder, const QString &name);
+
+/// The path with the separator behind it, unless it is empty or ends in one.
+QString WithSeparator(const QString &folder);
+
+} // namespace ostrand

@@ -1,0 +1,21 @@
+// The settings of the open database, taken into the session and written back.
+#pragma once
+
+#include <QString>
+
+namespace ostrand {
+
+struct Session;
+
+/// Reads all settings of the open database into the session and its view state, and makes the image folders. What
+/// windows do with them comes behind it (`Session::window.LoadDatabaseSettings`).
+void LoadDatabaseSettings(Session &session);
+/// Writes what follows the windows. Does nothing while no database is open, or one of a newer program.
+void SaveDatabaseSettings(Session &session);
+
+/// The language of the program for a system language such as "de-AT".
+QString LanguageOfSystem(const QString &system_language);
+/// A remembered tab: 1 where it is 0 or beyond the count.
+int ClampTab(int tab, int count);
+
+} // namespace ostrand
