@@ -26,6 +26,7 @@ struct Database::Impl {
     std::shared_ptr<CachedStatement> Prepare(QStringView sql);
     std::shared_ptr<CachedStatement> PrepareAnew(QStringView sql);
 
+    int Run(QStringView sql, CachedStatement *cached);
     std::unique_ptr<Recordset::Data> ReadRows(CachedStatement &cached);
     int RunChange(CachedStatement &cached);
     int RunJoinUpdate(CachedStatement &cached);
@@ -41,7 +42,12 @@ struct Database::Impl {
     /// Runs SQLite text with values, prepared once and kept until the schema changes. Not OR IGNORE: throws.
     int RunEdit(const QString &sql, const std::vector<Value> &values);
 
-    void ReloadIfChanged();
+    /// Runs `run` on the prepared statement; once more on a new one where another process has changed the schema since
+    /// it was prepared and `run` failed or gave rows by the old one.
+    template <class Run>
+    auto WithStatement(QStringView sql, Run run);
+
+    bool ReloadIfChanged();
     void ForgetStatements();
     static int OnProgress(void *self);
 
@@ -58,6 +64,7 @@ struct Database::Impl {
     qint64 schema_version = -1;
     std::function<bool()> progress;
     QElapsedTimer progress_timer;
+    bool in_progress = false;
     std::atomic<bool> interruptible = false;
     QElapsedTimer clock;
 };
@@ -74,6 +81,8 @@ struct Recordset::Data {
     int current = 0;
     Editing editing = Editing::None;
     std::vector<std::optional<Value>> pending;
+
+    void RequireKey() const;
 };
 
 } // namespace ostrand::sql

@@ -8,6 +8,12 @@ namespace ostrand::sql {
 
 namespace {
 
+void RequireField(int ordinal, int count) {
+    if (ordinal < 0 || ordinal >= count) {
+        throw SqlError(ErrorCode::ItemNotFound, QStringLiteral("The result has no field %1.").arg(ordinal));
+    }
+}
+
 SqlError NoRow() {
     return {ErrorCode::NoCurrentRecord, QStringLiteral("There is no current record.")};
 }
@@ -85,6 +91,7 @@ const Value &Recordset::Get(int ordinal) const {
     if (Eof()) {
         throw NoRow();
     }
+    RequireField(ordinal, data_->columns);
     return data_->cells[size_t(data_->current) * size_t(data_->columns) + size_t(ordinal)];
 }
 
@@ -138,6 +145,7 @@ void Recordset::Set(int ordinal, const Value &value) {
     if (data_->editing == Data::Editing::None) {
         throw SqlError(ErrorCode::NotUpdatable, QStringLiteral("No change of this row was begun."));
     }
+    RequireField(ordinal, int(data_->pending.size()));
     const QString &column = data_->shape->base_columns[size_t(ordinal)];
     const TableInfo *table = data_->database->catalogue.FindTable(data_->shape->table);
     const ColumnInfo *info = table && !column.isEmpty() ? table->FindColumn(column) : nullptr;
@@ -150,11 +158,32 @@ void Recordset::Set(int ordinal, const Value &value) {
         ConvertForColumn(value, KindOf(value), info->kind, info->length, data_->database->environment);
 }
 
+/// The rules of the schema let a row without its whole key fall; here a fault is due.
+void Recordset::Data::RequireKey() const {
+    const TableInfo *table = database->catalogue.FindTable(shape->table);
+    const IndexInfo *key = table ? table->PrimaryKey() : nullptr;
+    for (const QString &column : key ? key->columns : QStringList()) {
+        bool set = false;
+        bool filled = table->FindColumn(column)->kind == Kind::Boolean;
+        for (size_t i = 0; i < pending.size(); ++i) {
+            if (pending[i] && column.compare(shape->base_columns[i], Qt::CaseInsensitive) == 0) {
+                set = true;
+                filled = !pending[i]->IsNull();
+            }
+        }
+        if (!filled && (set || editing == Editing::New)) {
+            throw SqlError(ErrorCode::NullNotAllowed,
+                           QStringLiteral("The field takes no Null: %1.%2.").arg(table->name, column));
+        }
+    }
+}
+
 void Recordset::Update() {
     if (data_->editing == Data::Editing::None) {
         throw SqlError(ErrorCode::NotUpdatable, QStringLiteral("No change of this row was begun."));
     }
     const bool is_new = data_->editing == Data::Editing::New;
+    data_->RequireKey();
     QString names;
     QString marks;
     std::vector<Value> values;
