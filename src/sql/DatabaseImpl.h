@@ -4,12 +4,14 @@
 #include "sql/Batch.h"
 #include "sql/Database.h"
 #include "sql/Ddl.h"
+#include "sql/EditPlan.h"
 #include "sql/LockFile.h"
 #include "sql/StatementCache.h"
 
 #include <QElapsedTimer>
 
 #include <atomic>
+#include <unordered_map>
 
 namespace ostrand::sql {
 
@@ -40,6 +42,10 @@ struct Database::Impl {
     int Write(const std::function<int()> &change);
     /// Runs SQLite text with values, prepared once and kept until the schema changes. Not OR IGNORE: throws.
     int RunEdit(const QString &sql, const std::vector<Value> &values);
+    /// Writes the row that a result set has begun. Throws as RunEdit does.
+    int RunRowEdit(const Recordset::Data &data);
+    /// How rows of a result are written; the reference holds until the next call.
+    EditPlan &PlanOf(const std::shared_ptr<const ResultShape> &result);
 
     void ReloadIfChanged();
     void ForgetStatements();
@@ -54,6 +60,7 @@ struct Database::Impl {
     std::optional<Ddl> ddl;
     StatementCache cache;
     QHash<QString, std::shared_ptr<Statement>> edits;
+    std::unordered_map<const ResultShape *, EditPlan> plans;
     Shape shape;
     qint64 schema_version = -1;
     std::function<bool()> progress;
