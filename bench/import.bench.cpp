@@ -172,6 +172,9 @@ int main(int argc, char **argv) {
     std::printf("bare parse        %8.2f s\n", floor);
     std::printf("first import      %8.2f s  %6.2f x, %.2f ms a profile\n", fresh, fresh / floor,
                 fresh * 1e3 / profiles);
+    const auto counts = session.Database->GetCacheCounts();
+    std::printf("statements        %8lld      %6.2f %% from the cache\n", (long long)counts.lookups,
+                100.0 * double(counts.hits) / double(counts.lookups));
     std::printf("unchanged import  %8.2f s  %6.2f x\n", again, again / floor);
     std::printf("peak memory       %8.1f MB\n", double(usage.ru_maxrss) / 1024);
     return 0;
