@@ -2,22 +2,53 @@
 
 #include <QProcess>
 
+#ifdef Q_OS_UNIX
+#include <csignal>
+#include <unistd.h>
+#endif
+
 namespace ostrand {
 
 namespace {
 
-constexpr int kPoll = 20; // milliseconds
+constexpr int kPoll = 20;    // milliseconds
+constexpr int kGrace = 2000; // milliseconds for a program that was asked to end
 constexpr int kSignalled = 128;
 
-void WaitForEnd(QProcess &process, EventPump *pump) {
-    if (pump == nullptr) {
-        process.waitForFinished(-1);
+#ifdef Q_OS_UNIX
+
+/// The program gets a process group of its own, so that ending it ends what it started too.
+void Isolate(QProcess &process) {
+    process.setChildProcessModifier([] { setpgid(0, 0); });
+}
+
+void End(QProcess &process) {
+    const auto group = pid_t(process.processId());
+    if (group <= 0)
         return;
-    }
+    ::kill(-group, SIGTERM);
+    if (!process.waitForFinished(kGrace))
+        ::kill(-group, SIGKILL);
+}
+
+#else
+
+void Isolate(QProcess & /*process*/) {}
+
+void End(QProcess &process) {
+    process.kill();
+}
+
+#endif
+
+void WaitForEnd(QProcess &process, EventPump *pump) {
     while (process.state() != QProcess::NotRunning) {
-        pump->Turn();
+        if (pump != nullptr)
+            pump->Turn();
+        if (pump != nullptr && pump->Stopping())
+            End(process);
         if (process.state() != QProcess::NotRunning)
-            process.waitForFinished(kPoll);
+            process.waitForFinished(pump != nullptr ? kPoll : -1);
     }
 }
 
@@ -29,6 +60,7 @@ std::optional<int> QtProcessRunner::Run(const QString &program, const QStringLis
     process.setStandardInputFile(QProcess::nullDevice());
     process.setStandardOutputFile(QProcess::nullDevice());
     process.setStandardErrorFile(QProcess::nullDevice());
+    Isolate(process);
     process.start(program, arguments);
     if (!process.waitForStarted(-1)) {
         if (error != nullptr)

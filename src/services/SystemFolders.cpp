@@ -26,8 +26,8 @@ bool IsPrivate(const QByteArray &path) {
            (info.st_mode & 077) == 0;
 }
 
-/// The folder between the system's one, which everybody may write to, and ours. A name that somebody else has taken is
-/// left to them.
+/// A folder of ours in the system's one, which everybody may write to. A name that somebody else has taken is left to
+/// them.
 QString PrivateFolder(const QString &system_temp) {
     QString name = system_temp + QStringLiteral("/OstrandApp-%1").arg(geteuid());
     const QByteArray path = QFile::encodeName(name);
@@ -58,10 +58,9 @@ QString AccountName() {
 } // namespace
 
 SystemFolders::SystemFolders(const QString &system_temp) {
-    QString parent = PrivateFolder(system_temp.isEmpty() ? QDir::tempPath() : system_temp);
-    if (parent.isEmpty())
-        parent = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation);
-    temp_ = parent + QStringLiteral("/OstrandApp");
+    temp_ = PrivateFolder(system_temp.isEmpty() ? QDir::tempPath() : system_temp);
+    if (temp_.isEmpty())
+        temp_ = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation);
 }
 
 QString SystemFolders::Documents() const {

@@ -10,7 +10,7 @@ public:
     /// `system_temp` stands in for the system's folder of temporary files when it is not empty.
     explicit SystemFolders(const QString &system_temp = {});
     QString Documents() const override;
-    /// `OstrandApp`, to be made by the caller, within a folder that is made here and that only this user may enter.
+    /// A folder that is made here and that only this user may enter.
     QString Temp() const override { return temp_; }
     QString Program() const override;
     QStringList Resources() const override;

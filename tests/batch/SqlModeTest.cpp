@@ -45,7 +45,7 @@ TEST_F(SqlModeTest, MakesAFileAndKeepsIt) {
 
 TEST_F(SqlModeTest, Formats) {
     Create(kTable);
-    EXPECT_EQ(Sql("SELECT k, n FROM t;", u"text"_s).output, "k  n\n-  -\na  1\nb   \n(2 rows)\n");
+    EXPECT_EQ(Sql("SELECT k, n FROM t;", u"text"_s).output, "k  n\n-  -\na  1\nb  \n(2 rows)\n");
     EXPECT_EQ(Sql("SELECT n, d, b FROM t;\nDELETE FROM t;", u"json"_s).output,
               "{\"columns\":[{\"name\":\"n\",\"type\":\"integer\"},{\"name\":\"d\",\"type\":\"date\"},"
               "{\"name\":\"b\",\"type\":\"boolean\"}],\"rows\":[[1,\"2003-01-02 00:00:00\",true],[null,null,false]]}\n"

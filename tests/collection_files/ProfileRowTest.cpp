@@ -26,9 +26,10 @@ constexpr auto kColumns =
 
 TEST_F(ProfileRow, EachElementHasItsColumn) {
     EXPECT_TRUE(ImportOne(kWhole));
-    EXPECT_EQ(Fields(QString::fromUtf16(kColumns)), u"One|DVD|Uno|12|One S|Edition|WishList|012345-678901|PG|Film|Mild|1999|"
-                                         "2001-02-03|95|Keep Case, Slip Cover|e\r\nf|3|United States|DVDProfiler|"
-                                         "Norway|2"_s);
+    EXPECT_EQ(Fields(QString::fromUtf16(kColumns)),
+              u"One|DVD|Uno|12|One S|Edition|WishList|012345-678901|PG|Film|Mild|1999|"
+              "2001-02-03|95|Keep Case, Slip Cover|e\r\nf|3|United States|DVDProfiler|"
+              "Norway|2"_s);
     EXPECT_EQ(Fields(u"ProfileTimestamp, LastEdited"_s), u"2012-05-09 18:10:47|2012-06-06 15:05:33"_s);
     EXPECT_EQ(Fields(u"Overview"_s), u"a\r\nb\r\nc"_s);
     EXPECT_EQ(Fields(u"Notes"_s), u"n\r\nm"_s);

@@ -2,7 +2,6 @@
 #include "collection_files/ImportFixture.h"
 
 #include <QDir>
-#include <QDirIterator>
 
 namespace ostrand {
 
@@ -283,28 +282,71 @@ TEST_F(ProfilerImport, AFaultOfTheDatabaseIsToldOnceAndLeavesTheRest) {
         << "the next import takes them up again";
 }
 
-TEST_F(ProfilerImport, SharedCollectionsComeInTwiceWithoutAWord) {
-    const QString folder = QDir(test::SharedFolder()).filePath(u"collections"_s);
-    if (!QDir(folder).exists()) {
+/// Takes every question's first answer and keeps the texts.
+class AgreeingUser : public UserDialogs {
+public:
+    MessageAnswer Show(const Message &message) override {
+        texts.append(message.text);
+        return message.buttons == MessageButtons::YesNo ? MessageAnswer::Yes : MessageAnswer::Ok;
+    }
+    std::optional<QString> InputText(const QString &, const QString &, const QString &) override { return {}; }
+    std::optional<QString> InputCombo(const QString &, const QString &, const QStringList &, const QString &) override {
+        return {};
+    }
+    QString OpenFile(const FileRequest &) override { return {}; }
+    QString SaveFile(const FileRequest &) override { return {}; }
+
+    QStringList texts;
+};
+
+bool IsToldMessage(const QString &text) {
+    for (const char *start : {"Duplicate Link Entry!\n", "Invalid Link Entry!\n", "Don't forget to point ",
+                              "This is the first time ", "You already have imported "}) {
+        if (text.startsWith(QString::fromLatin1(start))) {
+            return true;
+        }
+    }
+    return false;
+}
+
+TEST_F(ProfilerImport, SampleCollectionsAreSkippedTheSecondTime) {
+    const QDir folder(QDir(test::SharedFolder()).filePath(u"collections"_s));
+    if (!folder.exists()) {
         GTEST_SKIP() << "no sample collections";
     }
-    WriteDbInfo(session, u"ProgressWindowAutoClose"_s, u"True"_s);
-    Log(kTraceInfo | 1);
-    QDirIterator files(folder, {u"*.xml"_s}, QDir::Files);
-    while (files.hasNext()) {
-        const QString path = files.next();
-        SCOPED_TRACE(qPrintable(path));
-        services.dialogs.messages.clear();
-        session.Profiler3 = !path.contains(u"40-reduced"_s);
+    AgreeingUser user;
+    Services agreeing{user,
+                      services.progress,
+                      services.pump,
+                      services.clock,
+                      services.random,
+                      services.processes,
+                      services.folders,
+                      services.locale};
+    Session all(agreeing);
+    all.trace.Mask = kTraceError | kTraceInfo;
+    CreateCollectionDatabase(all, Path(u"All.mdb"_s));
+    const auto digests = [&] {
+        QStringList lines;
+        sql::Recordset rows = all.Database->OpenRecordset(u"SELECT ProfileID, MD5 FROM Profiles ORDER BY ProfileID");
+        for (; !rows.Eof(); rows.MoveNext()) {
+            lines.append(rows.Text(0) + u' ' + rows.Text(1));
+        }
+        return lines;
+    };
+    for (const QString &name : folder.entryList({u"*.xml"_s})) {
+        SCOPED_TRACE(qPrintable(name));
         services.progress.calls.clear();
-        EXPECT_TRUE(ImportProfilerData(session, path));
-        const QStringList first = Rows(u"SELECT ProfileID, MD5 FROM Profiles ORDER BY ProfileID");
-        const QStringList counters = services.progress.Of(u"counter"_s);
-        EXPECT_GT(counters.size(), 3);
-        QFile::remove(session.trace.path);
-        EXPECT_TRUE(ImportProfilerData(session, path));
+        EXPECT_TRUE(ImportProfilerData(all, folder.filePath(name)));
+        const QStringList first = digests();
+        EXPECT_FALSE(first.isEmpty());
+        QFile::remove(all.trace.path);
+        EXPECT_TRUE(ImportProfilerData(all, folder.filePath(name)));
         EXPECT_EQ(LogLines().filter(u"Updating"_s), QStringList());
-        EXPECT_EQ(Rows(u"SELECT ProfileID, MD5 FROM Profiles ORDER BY ProfileID"), first);
+        EXPECT_EQ(digests(), first);
+    }
+    for (const QString &text : user.texts) {
+        EXPECT_TRUE(IsToldMessage(text)) << qPrintable(text);
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "support/Scripted.h"
 
+#include <QElapsedTimer>
 #include <gtest/gtest.h>
 
 namespace ostrand {
@@ -40,6 +41,30 @@ TEST(QtProcessRunnerTest, GivesTurnsWhileTheProgramRuns) {
     EXPECT_EQ(runner.RunCommandLine(Text("sleep 0.2"), ProcessStyle::Hidden, &pump, nullptr), 0);
     EXPECT_GE(pump.Turns(), 3);
 }
+
+#ifdef Q_OS_UNIX
+/// Tells from its third turn on that the program is to end.
+class StoppingPump : public EventPump {
+public:
+    void Turn() override { ++turns_; }
+    bool Stopping() const override { return turns_ >= 3; }
+
+private:
+    int turns_ = 0;
+};
+
+TEST(QtProcessRunnerTest, EndsAProgramWhenThisOneIsToEnd) {
+    QtProcessRunner runner;
+    QElapsedTimer time;
+    time.start();
+    StoppingPump pump;
+    EXPECT_EQ(runner.RunCommandLine(Text("sleep 60; true"), ProcessStyle::Hidden, &pump, nullptr), 128);
+    StoppingPump again;
+    EXPECT_EQ(runner.RunCommandLine(Text("trap '' TERM; sleep 60; true"), ProcessStyle::Hidden, &again, nullptr), 128)
+        << "one that does not listen is killed";
+    EXPECT_LT(time.elapsed(), 30'000);
+}
+#endif
 
 TEST(QtProcessRunnerTest, ArgumentsReachTheProgramAsTheyAre) {
     test::TempDir dir;
