@@ -93,16 +93,18 @@ struct Console {
     SystemLocaleInfo locale;
 };
 
-void Run(Session &session, const QString &target) {
+/// False when the database that was named did not open.
+bool Run(Session &session, const QString &target) {
     session.window.LoadDatabaseSettings = [&session] {
         session.Database->SetProgress([] { return StopSignals::Received() != 0; });
     };
-    OpenOrRun(session, PrepareStartUp(session, target));
+    const bool opened = OpenOrRun(session, PrepareStartUp(session, target));
     FinishStartUp(session);
     if (session.Database) {
         session.Database->SetProgress({}); // the settings are saved even when a signal ended the run
     }
     CloseViewer(session);
+    return opened;
 }
 
 } // namespace
@@ -121,10 +123,16 @@ int RunCommandMode(const Arguments &arguments) {
                       console.random, console.processes, console.folders, console.locale};
     Session session(services);
     console.pump.session = &session;
-    Run(session, arguments.target);
+    const bool opened = Run(session, arguments.target);
     console.pump.session = nullptr;
     const int signal = StopSignals::Received();
-    return signal != 0 ? 128 + signal : dialogs.Clean() ? kDone : kNotClean;
+    if (signal != 0) {
+        return 128 + signal;
+    }
+    if (!opened) {
+        return kUsage;
+    }
+    return dialogs.Clean() ? kDone : kNotClean;
 }
 
 } // namespace ostrand::batch

@@ -69,17 +69,20 @@ QString IniFile::Replaced(const QString &text, const QString &section, const QSt
     return text + gap + u'[' + section + u']' + kBreak + start + value;
 }
 
-QString IniFile::ReadAll() const {
-    QFile file(path_);
-    return file.open(QIODevice::ReadOnly) ? DecodeUserText(file.readAll()) : QString();
+std::optional<QString> IniFile::ReadAll() const {
+    const std::optional<QByteArray> content = ReadFile(path_);
+    return content ? std::optional(DecodeUserText(*content)) : std::nullopt;
 }
 
 QString IniFile::Get(const QString &section, const QString &key, const QString &preset) const {
-    return Find(ReadAll(), section, key, preset);
+    return Find(ReadAll().value_or(QString()), section, key, preset);
 }
 
 void IniFile::Set(const QString &section, const QString &key, const QString &value) const {
-    ReplaceFile(path_, EncodeUserText(Replaced(ReadAll(), section, key, value)));
+    const std::optional<QString> text = ReadAll();
+    if (!text && QFile::exists(path_))
+        return; // what cannot be read now must not be replaced
+    ReplaceFile(path_, EncodeUserText(Replaced(text.value_or(QString()), section, key, value)));
 }
 
 } // namespace ostrand

@@ -3,11 +3,13 @@
 
 #include <QString>
 
+#include <optional>
+
 namespace ostrand {
 
 /// Sections of key=value lines that end in CR LF. The file is read whole at each call, and written whole at each Set,
 /// so that what a user edits by hand meanwhile counts. Values are not trimmed and there are no comments. Faults of
-/// reading give the preset, faults of writing are ignored.
+/// reading give the preset, faults of writing are ignored. A file that cannot be read is not written.
 class IniFile {
 public:
     explicit IniFile(QString path) : path_(std::move(path)) {}
@@ -22,7 +24,8 @@ public:
     static QString Replaced(const QString &text, const QString &section, const QString &key, const QString &value);
 
 private:
-    QString ReadAll() const;
+    /// Nothing where the file is missing or cannot be read.
+    std::optional<QString> ReadAll() const;
 
     QString path_;
 };

@@ -95,17 +95,21 @@ Standing BringToPresentVersion(Session &session) {
 /// The same as one durable whole that is taken back where it does not come to its end.
 Standing BringToPresentVersionOrLeave(Session &session) {
     session.Database->Flush();
-    sql::Database::Bracket bracket(*session.Database);
-    try {
-        const Standing standing = BringToPresentVersion(session);
-        if (standing == Standing::NotUpgraded) {
+    const Standing standing = [&session] {
+        sql::Database::Bracket bracket(*session.Database);
+        try {
+            const Standing reached = BringToPresentVersion(session);
+            if (reached == Standing::NotUpgraded) {
+                bracket.Abandon();
+            }
+            return reached;
+        } catch (const sql::SqlError &) {
             bracket.Abandon();
+            throw;
         }
-        return standing;
-    } catch (const sql::SqlError &) {
-        bracket.Abandon();
-        throw;
-    }
+    }();
+    session.Database->Flush(); // a disk that is full shows here
+    return standing;
 }
 
 /// True when the open database stands at the present version.
@@ -114,6 +118,7 @@ bool Prepare(Session &session) {
     case Standing::Present:
         return true;
     case Standing::Newer:
+        session.DatabaseTooNew = true;
         Say(session, MessageIcon::Critical,
             Translate(session, u"Database version too high!"_s) + "\r\n"_L1 +
                 Translate(session, u"Please update the program with the latest version."_s));
@@ -157,12 +162,21 @@ void HandOver(Session &session, const QFileInfo &file) {
     WriteINIString(session, u"Main"_s, u"DatabasePath"_s, QDir::toNativeSeparators(file.absolutePath()));
 }
 
+/// Before another database takes the place of the open one, whose closing tells no faults.
+void FlushOpenDatabase(Session &session) {
+    if (session.Database) {
+        session.Database->Flush();
+    }
+}
+
 void OpenFile(Session &session, const QString &path) {
+    FlushOpenDatabase(session);
     if (IsOpenHere(session, path)) {
         session.Database.reset();
     }
     auto opened = sql::Database::Open(path, DatabaseEnvironment(session));
     session.Database = std::move(opened);
+    session.DatabaseTooNew = false;
 }
 
 [[noreturn]] void RaiseCopyFault(const QString &path) {
@@ -277,14 +291,21 @@ sql::Environment DatabaseEnvironment(Session &session) {
 }
 
 void CreateCollectionDatabase(Session &session, const QString &path) {
+    FlushOpenDatabase(session);
     auto created = sql::Database::Create(path, DatabaseEnvironment(session));
     session.Database = std::move(created);
+    session.DatabaseTooNew = false;
     try {
-        const sql::Database::Bracket bracket(*session.Database);
-        CreateTables(session);
+        {
+            const sql::Database::Bracket bracket(*session.Database);
+            CreateTables(session);
+        }
+        session.Database->Flush(); // a disk that is full shows here
     } catch (const sql::SqlError &) {
         session.Database.reset();
-        QFile::remove(path);
+        for (const QLatin1StringView end : {""_L1, "-wal"_L1, "-shm"_L1}) {
+            QFile::remove(path + end);
+        }
         throw;
     }
 }

@@ -34,7 +34,7 @@ QString UserText(Session &session, const QString &text) {
     if (found) {
         return found->isEmpty() ? text : *found;
     }
-    if (session.TraceStrings) {
+    if (session.TraceStrings && !session.DatabaseTooNew) {
         session.Database->Execute(
             u"INSERT INTO Translation (OriginalString, UserString) VALUES ('%1', '')"_s.arg(EscapeSql(text)));
     }

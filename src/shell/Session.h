@@ -49,6 +49,8 @@ struct Session {
 
     /// Null until a database is open.
     std::unique_ptr<sql::Database> Database;
+    /// The open database comes from a newer program, and this one keeps its settings out of it.
+    bool DatabaseTooNew = false;
     QString DatabaseFile;
     QString DatabaseName;
 

@@ -93,7 +93,7 @@ void LoadDatabaseSettings(Session &session) {
 }
 
 void SaveDatabaseSettings(Session &session) {
-    if (!session.Database) {
+    if (!session.Database || session.DatabaseTooNew) {
         return;
     }
     std::vector<const DbSetting *> saved;

@@ -105,6 +105,21 @@ void WriteInstallationSettings(Session &session) {
     }
 }
 
+/// Closing a database tells no faults: what cannot be made durable is told here.
+void SaveAndCloseDatabase(Session &session) {
+    if (!session.Database) {
+        return;
+    }
+    try {
+        SaveDatabaseSettings(session);
+        session.Database->Flush();
+    } catch (const sql::SqlError &error) {
+        Trace(session, QStringLiteral("CloseViewer: ") + error.Text(), kTraceError);
+        ShowMessage(session, {.text = error.Text(), .title = {}, .icon = MessageIcon::Critical});
+    }
+    session.Database.reset();
+}
+
 } // namespace
 
 CommandLine ReadCommandLine(QString text) {
@@ -182,12 +197,7 @@ void CloseViewer(Session &session) {
     session.progress.Close();
     if (!session.SettingsPath.isEmpty()) {
         WriteInstallationSettings(session);
-        try {
-            SaveDatabaseSettings(session);
-        } catch (const sql::SqlError &error) {
-            Trace(session, QStringLiteral("CloseViewer: ") + error.Text(), kTraceError);
-        }
-        session.Database.reset();
+        SaveAndCloseDatabase(session);
     }
     if (session.instance) {
         session.instance->LeaveAndClean();

@@ -51,13 +51,14 @@ void RequireDatabase(const QString &path) {
     if (!header) {
         throw FileError(ErrorCode::NotADatabase, QStringLiteral("The file %1 is no database."), path);
     }
+    // Ours has its mark from its first write on, before there is a log.
+    if (header->application_id != kApplicationId) {
+        throw FileError(ErrorCode::NotADatabase, QStringLiteral("The file %1 belongs to another program."), path);
+    }
     // A file that was cut off. With a log beside it, the pages that it lacks may stand there.
     const bool has_log = QFileInfo(info.canonicalFilePath() + QStringLiteral("-wal")).size() > 0;
     if (!has_log && file.size() < header->page_size * header->page_count) {
         throw FileError(ErrorCode::Damaged, QStringLiteral("The file %1 is damaged: its end is missing."), path);
-    }
-    if (!has_log && header->application_id != kApplicationId) {
-        throw FileError(ErrorCode::NotADatabase, QStringLiteral("The file %1 belongs to another program."), path);
     }
 }
 

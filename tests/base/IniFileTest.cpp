@@ -1,10 +1,15 @@
 #include "base/IniFile.h"
 
+#include "sql/ForkedChild.h"
 #include "support/TempDir.h"
 
 #include <QDir>
 
 #include <gtest/gtest.h>
+
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
 
 namespace ostrand {
 namespace {
@@ -106,6 +111,24 @@ TEST(IniFileTest, IgnoresAFileThatCannotBeWritten) {
     ini.Set(Text("Main"), Text("A"), Text("1"));
     EXPECT_EQ(ini.Get(Text("Main"), Text("A"), Text("p")), Text("p"));
 }
+
+#ifdef Q_OS_UNIX
+TEST(IniFileTest, DoesNotReplaceWhatItCannotRead) {
+    test::TempDir dir;
+    const QByteArray content = "[Main]\r\nA=1\r\nB=2";
+    const QString path = dir.Write(Text("Settings.ini"), content);
+    ASSERT_EQ(::chmod(dir.Path().toUtf8(), 0777), 0);
+    ASSERT_EQ(::chmod(path.toUtf8(), 0), 0);
+    EXPECT_EQ(sql::testing::AsNobody([&] {
+                  const IniFile ini(path);
+                  ini.Set(Text("Main"), Text("A"), Text("3"));
+                  return ini.Get(Text("Main"), Text("B"), Text("p")) == Text("p") ? 0 : 1;
+              }),
+              0);
+    ASSERT_EQ(::chmod(path.toUtf8(), 0600), 0);
+    EXPECT_EQ(dir.Read(Text("Settings.ini")), content);
+}
+#endif
 
 TEST(IniFileTest, EveryWrittenValueReadsBack) {
     const std::vector<QString> values = {Text(""),  Text("="),     Text("a=b"), Text("[x]"),

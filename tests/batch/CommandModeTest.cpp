@@ -67,7 +67,7 @@ TEST_F(CommandModeTest, OpensADatabase) {
     EXPECT_EQ(Run("createdatabase a.mdb\n").status, 0);
     EXPECT_EQ(program.Run({u"a.mdb"_s}).status, 0);
     const BatchResult missing = program.Run({u"none.mdb"_s});
-    EXPECT_EQ(missing.status, 1);
+    EXPECT_EQ(missing.status, 2);
     EXPECT_TRUE(missing.output.contains("Databasefile does not exist!"));
 }
 

@@ -1,8 +1,14 @@
 // Creating, opening, compacting: messages, order, and what stays of a file that cannot be opened.
 #include "CollectionFixture.h"
+#include "shell/Settings.h"
 #include "sql/ForkedChild.h"
 
 #include <QFileInfo>
+
+#ifdef Q_OS_UNIX
+#include <csignal>
+#include <sys/resource.h>
+#endif
 
 namespace ostrand {
 
@@ -59,6 +65,75 @@ TEST_F(FilesTest, ANewerVersionIsToldAndTheFileStaysOpenAndUnchanged) {
         EXPECT_EQ(Rows(u"SELECT InfoName, InfoValue FROM DbInfo"), QStringList(u"Schema|"_s + version));
     }
 }
+
+TEST_F(FilesTest, ANewerFileGetsNoSettingsOfTheOneBefore) {
+    Create(u"Newer.mdb"_s);
+    WriteDbInfo(session, u"Schema"_s, u"91"_s);
+    WriteDbInfo(session, u"LastSelectedItem"_s, u"Key_5"_s);
+    Create();
+    WriteDbInfo(session, u"UseUserDefinedStrings"_s, u"1"_s);
+    WriteDbInfo(session, u"TraceStrings"_s, u"1"_s);
+    ASSERT_TRUE(Open(u"New.mdb"_s));
+    Expect(u"Database version too high!\r\nPlease update the program with the latest version."_s, {},
+           MessageIcon::Critical);
+    EXPECT_FALSE(Open(u"Newer.mdb"_s));
+    SaveDatabaseSettings(session);
+    EXPECT_EQ(Rows(u"SELECT InfoName, InfoValue FROM DbInfo ORDER BY 1"),
+              (QStringList{u"LastSelectedItem|Key_5"_s, u"Schema|91"_s}));
+    EXPECT_EQ(session.Database->RecordCount(u"Translation"), 0);
+
+    ASSERT_TRUE(Open(u"New.mdb"_s));
+    SaveDatabaseSettings(session);
+    EXPECT_EQ(ReadDbInfo(session, u"ViewTVShows"_s, {}), u"False"_s) << "that of this program is written again";
+}
+
+#ifdef Q_OS_UNIX
+/// Files take no byte beyond `size`, as on a disk that is full.
+void FillDisk(qint64 size) {
+    std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit limit = {rlim_t(size), RLIM_INFINITY};
+    ::setrlimit(RLIMIT_FSIZE, &limit);
+}
+
+TEST_F(FilesTest, AFullDiskLeavesNoHalfDatabase) {
+    const int status = sql::testing::InChild([&] {
+        FillDisk(40'000);
+        Expect({}, u"Cannot open database"_s, MessageIcon::Critical);
+        const bool made = NewCollectionDatabase(session, Path(u"New.mdb"_s));
+        return made || session.Database || services.dialogs.messages.size() != 1 ? 1 : 0;
+    });
+    EXPECT_EQ(status, 0);
+    EXPECT_TRUE(QDir(folder_.Path()).entryList(QDir::Files).isEmpty());
+}
+
+TEST_F(FilesTest, AFullDiskLeavesTheOldVersion) {
+    Create();
+    Run(u"INSERT INTO Profiles (ProfileID, Title, MD5) VALUES ('Key_1', 'T', 'abc')");
+    WriteDbInfo(session, u"Schema"_s, u"88"_s);
+    session.Database.reset();
+    const QByteArray before = folder_.Read(u"New.mdb"_s);
+    const int status = sql::testing::InChild([&] {
+        FillDisk(10'000); // room for the log's beginning alone
+        Expect({}, u"Cannot open database"_s, MessageIcon::Critical);
+        return Open(u"New.mdb"_s) || session.Database || services.dialogs.messages.size() != 1 ? 1 : 0;
+    });
+    EXPECT_EQ(status, 0);
+    EXPECT_EQ(folder_.Read(u"New.mdb"_s), before);
+}
+
+TEST_F(FilesTest, WhatAFullDiskKeepsFromTheOldDatabaseIsToldBeforeASwitch) {
+    Create(u"Other.mdb"_s);
+    Create();
+    session.Database->Flush();
+    const int status = sql::testing::InChild([&] {
+        Run(u"INSERT INTO Profiles (ProfileID, Title) VALUES ('Key_1', 'T')");
+        FillDisk(1000);
+        Expect({}, u"Cannot open database"_s, MessageIcon::Critical);
+        return Open(u"Other.mdb"_s) || services.dialogs.messages.size() != 1 ? 1 : 0;
+    });
+    EXPECT_EQ(status, 0);
+}
+#endif
 
 TEST_F(FilesTest, AFileThatIsNoDatabaseIsToldAndStaysAsItIs) {
     const QByteArray content = QByteArray("This is a shopping list, and no database.\n").repeated(100);

@@ -3,11 +3,17 @@
 #include "database/DatabaseFunctions.h"
 #include "shell/InstanceMarker.h"
 #include "shell/Session.h"
+#include "sql/ForkedChild.h"
 #include "support/Scripted.h"
 
 #include <QDir>
 #include <QFile>
 #include <gtest/gtest.h>
+
+#ifdef Q_OS_UNIX
+#include <csignal>
+#include <sys/resource.h>
+#endif
 
 namespace ostrand {
 namespace {
@@ -251,6 +257,22 @@ TEST_F(StartUpTest, ShutdownClosesTheDatabaseAndTakesTheTempFolderAway) {
     EXPECT_FALSE(services.folders.dir.Has(u"films.ldb"_s));
     EXPECT_TRUE(services.folders.dir.Has(u"films.mdb"_s));
 }
+
+#ifdef Q_OS_UNIX
+TEST_F(StartUpTest, ShutdownTellsWhatAFullDiskKeepsOut) {
+    ASSERT_TRUE(NewCollectionDatabase(session, services.folders.dir / u"films.mdb"_s));
+    session.Database->Flush();
+    EXPECT_EQ(sql::testing::InChild([&] {
+                  std::signal(SIGXFSZ, SIG_IGN);
+                  const rlimit limit = {1000, RLIM_INFINITY}; // no file takes a byte beyond it
+                  ::setrlimit(RLIMIT_FSIZE, &limit);
+                  services.dialogs.ExpectMessage({}, MessageIcon::Critical, MessageAnswer::Ok);
+                  CloseViewer(session);
+                  return session.Database || services.dialogs.messages.size() != 1 ? 1 : 0;
+              }),
+              0);
+}
+#endif
 
 TEST_F(StartUpTest, TheLastInstanceTakesTheTempFolderAway) {
     PrepareStartUp(session, {});

@@ -167,6 +167,22 @@ TEST_F(DatabaseFileTest, FilesThatFailACheckStayAsTheyAre) {
     }
 }
 
+TEST_F(DatabaseFileTest, AnotherProgramsFileWithItsLogStaysAsItIs) {
+    const QString copy = PathOf(u"copy.mdb"_s);
+    {
+        Connection connection = CreateFile(path_, RegisterTestFunctions);
+        connection.Execute(u"PRAGMA application_id = 7; PRAGMA wal_checkpoint; CREATE TABLE T (A TEXT)");
+        ASSERT_TRUE(QFile::copy(path_, copy));
+        ASSERT_TRUE(QFile::copy(path_ + u"-wal"_s, copy + u"-wal"_s));
+    }
+    const QByteArray file = Read(copy);
+    const QByteArray log = Read(copy + u"-wal"_s);
+    ASSERT_FALSE(log.isEmpty());
+    EXPECT_EQ(FaultOfOpening(copy), int(ErrorCode::NotADatabase));
+    EXPECT_EQ(Read(copy), file);
+    EXPECT_EQ(Read(copy + u"-wal"_s), log);
+}
+
 TEST_F(DatabaseFileTest, MissingFilesAndFoldersDoNotOpen) {
     EXPECT_EQ(FaultOfOpening(path_), int(ErrorCode::CannotOpenDatabase));
     EXPECT_EQ(FaultOfOpening(directory_.path()), int(ErrorCode::CannotOpenDatabase));
