@@ -39,6 +39,19 @@ void StepKept(sqlite3_context *context, int, sqlite3_value **values) {
     state->value = sqlite3_value_dup(values[0]);
 }
 
+/// The one value of a sub-query that stands for a value; a second row is a fault.
+void StepOnly(sqlite3_context *context, int, sqlite3_value **values) {
+    auto *state = StateOf<KeptValue>(context);
+    if (state == nullptr) {
+        return;
+    }
+    if (state->value != nullptr) {
+        return RaiseInFunction(context, ErrorCode::TooManyRows,
+                               u"A sub-query in an expression must give one row at most.");
+    }
+    state->value = sqlite3_value_dup(values[0]);
+}
+
 void FinishKept(sqlite3_context *context) {
     auto *state = static_cast<KeptValue *>(sqlite3_aggregate_context(context, 0));
     if (state == nullptr || state->value == nullptr) {
@@ -100,6 +113,7 @@ void RegisterAggregates(sqlite3 *handle, const Environment &environment) {
     };
     add("fn_first", StepKept<true>, FinishKept);
     add("fn_last", StepKept<false>, FinishKept);
+    add("fn__only", StepOnly, FinishKept);
     add("fn_stdev", StepSpread, FinishSpread<true, true>);
     add("fn_stdevp", StepSpread, FinishSpread<false, true>);
     add("fn_var", StepSpread, FinishSpread<true, false>);

@@ -48,6 +48,13 @@ ColumnInfo ColumnOfDefinition(const ast::ColumnDef &definition) {
     column.name = definition.name;
     column.kind = *kind;
     column.not_null = definition.not_null && *kind != Kind::Boolean;
+    if (*kind == Kind::Text && definition.length > kTextLength) {
+        throw SqlError(ErrorCode::FieldTooLong,
+                       QStringLiteral("The field '%1' is too long; a text takes up to %2 characters.")
+                           .arg(definition.name)
+                           .arg(kTextLength),
+                       definition.position);
+    }
     if (*kind == Kind::Text) {
         column.length = definition.length > 0 ? definition.length : kTextLength;
     }

@@ -84,6 +84,7 @@ private:
     QString DistinctRowGroup(const ast::Select &select, const Scope &scope) const;
     static QString ColumnList(const std::vector<OutputColumn> &columns);
     static bool HasAggregate(const ast::Expr &expr);
+    static bool GivesOneRow(const ast::Query &query);
     static bool Aggregates(const ast::Select &select, const std::vector<ast::OrderItem> &order_by);
     static std::shared_ptr<const ResultShape> MakeResult(const QueryText &text);
 
@@ -121,6 +122,8 @@ private:
     static Kind CommonKind(Kind left, Kind right);
 
     // Changes
+    static QString PivotCondition(const Fragment &pivot, const Value &heading);
+    static std::vector<const ColumnInfo *> ColumnsByName(const TableInfo &table, const QueryText &query);
     QString EmitForColumn(const ast::Expr &expr, const ColumnInfo &column, Scope &scope);
     static QString ConvertForColumnSql(const Fragment &fragment, const ColumnInfo &column);
     const TableInfo &RequireTable(const QString &name, int position) const;

@@ -21,6 +21,15 @@ QString Literal(const Value &value) {
     return u'\'' + QString(value.Text()).replace(u'\'', QStringLiteral("''")) + u'\'';
 }
 
+void RequireFirst(std::vector<const ColumnInfo *> &assigned, const ColumnInfo *column,
+                  const ast::Assignment &assignment) {
+    if (std::find(assigned.begin(), assigned.end(), column) != assigned.end()) {
+        throw SqlError(ErrorCode::DuplicateOutputField,
+                       QStringLiteral("The field '%1' is set twice.").arg(column->name), assignment.position);
+    }
+    assigned.push_back(column);
+}
+
 /// The heading of a pivoted value.
 QString Heading(const Value &value, Kind kind) {
     if (value.IsNull()) {
@@ -79,10 +88,28 @@ QString Compiler::EmitForColumn(const ast::Expr &expr, const ColumnInfo &column,
     return ConvertForColumnSql(Emit(expr, scope), column);
 }
 
+/// Without a list of fields a query fills the fields of its own names; where a name is none, the fields by their place.
+std::vector<const ColumnInfo *> Compiler::ColumnsByName(const TableInfo &table, const QueryText &query) {
+    std::vector<const ColumnInfo *> columns;
+    for (const OutputColumn &output : query.columns) {
+        const ColumnInfo *column = table.FindColumn(output.label);
+        if (!column || std::find(columns.begin(), columns.end(), column) != columns.end()) {
+            return {};
+        }
+        columns.push_back(column);
+    }
+    return columns;
+}
+
 Compiled Compiler::CompileInsert(const ast::Insert &insert) {
     const TableInfo &table = RequireTable(insert.table, insert.values_position);
+    QueryText query;
     std::vector<const ColumnInfo *> columns;
-    if (insert.columns.empty()) {
+    if (insert.query) {
+        query = EmitQuery(*insert.query, nullptr, true);
+        columns = insert.columns.empty() ? ColumnsByName(table, query) : columns;
+    }
+    if (insert.columns.empty() && columns.empty()) {
         for (const ColumnInfo &column : table.columns) {
             columns.push_back(&column);
         }
@@ -118,7 +145,6 @@ Compiled Compiler::CompileInsert(const ast::Insert &insert) {
         compiled.sql = head + QStringLiteral("VALUES (%1)").arg(values.join(u','));
         return Finish(std::move(compiled));
     }
-    const QueryText query = EmitQuery(*insert.query, nullptr, true);
     check_count(query.columns.size());
     for (size_t i = 0; i < columns.size(); ++i) {
         const Fragment column{QStringLiteral("c%1").arg(i), query.columns[i].value.kind, false, false};
@@ -139,6 +165,7 @@ Compiled Compiler::CompileUpdate(const ast::Update &update) {
         throw SqlError(ErrorCode::NotUpdatable, QStringLiteral("A derived table cannot be updated."));
     }
     QStringList assignments;
+    std::vector<const ColumnInfo *> assigned;
     for (const ast::Assignment &assignment : update.assignments) {
         if (!assignment.column.table.isEmpty() && !scope.FindSource(assignment.column.table)) {
             throw SqlError(ErrorCode::ParametersExpected,
@@ -146,6 +173,7 @@ Compiled Compiler::CompileUpdate(const ast::Update &update) {
                            assignment.position);
         }
         const ColumnInfo &column = RequireColumn(*target.table, assignment.column.name, assignment.position);
+        RequireFirst(assigned, &column, assignment);
         assignments.append(QuoteName(column.name) + QStringLiteral(" = ") +
                            EmitForColumn(*assignment.value, column, scope));
     }
@@ -163,6 +191,7 @@ Compiled Compiler::CompileJoinUpdate(const ast::Update &update, Scope &scope, co
         const Source *source;
         QStringList assignments;
         QStringList values;
+        std::vector<const ColumnInfo *> assigned;
     };
     std::vector<Target> targets;
     for (const ast::Assignment &assignment : update.assignments) {
@@ -180,10 +209,11 @@ Compiled Compiler::CompileJoinUpdate(const ast::Update &update, Scope &scope, co
         auto target =
             std::find_if(targets.begin(), targets.end(), [&](const Target &known) { return known.source == &source; });
         if (target == targets.end()) {
-            targets.push_back({&source, {}, {}});
+            targets.push_back({&source, {}, {}, {}});
             target = targets.end() - 1;
         }
         const ColumnInfo &column = *source.table->FindColumn(match.column->name);
+        RequireFirst(target->assigned, &column, assignment);
         target->values.append(EmitForColumn(*assignment.value, column, scope));
         target->assignments.append(QuoteName(column.name) + QStringLiteral(" = ?") +
                                    QString::number(target->values.size()));
@@ -253,6 +283,19 @@ Compiled Compiler::CompilePivotValues(const ast::Transform &transform) {
     return Finish(std::move(compiled));
 }
 
+/// True for the rows of a heading; a heading of another kind than the pivoted values compares with their text.
+QString Compiler::PivotCondition(const Fragment &pivot, const Value &heading) {
+    if (heading.IsNull()) {
+        return QStringLiteral("%1 IS NULL").arg(ToValue(pivot));
+    }
+    const bool text = heading.GetType() == Value::Type::Text;
+    if (text == IsText(pivot.kind) || pivot.kind == Kind::Unknown) {
+        return QStringLiteral("%1 = %2").arg(Collated(pivot), Literal(heading));
+    }
+    return QStringLiteral("%1 COLLATE dialect = %2")
+        .arg(ToText(pivot), Literal(text ? heading : Value(Heading(heading, Kind::Real))));
+}
+
 Compiled Compiler::CompileTransform(const ast::Transform &transform, const std::vector<Value> &headings) {
     const auto &select = *std::get<std::unique_ptr<ast::Select>>(transform.query->terms.front().node);
     Scope scope;
@@ -266,8 +309,7 @@ Compiled Compiler::CompileTransform(const ast::Transform &transform, const std::
                        transform.value->position);
     }
     for (const Value &heading : headings) {
-        aggregate_filter_ = heading.IsNull() ? QStringLiteral("%1 IS NULL").arg(ToValue(pivot))
-                                             : QStringLiteral("%1 = %2").arg(Collated(pivot), Literal(heading));
+        aggregate_filter_ = PivotCondition(pivot, heading);
         const Fragment value = Emit(*transform.value, scope);
         OutputColumn column;
         column.label = Heading(heading, pivot.kind);

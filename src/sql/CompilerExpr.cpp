@@ -7,6 +7,7 @@ namespace ostrand::sql {
 
 namespace {
 
+constexpr qsizetype kLongestFragment = 1'000'000; // aliases of aliases double with each step
 constexpr int kLongList = 40; // an IN list beyond this is kept as text, so that it takes no parameters
 
 QString QuoteText(const QString &text) {
@@ -14,6 +15,18 @@ QString QuoteText(const QString &text) {
     quoted.remove(QChar(0));
     quoted.replace(u'\'', QStringLiteral("''"));
     return u'\'' + quoted + u'\'';
+}
+
+/// True where one of the values is not NULL; in groups, since SQLite limits the arguments of a call.
+QString AnyIsFilled(const QStringList &values) {
+    constexpr qsizetype kGroup = 50;
+    QStringList groups;
+    for (qsizetype i = 0; i < values.size(); i += kGroup) {
+        const QStringList group = values.mid(i, kGroup);
+        groups.append(group.size() == 1 ? group.front() + QStringLiteral(" IS NOT NULL")
+                                        : QStringLiteral("coalesce(%1) IS NOT NULL").arg(group.join(u',')));
+    }
+    return groups.join(QStringLiteral(" OR "));
 }
 
 bool IsDigital(Kind kind) {
@@ -143,6 +156,9 @@ Fragment Compiler::EmitAlias(const ast::SelectItem &item, int position, Scope &s
     expanding_.push_back(&item);
     Fragment result = Emit(*item.expr, scope);
     expanding_.pop_back();
+    if (result.sql.size() > kLongestFragment) {
+        throw SqlError(ErrorCode::TooComplex, QStringLiteral("The statement is too complex."), position);
+    }
     return result;
 }
 
@@ -277,7 +293,7 @@ Fragment Compiler::EmitConcat(const ast::Binary &binary, Scope &scope) {
     }
     QString sql = u'(' + texts.join(QStringLiteral(" || ")) + u')';
     if (!never_null) {
-        sql = QStringLiteral("(CASE WHEN coalesce(%1) IS NOT NULL THEN %2 END)").arg(nullable.join(u','), sql);
+        sql = QStringLiteral("(CASE WHEN %1 THEN %2 END)").arg(AnyIsFilled(nullable), sql);
     }
     return {sql, Kind::Memo, false, false};
 }
@@ -401,7 +417,9 @@ Fragment Compiler::EmitSubquery(const ast::Query &query, int position, Scope &sc
         throw SqlError(ErrorCode::InvalidSubquery, QStringLiteral("A sub-query in an expression must give one field."),
                        position);
     }
-    return {u'(' + text.sql + u')', text.columns.front().value.kind, false, false};
+    const QString form =
+        GivesOneRow(query) ? QStringLiteral("(%1)") : QStringLiteral("(SELECT fn__only(c0) FROM (%1))");
+    return {form.arg(text.sql), text.columns.front().value.kind, false, false};
 }
 
 QString Compiler::EmitCondition(const ast::Expr &expr, Scope &scope) {

@@ -55,6 +55,13 @@ QString Folded(const QString &name) {
     return name.toCaseFolded();
 }
 
+/// A key of ORDER BY or GROUP BY; SQLite takes a bare whole number there for a place in the select list.
+QString SortKey(const QString &sql) {
+    const bool number =
+        std::all_of(sql.begin(), sql.end(), [](QChar c) { return c.isDigit() || QStringView(u"()+- ").contains(c); });
+    return number ? QStringLiteral("CAST(%1 AS INTEGER)").arg(sql) : sql;
+}
+
 std::optional<int> Ordinal(const ast::OrderItem &item) {
     const auto *literal = std::get_if<ast::Literal>(&item.expr->node);
     if (literal && literal->kind == Kind::Integer) {
@@ -85,6 +92,12 @@ bool Compiler::Aggregates(const ast::Select &select, const std::vector<ast::Orde
     }
     return std::any_of(order_by.begin(), order_by.end(),
                        [](const ast::OrderItem &item) { return HasAggregate(*item.expr); });
+}
+
+/// True for an aggregate without GROUP BY.
+bool Compiler::GivesOneRow(const ast::Query &query) {
+    const auto *select = std::get_if<std::unique_ptr<ast::Select>>(&query.terms.front().node);
+    return query.terms.size() == 1 && select && (*select)->group_by.empty() && Aggregates(**select, query.order_by);
 }
 
 void Compiler::CheckGrouped(const ast::Expr &expr, const QStringList &group, Scope &scope) {
@@ -225,7 +238,7 @@ void Compiler::EmitOrder(const ast::Select &select, const std::vector<ast::Order
                 }
             }
         }
-        parts.order.append(Collated(key) + direction);
+        parts.order.append(SortKey(Collated(key)) + direction);
         if (place >= 0) {
             const bool collate = IsText(key.kind) || key.kind == Kind::Unknown;
             parts.order_positions.append(QStringLiteral("c%1%2").arg(
@@ -249,13 +262,16 @@ Compiler::SelectParts Compiler::EmitSelectParts(const ast::Select &select, const
     QStringList group; // as the fragments stand, for comparison
     for (const ast::ExprPtr &expr : select.group_by) {
         const Fragment fragment = Emit(*expr, scope);
-        parts.group.append(Collated(fragment));
+        parts.group.append(SortKey(Collated(fragment)));
         group.append(ToValue(fragment));
     }
     aggregates_allowed_ = true;
     parts.columns = EmitItems(select.items, scope);
     if (select.having) {
+        scope.aliases = nullptr;
         parts.having = EmitCondition(*select.having, scope);
+        CheckGrouped(*select.having, group, scope);
+        scope.aliases = &select.items;
     }
     QStringList collated_group = std::exchange(parts.group, group);
     EmitOrder(select, order_by, parts, scope);
@@ -269,9 +285,6 @@ Compiler::SelectParts Compiler::EmitSelectParts(const ast::Select &select, const
                 throw SqlError(ErrorCode::NotInAggregate, QStringLiteral("'*' cannot stand beside an aggregate."),
                                item.position);
             }
-        }
-        if (select.having) {
-            CheckGrouped(*select.having, group, scope);
         }
     }
     parts.group = collated_group;

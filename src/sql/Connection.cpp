@@ -167,6 +167,11 @@ void Statement::Reset() {
     sqlite3_reset(handle_.get());
 }
 
+bool Statement::TakeRecompiled() {
+    constexpr int kReset = 1;
+    return sqlite3_stmt_status(handle_.get(), SQLITE_STMTSTATUS_REPREPARE, kReset) > 0;
+}
+
 int Statement::ColumnCount() const {
     return sqlite3_column_count(handle_.get());
 }

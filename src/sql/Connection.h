@@ -27,6 +27,8 @@ public:
     bool Step();
     /// Ready for the next run; keeps no lock.
     void Reset();
+    /// True once after SQLite had to compile the statement again, since the schema had changed.
+    bool TakeRecompiled();
     int ColumnCount() const;
     Value Column(int column) const;
     QString ColumnText(int column) const;

@@ -60,21 +60,32 @@ void Database::Impl::ForgetStatements() {
     plans.clear();
 }
 
-void Database::Impl::ReloadIfChanged() {
+/// True where the schema is not the one that was known.
+bool Database::Impl::ReloadIfChanged() {
     const qint64 version = connection.Single(u"PRAGMA schema_version").Integer();
     if (version != schema_version) {
         ForgetStatements();
         catalogue.Load(connection);
         schema_version = version;
+        return true;
     }
+    return false;
 }
 
 int Database::Impl::OnProgress(void *self) {
     auto &impl = *static_cast<Impl *>(self);
-    if (!impl.progress || impl.progress_timer.elapsed() < kProgressMilliseconds) {
+    // A statement that the progress itself runs is not to call it again.
+    if (!impl.progress || impl.in_progress || impl.progress_timer.elapsed() < kProgressMilliseconds) {
         return 0;
     }
-    const bool stop = impl.progress();
+    bool stop = true;
+    impl.in_progress = true;
+    try {
+        stop = impl.progress();
+    } catch (...) {
+        // No exception may pass through SQLite; the statement ends as if it had been asked to.
+    }
+    impl.in_progress = false;
     impl.progress_timer.restart();
     return stop && impl.interruptible ? 1 : 0;
 }
@@ -99,6 +110,10 @@ void Database::Impl::BindLiterals(const Compiled &compiled, Statement &statement
 
 std::shared_ptr<CachedStatement> Database::Impl::PrepareAnew(QStringView sql) {
     const ast::Statement statement = Parse(sql);
+    if (!statement.parameters.empty()) {
+        throw SqlError(ErrorCode::ParametersExpected,
+                       QStringLiteral("The parameter '%1' has no value.").arg(statement.parameters.front().name));
+    }
     if (!batch->IsOpen()) {
         ReloadIfChanged();
     }
@@ -295,7 +310,9 @@ std::unique_ptr<Recordset::Data> Database::Impl::RunTransform(const ast::Transfo
         const Compiled pivot = Compiler(catalogue).CompilePivotValues(transform);
         Statement statement = connection.Prepare(pivot.sql);
         BindLiterals(pivot, statement);
+        const Shape literals = shape; // what the progress lets in may scan another statement
         auto values = Collect(pivot, statement);
+        shape = literals;
         headings = std::move(values->cells);
     }
     const Compiled compiled = Compiler(catalogue).CompileTransform(transform, headings);
@@ -412,44 +429,68 @@ const Environment &Database::GetEnvironment() const {
     return impl_->environment;
 }
 
-Recordset Database::OpenRecordset(QStringView sql) {
-    const std::shared_ptr<CachedStatement> cached = impl_->Prepare(sql);
-    if (!cached) {
-        const ast::Statement statement = Parse(sql);
-        if (const auto *transform = std::get_if<ast::Transform>(&statement.node)) {
-            return Recordset(impl_->RunTransform(*transform));
+template <class Run>
+auto Database::Impl::WithStatement(QStringView sql, Run run) {
+    const std::shared_ptr<CachedStatement> cached = Prepare(sql);
+    try {
+        auto result = run(cached.get());
+        const bool recompiled = cached && cached->statement && cached->statement.TakeRecompiled();
+        const bool reloaded = recompiled && ReloadIfChanged();
+        if (!reloaded || cached->compiled.type != Compiled::Type::Query) {
+            return result;
         }
-    } else if (cached->compiled.type == Compiled::Type::Query) {
-        return Recordset(impl_->ReadRows(*cached));
+    } catch (const SqlError &) {
+        if (!cached || !ReloadIfChanged()) {
+            throw;
+        }
     }
-    Execute(sql);
-    auto data = std::make_unique<Recordset::Data>();
-    data->database = impl_.get();
-    data->shape = std::make_shared<ResultShape>();
-    return Recordset(std::move(data));
+    return run(Prepare(sql).get());
+}
+
+Recordset Database::OpenRecordset(QStringView sql) {
+    return Recordset(impl_->WithStatement(sql, [&](CachedStatement *cached) {
+        if (cached && cached->compiled.type == Compiled::Type::Query) {
+            return impl_->ReadRows(*cached);
+        }
+        if (!cached) {
+            const ast::Statement statement = Parse(sql);
+            if (const auto *transform = std::get_if<ast::Transform>(&statement.node)) {
+                return impl_->RunTransform(*transform);
+            }
+        }
+        impl_->Run(sql, cached);
+        auto data = std::make_unique<Recordset::Data>();
+        data->database = impl_.get();
+        data->shape = std::make_shared<ResultShape>();
+        return data;
+    }));
 }
 
 int Database::Execute(QStringView sql) {
-    const std::shared_ptr<CachedStatement> cached = impl_->Prepare(sql);
+    return impl_->WithStatement(sql, [&](CachedStatement *cached) { return impl_->Run(sql, cached); });
+}
+
+/// `cached` is null for the statements that are never kept.
+int Database::Impl::Run(QStringView sql, CachedStatement *cached) {
     if (!cached) {
         const ast::Statement statement = Parse(sql);
         if (const auto *transform = std::get_if<ast::Transform>(&statement.node)) {
-            impl_->RunTransform(*transform);
+            RunTransform(*transform);
         } else {
-            impl_->RunDdl(statement);
+            RunDdl(statement);
         }
         return 0;
     }
     switch (cached->compiled.type) {
     case Compiled::Type::Query:
-        impl_->ReadRows(*cached);
+        ReadRows(*cached);
         return 0;
     case Compiled::Type::Change:
-        return impl_->RunChange(*cached);
+        return RunChange(*cached);
     case Compiled::Type::JoinUpdate:
-        return impl_->RunJoinUpdate(*cached);
+        return RunJoinUpdate(*cached);
     case Compiled::Type::SelectInto:
-        return impl_->RunSelectInto(cached->compiled);
+        return RunSelectInto(cached->compiled);
     }
     return 0;
 }
@@ -464,6 +505,9 @@ bool Database::GivesRows(QStringView sql) {
 }
 
 const Catalogue &Database::GetCatalogue() {
+    if (!impl_->batch->IsOpen()) {
+        impl_->ReloadIfChanged();
+    }
     return impl_->catalogue;
 }
 

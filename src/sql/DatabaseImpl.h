@@ -28,6 +28,7 @@ struct Database::Impl {
     std::shared_ptr<CachedStatement> Prepare(QStringView sql);
     std::shared_ptr<CachedStatement> PrepareAnew(QStringView sql);
 
+    int Run(QStringView sql, CachedStatement *cached);
     std::unique_ptr<Recordset::Data> ReadRows(CachedStatement &cached);
     int RunChange(CachedStatement &cached);
     int RunJoinUpdate(CachedStatement &cached);
@@ -47,7 +48,12 @@ struct Database::Impl {
     /// How rows of a result are written; the reference holds until the next call.
     EditPlan &PlanOf(const std::shared_ptr<const ResultShape> &result);
 
-    void ReloadIfChanged();
+    /// Runs `run` on the prepared statement; once more on a new one where another process has changed the schema since
+    /// it was prepared and `run` failed or gave rows by the old one.
+    template <class Run>
+    auto WithStatement(QStringView sql, Run run);
+
+    bool ReloadIfChanged();
     void ForgetStatements();
     static int OnProgress(void *self);
 
@@ -65,6 +71,7 @@ struct Database::Impl {
     qint64 schema_version = -1;
     std::function<bool()> progress;
     QElapsedTimer progress_timer;
+    bool in_progress = false;
     std::atomic<bool> interruptible = false;
     QElapsedTimer clock;
 };

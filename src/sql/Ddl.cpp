@@ -111,6 +111,9 @@ const TableInfo &Ddl::RequireTable(QStringView name) const {
 }
 
 void Ddl::RequireNewTable(QStringView name) const {
+    if (name.startsWith(u"sqlite_", Qt::CaseInsensitive)) {
+        throw SqlError(ErrorCode::DdlSyntax, QStringLiteral("The name '%1' is reserved.").arg(name));
+    }
     if (catalogue_.FindTable(name) != nullptr) {
         throw SqlError(ErrorCode::TableExists, QStringLiteral("There is a table '%1' already.").arg(name));
     }
@@ -434,6 +437,11 @@ void Ddl::DropColumn(QStringView table_name, QStringView column_name) {
         throw SqlError(ErrorCode::FieldIndexed,
                        QStringLiteral("Field '%1' of table '%2' can't be deleted: it is part of an index or of a "
                                       "reference.")
+                           .arg(column.name, table.name));
+    }
+    if (table.columns.size() == 1) {
+        throw SqlError(ErrorCode::DdlSyntax,
+                       QStringLiteral("Field '%1' can't be deleted: it is the only one of table '%2'.")
                            .arg(column.name, table.name));
     }
     Run([&] {

@@ -24,6 +24,32 @@ EditPlan::EditPlan(std::shared_ptr<const ResultShape> shape, const Catalogue &ca
     for (const QString &name : shape_->base_columns) {
         columns_.push_back(table && !name.isEmpty() ? table->FindColumn(name) : nullptr);
     }
+    const IndexInfo *key = table ? table->PrimaryKey() : nullptr;
+    for (const QString &name : key ? key->columns : QStringList()) {
+        KeyColumn &part = key_.emplace_back(KeyColumn{.column = table->FindColumn(name), .fields = {}});
+        for (size_t i = 0; i < columns_.size(); ++i) {
+            if (columns_[i] && columns_[i] == part.column) {
+                part.fields.push_back(int(i));
+            }
+        }
+    }
+}
+
+void EditPlan::RequireKey(bool is_new, const std::vector<std::optional<Value>> &values) const {
+    for (const KeyColumn &part : key_) {
+        bool set = false;
+        bool filled = part.column->kind == Kind::Boolean;
+        for (const int field : part.fields) {
+            if (const std::optional<Value> &value = values[size_t(field)]) {
+                set = true;
+                filled = !value->IsNull();
+            }
+        }
+        if (!filled && (set || is_new)) {
+            throw SqlError(ErrorCode::NullNotAllowed,
+                           QStringLiteral("The field takes no Null: %1.%2.").arg(shape_->table, part.column->name));
+        }
+    }
 }
 
 std::shared_ptr<Statement> EditPlan::StatementFor(const Connection &connection, bool is_new,

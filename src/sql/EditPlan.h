@@ -19,6 +19,9 @@ public:
     bool IsFor(const Catalogue &catalogue) const { return generation_ == catalogue.Generation(); }
     /// The column behind a field; null where the field cannot be changed.
     const ColumnInfo *Column(int ordinal) const { return columns_[size_t(ordinal)]; }
+    /// Throws NullNotAllowed where the row would lack a part of its key: the rules of the schema let such a row fall
+    /// without a word, here a fault is due.
+    void RequireKey(bool is_new, const std::vector<std::optional<Value>> &values) const;
 
     /// The statement that writes those fields that have a value, in their order: a new row, or else the row whose id is
     /// bound behind them.
@@ -26,6 +29,11 @@ public:
                                             const std::vector<std::optional<Value>> &values);
 
 private:
+    /// A column of the primary key and the fields that show it.
+    struct KeyColumn {
+        const ColumnInfo *column = nullptr;
+        std::vector<int> fields;
+    };
     struct Kept {
         bool is_new = false;
         std::vector<bool> fields;
@@ -35,6 +43,7 @@ private:
 
     std::shared_ptr<const ResultShape> shape_;
     std::vector<const ColumnInfo *> columns_;
+    std::vector<KeyColumn> key_;
     std::vector<Kept> kept_;
     int generation_;
 };

@@ -46,6 +46,7 @@ const FunctionInfo *FindFunction(QStringView name);
 ///                                  beyond 32 bits NULL
 ///   fn__to_real(x), fn__to_date(x) likewise
 ///   fn__to_boolean(x)              -1 or 0, NULL reads as 0
+///   fn__only(x)                    aggregate: the value of the only row, raises TooManyRows on a second
 ///   fn__divide(a, b), fn__int_divide(a, b), fn__mod(a, b), fn__power(a, b)
 ///                                  raise DivisionByZero where they must
 ///   fn__add(a, b)                  + of two values whose kinds show only at run time: texts join, else addition

@@ -8,6 +8,12 @@ namespace ostrand::sql {
 
 namespace {
 
+void RequireField(int ordinal, int count) {
+    if (ordinal < 0 || ordinal >= count) {
+        throw SqlError(ErrorCode::ItemNotFound, QStringLiteral("The result has no field %1.").arg(ordinal));
+    }
+}
+
 SqlError NoRow() {
     return {ErrorCode::NoCurrentRecord, QStringLiteral("There is no current record.")};
 }
@@ -85,6 +91,7 @@ const Value &Recordset::Get(int ordinal) const {
     if (Eof()) {
         throw NoRow();
     }
+    RequireField(ordinal, data_->columns);
     return data_->cells[size_t(data_->current) * size_t(data_->columns) + size_t(ordinal)];
 }
 
@@ -138,6 +145,7 @@ void Recordset::Set(int ordinal, const Value &value) {
     if (data_->editing == Data::Editing::None) {
         throw SqlError(ErrorCode::NotUpdatable, QStringLiteral("No change of this row was begun."));
     }
+    RequireField(ordinal, int(data_->pending.size()));
     const ColumnInfo *info = data_->database->PlanOf(data_->shape).Column(ordinal);
     if (!info) {
         throw SqlError(
@@ -153,6 +161,7 @@ void Recordset::Update() {
         throw SqlError(ErrorCode::NotUpdatable, QStringLiteral("No change of this row was begun."));
     }
     const bool is_new = data_->editing == Data::Editing::New;
+    data_->database->PlanOf(data_->shape).RequireKey(is_new, data_->pending);
     const bool any = std::any_of(data_->pending.begin(), data_->pending.end(),
                                  [](const std::optional<Value> &value) { return value.has_value(); });
     if (!is_new && !any) {

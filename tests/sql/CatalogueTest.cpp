@@ -16,7 +16,7 @@ TEST_F(CatalogueTest, TypesGoThroughTheFileUnchanged) {
     };
     const Row rows[] = {
         {u"varchar"_s, Kind::Text, 255, u"text"_s},      {u"varchar(4)"_s, Kind::Text, 4, u"text"_s},
-        {u"text"_s, Kind::Text, 255, u"text"_s},         {u"NVARCHAR(300)"_s, Kind::Text, 300, u"text"_s},
+        {u"text"_s, Kind::Text, 255, u"text"_s},         {u"NVARCHAR(200)"_s, Kind::Text, 200, u"text"_s},
         {u"char"_s, Kind::Text, 255, u"text"_s},         {u"character"_s, Kind::Text, 255, u"text"_s},
         {u"string"_s, Kind::Text, 255, u"text"_s},       {u"alphanumeric"_s, Kind::Text, 255, u"text"_s},
         {u"memo"_s, Kind::Memo, 0, u"text"_s},           {u"longtext"_s, Kind::Memo, 0, u"text"_s},

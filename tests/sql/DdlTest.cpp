@@ -70,7 +70,7 @@ TEST_F(DdlTest, FaultyCreationsLeaveNothingBehind) {
         {u"T"_s, {u"A varchar"_s}, {orphan}, ErrorCode::UnknownTable},
         {u"T"_s, {u"A varchar REFERENCES Old(X)"_s}, {}, ErrorCode::FieldNotFound},
         {u"T"_s, {u"A varchar REFERENCES Old(B)"_s}, {}, ErrorCode::IndexNotFound},
-        {u"sqlite_x"_s, {u"A varchar"_s}, {}, ErrorCode::Internal},
+        {u"sqlite_x"_s, {u"A varchar"_s}, {}, ErrorCode::DdlSyntax},
     };
     for (const Row &row : rows) {
         EXPECT_EQ(FaultOf([&] { Create(row.table, row.columns, row.constraints); }), int(row.code))
@@ -189,7 +189,7 @@ TEST_F(DdlTest, DropsColumnsThatNothingNeeds) {
                   Create(u"One"_s, {u"A varchar"_s});
                   ddl_.DropColumn(u"One", u"A");
               }),
-              int(ErrorCode::Internal));
+              int(ErrorCode::DdlSyntax));
     EXPECT_EQ(catalogue_.FindTable(u"One")->columns.size(), 1U);
 }
 

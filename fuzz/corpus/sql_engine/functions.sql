@@ -1,0 +1,1 @@
+SELECT IIF(Seen Is Null, 'x', Format(Seen, 'yyyy')), SWITCH(Price > 1, 'a', True, 'b'), DateAdd('m', 1, Seen), Nz(Notes, '') & Left(Title, 3), InStr(1, Title, 'o'), Replace(Title, 'e', 'u') FROM Films

@@ -1,0 +1,2 @@
+SELECT IsCast, COUNT(*) AS n, SUM(Price), FIRST(Title), StDev(Price) FROM Films GROUP BY IsCast HAVING COUNT(*) > 0 ORDER BY COUNT(*) DESC
+SELECT TOP 2 Title FROM Films ORDER BY Seen DESC

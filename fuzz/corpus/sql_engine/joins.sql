@@ -1,0 +1,2 @@
+SELECT f.Title, t.Tag FROM Films f LEFT JOIN Tags t ON t.FilmID = f.FilmID WHERE f.Title LIKE '*o*' ORDER BY f.Title, t.Tag
+SELECT * FROM (Films f INNER JOIN Users u ON u.UserID = f.UserID) LEFT JOIN Tags t ON f.FilmID = t.FilmID

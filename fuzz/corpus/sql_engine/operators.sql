@@ -1,0 +1,1 @@
+SELECT 1 + '2', -2 ^ 2, 7 \ 2 MOD 3, 'a' & Null & #11/23/2009#, Not True Xor False Eqv 1 Imp 0, Price BETWEEN 10 AND 1, Title Not Like '[!a-c]?*#' FROM Films WHERE EXISTS (SELECT * FROM Tags WHERE Tags.FilmID = Films.FilmID)
