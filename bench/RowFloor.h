@@ -206,7 +206,6 @@ private:
             if (!begun_) {
                 begin_->Run();
                 begun_ = true;
-                statements_ = 0;
                 since_begin_.start();
             }
             PlainStatement &insert = *tables_[row.table].insert;
@@ -214,15 +213,13 @@ private:
                 sqlite3_bind_value(insert.Get(), int(i) + 1, row.values[i]);
             }
             insert.Run();
-            ++statements_;
             ++row_count_;
         }
     }
-    /// At the end of a profile, as the engine does it.
+    /// Between two profiles, as the engine does it.
     void CommitIfDue() {
-        constexpr int kMostStatements = 500;
         constexpr qint64 kMostMilliseconds = 300;
-        if (begun_ && (statements_ > kMostStatements || since_begin_.elapsed() > kMostMilliseconds)) {
+        if (begun_ && since_begin_.elapsed() > kMostMilliseconds) {
             commit_->Run();
             begun_ = false;
         }
@@ -247,7 +244,6 @@ private:
     std::unique_ptr<PlainStatement> commit_ =
         std::make_unique<PlainStatement>(target_.Handle(), QStringLiteral("COMMIT"));
     QElapsedTimer since_begin_;
-    int statements_ = 0;
     qint64 row_count_ = 0;
     bool begun_ = false;
 };

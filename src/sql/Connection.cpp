@@ -1,5 +1,7 @@
 #include "sql/Connection.h"
 
+#include <array>
+
 #include <sqlite3.h>
 
 namespace ostrand::sql {
@@ -91,11 +93,33 @@ SqlError MakeSqliteError(sqlite3 *handle) {
     return {ErrorCode::Internal, text};
 }
 
+/// Nearly every text is short and of ASCII, and needs no memory of its own on its way.
+bool BindShortAscii(sqlite3_stmt *handle, int parameter, const QString &text) {
+    constexpr qsizetype kShort = 256;
+    if (text.size() > kShort) {
+        return false;
+    }
+    std::array<char, kShort> bytes;
+    char16_t all = 0;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const char16_t unit = text.utf16()[i];
+        all |= unit;
+        bytes[size_t(i)] = char(unit);
+    }
+    if (all >= 0x80) {
+        return false;
+    }
+    sqlite3_bind_text64(handle, parameter, bytes.data(), sqlite3_uint64(text.size()), SQLITE_TRANSIENT, SQLITE_UTF8);
+    return true;
+}
+
 void BindText(sqlite3_stmt *handle, int parameter, const QString &text) {
+    if (BindShortAscii(handle, parameter, text)) {
+        return;
+    }
     const QByteArray utf8 = ToUtf8(text);
-    // A null pointer would bind NULL; the empty text is none.
-    const char *data = utf8.isEmpty() ? "" : utf8.constData();
-    sqlite3_bind_text64(handle, parameter, data, sqlite3_uint64(utf8.size()), SQLITE_TRANSIENT, SQLITE_UTF8);
+    sqlite3_bind_text64(handle, parameter, utf8.constData(), sqlite3_uint64(utf8.size()), SQLITE_TRANSIENT,
+                        SQLITE_UTF8);
 }
 
 } // namespace

@@ -57,6 +57,7 @@ void Database::Impl::Attach(Connection opened) {
 void Database::Impl::ForgetStatements() {
     cache.Clear();
     edits.clear();
+    plans.clear();
 }
 
 /// True where the schema is not the one that was known.
@@ -355,6 +356,41 @@ int Database::Impl::RunEdit(const QString &sql, const std::vector<Value> &values
         } catch (const SqlError &) {
             statement->Reset();
             throw;
+        }
+        const int changes = connection.Changes();
+        statement->Reset();
+        return changes;
+    });
+}
+
+EditPlan &Database::Impl::PlanOf(const std::shared_ptr<const ResultShape> &result) {
+    constexpr size_t kMostPlans = 64;
+    const auto known = plans.find(result.get());
+    if (known != plans.end() && known->second.IsFor(catalogue)) {
+        return known->second;
+    }
+    if (known != plans.end()) {
+        plans.erase(known);
+    } else if (plans.size() == kMostPlans) {
+        plans.clear();
+    }
+    return plans.emplace(result.get(), EditPlan(result, catalogue)).first->second;
+}
+
+int Database::Impl::RunRowEdit(const Recordset::Data &data) {
+    return Write([&] {
+        const bool is_new = data.editing == Recordset::Data::Editing::New;
+        const std::shared_ptr<Statement> statement = PlanOf(data.shape).StatementFor(connection, is_new, data.pending);
+        int parameter = 0;
+        for (const std::optional<Value> &value : data.pending) {
+            if (value) {
+                statement->Bind(parameter++, *value);
+            }
+        }
+        if (!is_new) {
+            statement->Bind(parameter, Value(data.row_ids[size_t(data.current)]));
+        }
+        while (statement->Step()) {
         }
         const int changes = connection.Changes();
         statement->Reset();

@@ -4,12 +4,14 @@
 #include "sql/Batch.h"
 #include "sql/Database.h"
 #include "sql/Ddl.h"
+#include "sql/EditPlan.h"
 #include "sql/LockFile.h"
 #include "sql/StatementCache.h"
 
 #include <QElapsedTimer>
 
 #include <atomic>
+#include <unordered_map>
 
 namespace ostrand::sql {
 
@@ -41,6 +43,10 @@ struct Database::Impl {
     int Write(const std::function<int()> &change);
     /// Runs SQLite text with values, prepared once and kept until the schema changes. Not OR IGNORE: throws.
     int RunEdit(const QString &sql, const std::vector<Value> &values);
+    /// Writes the row that a result set has begun. Throws as RunEdit does.
+    int RunRowEdit(const Recordset::Data &data);
+    /// How rows of a result are written; the reference holds until the next call.
+    EditPlan &PlanOf(const std::shared_ptr<const ResultShape> &result);
 
     /// Runs `run` on the prepared statement; once more on a new one where another process has changed the schema since
     /// it was prepared and `run` failed or gave rows by the old one.
@@ -60,6 +66,7 @@ struct Database::Impl {
     std::optional<Ddl> ddl;
     StatementCache cache;
     QHash<QString, std::shared_ptr<Statement>> edits;
+    std::unordered_map<const ResultShape *, EditPlan> plans;
     Shape shape;
     qint64 schema_version = -1;
     std::function<bool()> progress;
@@ -81,8 +88,6 @@ struct Recordset::Data {
     int current = 0;
     Editing editing = Editing::None;
     std::vector<std::optional<Value>> pending;
-
-    void RequireKey() const;
 };
 
 } // namespace ostrand::sql

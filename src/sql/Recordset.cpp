@@ -146,9 +146,7 @@ void Recordset::Set(int ordinal, const Value &value) {
         throw SqlError(ErrorCode::NotUpdatable, QStringLiteral("No change of this row was begun."));
     }
     RequireField(ordinal, int(data_->pending.size()));
-    const QString &column = data_->shape->base_columns[size_t(ordinal)];
-    const TableInfo *table = data_->database->catalogue.FindTable(data_->shape->table);
-    const ColumnInfo *info = table && !column.isEmpty() ? table->FindColumn(column) : nullptr;
+    const ColumnInfo *info = data_->database->PlanOf(data_->shape).Column(ordinal);
     if (!info) {
         throw SqlError(
             ErrorCode::NotUpdatable,
@@ -158,63 +156,19 @@ void Recordset::Set(int ordinal, const Value &value) {
         ConvertForColumn(value, KindOf(value), info->kind, info->length, data_->database->environment);
 }
 
-/// The rules of the schema let a row without its whole key fall; here a fault is due.
-void Recordset::Data::RequireKey() const {
-    const TableInfo *table = database->catalogue.FindTable(shape->table);
-    const IndexInfo *key = table ? table->PrimaryKey() : nullptr;
-    for (const QString &column : key ? key->columns : QStringList()) {
-        bool set = false;
-        bool filled = table->FindColumn(column)->kind == Kind::Boolean;
-        for (size_t i = 0; i < pending.size(); ++i) {
-            if (pending[i] && column.compare(shape->base_columns[i], Qt::CaseInsensitive) == 0) {
-                set = true;
-                filled = !pending[i]->IsNull();
-            }
-        }
-        if (!filled && (set || editing == Editing::New)) {
-            throw SqlError(ErrorCode::NullNotAllowed,
-                           QStringLiteral("The field takes no Null: %1.%2.").arg(table->name, column));
-        }
-    }
-}
-
 void Recordset::Update() {
     if (data_->editing == Data::Editing::None) {
         throw SqlError(ErrorCode::NotUpdatable, QStringLiteral("No change of this row was begun."));
     }
     const bool is_new = data_->editing == Data::Editing::New;
-    data_->RequireKey();
-    QString names;
-    QString marks;
-    std::vector<Value> values;
-    for (size_t i = 0; i < data_->pending.size(); ++i) {
-        if (!data_->pending[i]) {
-            continue;
-        }
-        if (!names.isEmpty()) {
-            names += u',';
-            marks += u',';
-        }
-        names += QuoteName(data_->shape->base_columns[i]);
-        marks += u'?';
-        if (!is_new) {
-            names += QStringLiteral(" = ?");
-        }
-        values.push_back(*data_->pending[i]);
-    }
-    const QString table = QuoteName(data_->shape->table);
-    QString sql;
-    if (is_new) {
-        sql = values.empty() ? QStringLiteral("INSERT INTO %1 DEFAULT VALUES").arg(table)
-                             : QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)").arg(table, names, marks);
-    } else if (values.empty()) {
+    data_->database->PlanOf(data_->shape).RequireKey(is_new, data_->pending);
+    const bool any = std::any_of(data_->pending.begin(), data_->pending.end(),
+                                 [](const std::optional<Value> &value) { return value.has_value(); });
+    if (!is_new && !any) {
         CancelUpdate();
         return;
-    } else {
-        sql = QStringLiteral("UPDATE %1 SET %2 WHERE %3 = ?").arg(table, names, data_->shape->row_id);
-        values.emplace_back(data_->row_ids[size_t(data_->current)]);
     }
-    const int changes = data_->database->RunEdit(sql, values);
+    const int changes = data_->database->RunRowEdit(*data_);
     if (changes == 0) {
         // The rules of the schema let a row fall without a word; here a word is due.
         throw SqlError(ErrorCode::ParentMissing,

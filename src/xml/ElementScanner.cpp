@@ -1,7 +1,7 @@
 #include "xml/ElementScanner.h"
 
 #include "xml/ExpatParser.h"
-#include "xml/MarkupDigest.h"
+#include "xml/PlainElement.h"
 #include "xml/TreeBuilder.h"
 
 using namespace Qt::StringLiterals;
@@ -157,6 +157,7 @@ int XMLCALL ElementScanner::Pass::OnUnknownEncoding(void *data, const XML_Char *
         markup.form = MarkupEncoding::Form::Bytes;
         for (std::size_t i = 0; i < markup.low_byte.size(); ++i) {
             markup.low_byte[i] = char(encoding->map[i] & 0xFF);
+            markup.character[i] = char16_t(encoding->map[i]);
         }
     }
     return status;
@@ -199,6 +200,8 @@ void ElementScanner::Pass::StartRoot(const XML_Char *name) {
         Stop(u"the document type declaration is too long"_s);
         return;
     }
+    scanner_.encoding_ = encoding_;
+    scanner_.own_entities_ = has_doctype_;
     scanner_.prolog_ = (has_doctype_ ? QByteArray() : Bytes(0, declaration_end_)) + Bytes(from, BehindHere());
 }
 
@@ -291,6 +294,24 @@ XmlResult ElementScanner::Scan(const std::function<bool()> &between) {
 }
 
 std::optional<pugi::xml_document> ElementScanner::Read(const ScannedElement &element) {
+    std::optional<pugi::xml_document> document = ReadPlain(element);
+    if (!document) {
+        document = ReadAny(element);
+    }
+    const bool wanted = document && query_.element == document->document_element().name();
+    return wanted ? std::move(document) : std::nullopt;
+}
+
+std::optional<pugi::xml_document> ElementScanner::ReadPlain(const ScannedElement &element) {
+    if (own_entities_ || element.copy > 0 || element.length > kSmallestBlock) {
+        return std::nullopt;
+    }
+    file_.seek(element.offset);
+    const QByteArray markup = file_.read(element.length);
+    return markup.size() == element.length ? ReadPlainElement(markup, encoding_) : std::nullopt;
+}
+
+std::optional<pugi::xml_document> ElementScanner::ReadAny(const ScannedElement &element) {
     TreeBuilder builder(2, element.copy);
     bool sound = builder.Feed(prolog_);
     file_.seek(element.offset);
@@ -299,9 +320,7 @@ std::optional<pugi::xml_document> ElementScanner::Read(const ScannedElement &ele
         left -= block.size();
         sound = !block.isEmpty() && builder.Feed(block);
     }
-    pugi::xml_document &document = builder.Document();
-    const bool wanted = sound && query_.element == document.document_element().name();
-    return wanted ? std::optional<pugi::xml_document>(std::move(document)) : std::nullopt;
+    return sound ? std::optional(std::move(builder.Document())) : std::nullopt;
 }
 
 } // namespace ostrand

@@ -1,6 +1,7 @@
 // Reads a big XML file element by element, without ever holding it whole.
 #pragma once
 
+#include "xml/MarkupDigest.h"
 #include "xml/XmlEventReader.h"
 
 #include <QByteArray>
@@ -62,10 +63,15 @@ public:
 private:
     class Pass;
 
+    std::optional<pugi::xml_document> ReadPlain(const ScannedElement &element);
+    std::optional<pugi::xml_document> ReadAny(const ScannedElement &element);
+
     QFile file_;
     ScanQuery query_;
     std::vector<ScannedElement> elements_;
-    QByteArray prolog_; // what stands before the first child of the root and is needed to read one
+    MarkupEncoding encoding_;
+    bool own_entities_ = false; // a document type declaration may define some
+    QByteArray prolog_;         // what stands before the first child of the root and is needed to read one
 };
 
 } // namespace ostrand

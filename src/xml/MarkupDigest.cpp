@@ -13,6 +13,7 @@ MarkupEncoding MarkupEncoding::Latin1() {
     encoding.form = Form::Bytes;
     for (std::size_t i = 0; i < encoding.low_byte.size(); ++i) {
         encoding.low_byte[i] = char(i);
+        encoding.character[i] = char16_t(i);
     }
     return encoding;
 }

@@ -16,6 +16,8 @@ struct MarkupEncoding {
     Form form = Form::Utf8;
     /// For Bytes: the low byte of each byte's character.
     std::array<char, 256> low_byte{};
+    /// For Bytes: each byte's character.
+    std::array<char16_t, 256> character{};
 
     static MarkupEncoding Latin1();
 };
