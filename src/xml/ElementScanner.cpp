@@ -300,7 +300,7 @@ std::optional<pugi::xml_document> ElementScanner::Read(const ScannedElement &ele
         sound = !block.isEmpty() && builder.Feed(block);
     }
     pugi::xml_document &document = builder.Document();
-    const bool wanted = sound && query_.element == document.document_element().name();
+    const bool wanted = sound && builder.IsDone() && query_.element == document.document_element().name();
     return wanted ? std::optional<pugi::xml_document>(std::move(document)) : std::nullopt;
 }
 
