@@ -231,6 +231,15 @@ TEST_F(ProfilerImport, OneIdentifierTwiceInAFileEndsWithTheLast) {
     EXPECT_EQ(Fields(u"Title"_s), u"Two"_s);
     EXPECT_TRUE(Import(Dvd("a1", "<Title>One</Title>") + Dvd("A1", "<Title>Two</Title>")));
     EXPECT_EQ(Rows(u"SELECT Title FROM Profiles WHERE ProfileID = 'key_a1'"), QStringList{u"Two"_s});
+    // The digest that stood at the start decides no more once another spelling has been written.
+    for (int pass = 0; pass < 2; ++pass) {
+        EXPECT_TRUE(Import(Dvd("A1", "<Title>One</Title>") + Dvd("a1", "<Title>Two</Title>") +
+                           Dvd("A1", "<Title>One</Title>")));
+        EXPECT_EQ(Rows(u"SELECT Title FROM Profiles WHERE ProfileID = 'key_a1'"), QStringList{u"One"_s});
+        EXPECT_TRUE(Import(Dvd("a1", "<Title>Two</Title>") + Dvd("A1", "<Title>One</Title>") +
+                           Dvd("a1", "<Title>Two</Title>")));
+        EXPECT_EQ(Rows(u"SELECT Title FROM Profiles WHERE ProfileID = 'key_a1'"), QStringList{u"Two"_s});
+    }
 }
 
 TEST_F(ProfilerImport, TheLockEntireKeepsTheProfile) {
