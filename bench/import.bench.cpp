@@ -1,178 +1,227 @@
-// A collection file of many profiles, imported new and again unchanged, against the bare parse of the file.
-// Usage: bench_import [profiles, default 2000]
+// How long the import of a collection file takes beside what no import can do without.
+//
+//   bench_import [--generator PROGRAM] [PROFILES...]
+//
+// For each size: a generated collection is read by the XML parser with no handler set but the one that knows the code
+// page (parse); imported into a new collection (import); imported again (again); and the rows of the collection are
+// written into a new file by prepared plain SQLite statements (rows). Each is measured in a process of its own, in
+// seconds of the processor, so that neither memory nor other programs blur it. Status 1 where a ratio is more than
+// twice its goal.
+#include "RowFloor.h"
+#include "SilentServices.h"
 
 #include "collection_files/ProfilerImport.h"
 #include "database/DatabaseFunctions.h"
 #include "shell/Session.h"
+#include "xml/ExpatParser.h"
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QFile>
+#include <QProcess>
 #include <QTemporaryDir>
 
-#include <expat.h>
-#include <sys/resource.h>
 
-#include <cstdio>
-
-using namespace Qt::StringLiterals;
-using namespace ostrand;
+namespace ostrand::bench {
 
 namespace {
 
-/// Nobody to ask and nothing to show.
-class SilentWorld : UserDialogs, ProgressView, EventPump, Clock, RandomNumbers, ProcessRunner, Folders, SystemLocale {
-public:
-    explicit SilentWorld(const QString &folder) :
-        folder_(folder), services_{*this, *this, *this, *this, *this, *this, *this, *this}, session(services_) {}
+using namespace Qt::StringLiterals;
 
-private:
-    MessageAnswer Show(const Message &) override { return MessageAnswer::Ok; }
-    std::optional<QString> InputText(const QString &, const QString &, const QString &) override { return {}; }
-    std::optional<QString> InputCombo(const QString &, const QString &, const QStringList &, const QString &) override {
-        return {};
-    }
-    QString OpenFile(const FileRequest &) override { return {}; }
-    QString SaveFile(const FileRequest &) override { return {}; }
-    void Opened(const QString &) override {}
-    void TitleChanged(const QString &) override {}
-    void LineChanged(const QString &) override {}
-    void DetailChanged(const QString &) override {}
-    void CounterChanged(const QString &) override {}
-    void BarChanged(int, int) override {}
-    void NodeAdded(const QString &, const QString &, const QString &) override {}
-    void NodeTicked(const QString &) override {}
-    void Finished() override {}
-    void Closed() override {}
-    void Turn() override {}
-    double Now() const override { return 45000; }
-    double SecondsSinceMidnight() const override { return 0; }
-    qint64 Milliseconds() const override { return 0; }
-    double Next() override {
-        state_ = state_ * 6364136223846793005u + 1442695040888963407u;
-        return double(state_ >> 11) / double(quint64(1) << 53);
-    }
-    std::optional<int> Run(const QString &, const QStringList &, ProcessStyle, EventPump *, QString *) override {
-        return {};
-    }
-    std::optional<int> RunCommandLine(const QString &, ProcessStyle, EventPump *, QString *) override { return {}; }
-    QString Documents() const override { return folder_; }
-    QString Temp() const override { return folder_; }
-    QString Program() const override { return folder_; }
-    QStringList Resources() const override { return {}; }
-    QString UserName() const override { return u"bench"_s; }
-    QString DecimalSeparator() const override { return u"."_s; }
-    QString LongDatePattern() const override { return {}; }
-    QString DefaultLanguage() const override { return u"en-US"_s; }
+constexpr double kGoalFirst = 2.5;
+constexpr double kGoalAgain = 1.5;
+constexpr double kGoalGrowth = 1.2;
+constexpr double kGoalMegabytes = 250;
+constexpr int kRepetitions = 3;
+constexpr int kRepeatedUpTo = 2000; // profiles; bigger collections are measured once
 
-    QString folder_;
-    Services services_;
-    quint64 state_ = 1;
-
-public:
-    Session session;
-};
-
-QByteArray Credits(int profile) {
-    QByteArray text = "    <Actors>\r\n";
-    for (int i = 0; i < 60; ++i) {
-        const QByteArray number = QByteArray::number((profile * 37 + i * 101) % 40000);
-        text += "      <Actor FirstName=\"Ann" + number + "\" MiddleName=\"Lee\" LastName=\"Smith" + number +
-                "\" BirthYear=\"0\" Role=\"Person " + QByteArray::number(i) +
-                "\" CreditedAs=\"\" Voice=\"false\" Uncredited=\"false\"/>\r\n";
-    }
-    text += "    </Actors>\r\n    <Credits>\r\n";
-    for (int i = 0; i < 25; ++i) {
-        const QByteArray number = QByteArray::number((profile * 53 + i * 211) % 20000);
-        text += "      <Credit FirstName=\"Bob" + number + "\" MiddleName=\"\" LastName=\"Jones" + number +
-                "\" BirthYear=\"0\" CreditType=\"Direction\" CreditSubtype=\"Director\" CreditedAs=\"\"/>\r\n";
-    }
-    return text + "    </Credits>\r\n";
+double ProcessorSeconds() {
+    return double(std::clock()) / CLOCKS_PER_SEC;
 }
 
-QByteArray Profile(int number) {
-    const QByteArray id = QByteArray::number(100000000000 + number) + ".4";
-    return "  <DVD>\r\n    <ProfileTimestamp>2012-05-09T18:10:47.000Z</ProfileTimestamp>\r\n    <ID>" + id +
-           "</ID>\r\n    <MediaTypes>\r\n      <DVD>true</DVD>\r\n      <HDDVD>false</HDDVD>\r\n      "
-           "<BluRay>false</BluRay>\r\n    </MediaTypes>\r\n    <UPC>" +
-           id + "</UPC>\r\n    <Title>Green Meadow " + QByteArray::number(number) +
-           "</Title>\r\n    <Genres>\r\n      <Genre>Drama</Genre>\r\n      <Genre>Comedy</Genre>\r\n    </Genres>\r\n"
-           "    <Studios>\r\n      <Studio>Invented Films</Studio>\r\n    </Studios>\r\n" +
-           Credits(number) + "    <Overview>" + QByteArray("A meadow, \x93green\x94 \x96 and wide. ").repeated(40) +
-           "</Overview>\r\n    <Discs>\r\n      <Disc>\r\n        <DescriptionSideA>Main</DescriptionSideA>\r\n      "
-           "</Disc>\r\n    </Discs>\r\n    <Tags>\r\n      <Tag Name=\"Seen\" FullName=\"All/Seen\"/>\r\n    "
-           "</Tags>\r\n"
-           "  </DVD>\r\n";
-}
-
-QString WriteCollection(const QString &path, int profiles) {
-    QFile file(path);
-    if (file.open(QIODevice::WriteOnly)) {
-        file.write("<?xml version=\"1.0\" encoding=\"windows-1252\"?>\r\n<Collection>\r\n");
-        for (int i = 0; i < profiles; ++i) {
-            file.write(Profile(i));
-        }
-        file.write("</Collection>\r\n");
-    }
-    return path;
-}
-
-int XMLCALL Latin(void *, const XML_Char *, XML_Encoding *encoding) {
-    for (int i = 0; i < 256; ++i) {
-        encoding->map[i] = i;
-    }
-    encoding->convert = nullptr;
-    encoding->release = nullptr;
-    return XML_STATUS_OK;
-}
-
-void ParseBare(const QString &path) {
-    QFile file(path);
-    const XML_Parser parser = XML_ParserCreate(nullptr);
-    XML_SetUnknownEncodingHandler(parser, Latin, nullptr);
-    if (file.open(QIODevice::ReadOnly)) {
-        for (QByteArray block = file.read(1 << 20);; block = file.read(1 << 20)) {
-            XML_Parse(parser, block.constData(), int(block.size()), block.isEmpty());
-            if (block.isEmpty()) {
-                break;
+double PeakMegabytes() {
+    QFile status(u"/proc/self/status"_s);
+    if (status.open(QIODevice::ReadOnly)) {
+        for (const QByteArray &line : status.readAll().split('\n')) {
+            if (line.startsWith("VmHWM:")) {
+                return line.mid(6).trimmed().split(' ').first().toDouble() / 1024;
             }
         }
     }
-    XML_ParserFree(parser);
+    return 0;
 }
 
-template <typename Job>
-double Seconds(Job job) {
-    QElapsedTimer timer;
-    timer.start();
-    job();
-    return double(timer.nsecsElapsed()) / 1e9;
+[[noreturn]] void Fail(const QString &text) {
+    std::fprintf(stderr, "bench_import: %s\n", text.toUtf8().constData());
+    std::exit(2);
+}
+
+// The parts that run in a process of their own. Each returns its seconds.
+
+double Parse(const QString &path) {
+    constexpr int kBlock = 1 << 20;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
+        Fail(file.errorString());
+    }
+    const double start = ProcessorSeconds();
+    const ExpatParser parser = MakeExpatParser();
+    QByteArray block(kBlock, '\0');
+    for (qint64 count = 1; count > 0;) {
+        count = file.read(block.data(), kBlock);
+        if (XML_Parse(parser.get(), block.constData(), int(count), count == 0) != XML_STATUS_OK) {
+            Fail(u"the collection is not well formed"_s);
+        }
+    }
+    return ProcessorSeconds() - start;
+}
+
+double Import(const QString &path, const QString &database) {
+    const QTemporaryDir folder;
+    SilentServices services(folder.path());
+    Session session(services.services);
+    const bool open =
+        QFile::exists(database) ? OpenCollectionDatabase(session, database) : NewCollectionDatabase(session, database);
+    if (!open) {
+        Fail(u"the collection database cannot be opened"_s);
+    }
+    session.Database->Flush();
+    const double start = ProcessorSeconds();
+    if (!ImportProfilerData(session, path)) {
+        Fail(u"the import failed"_s);
+    }
+    session.Database.reset();
+    return ProcessorSeconds() - start;
+}
+
+double WriteRows(const QString &source, const QString &target) {
+    return RowFloor(source, target).Run();
+}
+
+int RunChild(const QStringList &arguments) {
+    const QString &part = arguments[0];
+    const double seconds = part == u"parse"_s  ? Parse(arguments[1])
+                           : part == u"rows"_s ? WriteRows(arguments[1], arguments[2])
+                                               : Import(arguments[1], arguments[2]);
+    std::printf("%.6f %.1f\n", seconds, PeakMegabytes());
+    return 0;
+}
+
+// The side that compares.
+
+struct Measure {
+    double seconds = 0;
+    double megabytes = 0;
+};
+
+Measure InChild(const QStringList &arguments) {
+    QProcess process;
+    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process.start(QCoreApplication::applicationFilePath(), QStringList{u"--child"_s} + arguments);
+    process.waitForFinished(-1);
+    const QList<QByteArray> words = process.readAllStandardOutput().trimmed().split(' ');
+    if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0 || words.size() != 2) {
+        Fail(u"a measurement ended without a result: "_s + arguments.first());
+    }
+    return {.seconds = words[0].toDouble(), .megabytes = words[1].toDouble()};
+}
+
+struct Measures {
+    Measure parse;
+    Measure import;
+    Measure again;
+    Measure rows;
+};
+
+void TakeBest(Measure &best, const Measure &measure) {
+    if (best.seconds == 0 || measure.seconds < best.seconds) {
+        best = measure;
+    }
+}
+
+class Comparison {
+public:
+    explicit Comparison(QString generator) : generator_(std::move(generator)) {}
+
+    void Run(int profiles) {
+        const QTemporaryDir folder;
+        const QString collection = folder.filePath(u"collection.xml"_s);
+        if (QProcess::execute(generator_, {QString::number(profiles), collection}) != 0) {
+            Fail(u"no collection could be generated by "_s + generator_);
+        }
+        Measures best;
+        for (int i = 0; i < (profiles <= kRepeatedUpTo ? kRepetitions : 1); ++i) {
+            const QString database = folder.filePath(u"import%1.mdb"_s.arg(i));
+            TakeBest(best.parse, InChild({u"parse"_s, collection}));
+            TakeBest(best.import, InChild({u"import"_s, collection, database}));
+            TakeBest(best.again, InChild({u"again"_s, collection, database}));
+            TakeBest(best.rows, InChild({u"rows"_s, database, folder.filePath(u"rows%1.mdb"_s.arg(i))}));
+        }
+        Tell(profiles, best);
+    }
+    int Status() const { return failed_ ? 1 : 0; }
+
+private:
+    void Tell(int profiles, const Measures &measures) {
+        const double floor = measures.parse.seconds + measures.rows.seconds;
+        const double first = measures.import.seconds / floor;
+        std::printf("%d profiles: parse %.3f s, rows %.3f s\n", profiles, measures.parse.seconds,
+                    measures.rows.seconds);
+        TellRatio("first import", measures.import.seconds, floor, kGoalFirst);
+        TellRatio("unchanged import", measures.again.seconds, measures.parse.seconds, kGoalAgain);
+        if (smallest_ == 0) {
+            smallest_ = profiles;
+            smallest_ratio_ = first;
+        } else {
+            TellRatio("ratio beside the smallest", first, smallest_ratio_, kGoalGrowth);
+        }
+        TellRatio("peak megabytes", std::max(measures.import.megabytes, measures.again.megabytes), 1, kGoalMegabytes);
+        std::fflush(stdout);
+    }
+    void TellRatio(const char *name, double value, double floor, double goal) {
+        const double ratio = value / floor;
+        std::printf("  %-26s %9.3f  floor %9.3f  ratio %7.2f  goal %6.2f%s\n", name, value, floor, ratio, goal,
+                    ratio > goal ? "  MISSED" : "");
+        failed_ = failed_ || ratio > 2 * goal;
+    }
+
+    QString generator_;
+    int smallest_ = 0;
+    double smallest_ratio_ = 0;
+    bool failed_ = false;
+};
+
+int RunAll(QStringList arguments) {
+    QString generator = QCoreApplication::applicationDirPath() + u"/generate_collection"_s;
+    if (arguments.size() > 1 && arguments.first() == u"--generator"_s) {
+        generator = arguments[1];
+        arguments = arguments.sliced(2);
+    }
+    if (arguments.isEmpty()) {
+        arguments.append(u"1000"_s);
+    }
+    Comparison comparison(generator);
+    for (const QString &argument : std::as_const(arguments)) {
+        if (argument.toInt() <= 0) {
+            Fail(u"usage: bench_import [--generator PROGRAM] [PROFILES...]"_s);
+        }
+        comparison.Run(argument.toInt());
+    }
+    return comparison.Status();
 }
 
 } // namespace
 
-int main(int argc, char **argv) {
-    QCoreApplication app(argc, argv);
-    const int profiles = argc > 1 ? std::max(1, std::atoi(argv[1])) : 2000;
-    QTemporaryDir folder;
-    const QString file = WriteCollection(folder.filePath(u"collection.xml"_s), profiles);
-    SilentWorld world(folder.path());
-    Session &session = world.session;
-    CreateCollectionDatabase(session, folder.filePath(u"a.mdb"_s));
-    session.Profiler3 = true;
+int Main(const QStringList &arguments) {
+    try {
+        return arguments.value(0) == u"--child"_s ? RunChild(arguments.sliced(1)) : RunAll(arguments);
+    } catch (const sql::SqlError &error) {
+        Fail(error.Text());
+    }
+}
 
-    const double bare = Seconds([&] { ParseBare(file); });
-    const double fresh = Seconds([&] { ImportProfilerData(session, file); });
-    const double again = Seconds([&] { ImportProfilerData(session, file); });
-    const double bare_again = Seconds([&] { ParseBare(file); });
-    rusage usage{};
-    getrusage(RUSAGE_SELF, &usage);
-    const double floor = std::min(bare, bare_again);
-    std::printf("%d profiles, %.1f MB\n", profiles, double(QFile(file).size()) / 1e6);
-    std::printf("bare parse        %8.2f s\n", floor);
-    std::printf("first import      %8.2f s  %6.2f x, %.2f ms a profile\n", fresh, fresh / floor,
-                fresh * 1e3 / profiles);
-    std::printf("unchanged import  %8.2f s  %6.2f x\n", again, again / floor);
-    std::printf("peak memory       %8.1f MB\n", double(usage.ru_maxrss) / 1024);
-    return 0;
+} // namespace ostrand::bench
+
+int main(int argc, char **argv) {
+    const QCoreApplication application(argc, argv);
+    return ostrand::bench::Main(QCoreApplication::arguments().sliced(1));
 }
