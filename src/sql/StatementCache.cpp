@@ -38,7 +38,7 @@ std::shared_ptr<CachedStatement> StatementCache::Find(const Shape &shape) {
 void StatementCache::Insert(const Shape &shape, std::shared_ptr<CachedStatement> statement) {
     entries_.push_front({shape.key, std::move(statement)});
     by_key_[shape.key].push_back(entries_.begin());
-    if (entries_.size() <= slots_) {
+    if (entries_.size() <= capacity_) {
         return;
     }
     const Position oldest = std::prev(entries_.end());

@@ -24,7 +24,7 @@ struct CachedStatement {
 /// Keeps the statements used last. One shape has an entry for each set of its baked literals.
 class StatementCache {
 public:
-    explicit StatementCache(size_t slots = 512) : slots_(slots) {}
+    explicit StatementCache(size_t capacity = 512) : capacity_(capacity) {}
 
     std::shared_ptr<CachedStatement> Find(const Shape &shape);
     void Insert(const Shape &shape, std::shared_ptr<CachedStatement> statement);
@@ -39,7 +39,7 @@ private:
     };
     using Position = std::list<Entry>::iterator;
 
-    size_t slots_;
+    size_t capacity_;
     std::list<Entry> entries_; // used last comes first
     QHash<QString, std::vector<Position>> by_key_;
     qint64 lookups_ = 0;
