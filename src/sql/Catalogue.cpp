@@ -283,4 +283,8 @@ QString QuoteName(QStringView name) {
     return u'"' + name.toString().replace(u'"', QStringLiteral("\"\"")) + u'"';
 }
 
+QString QuoteText(QStringView text) {
+    return u'\'' + text.toString().remove(QChar(0)).replace(u'\'', QStringLiteral("''")) + u'\'';
+}
+
 } // namespace ostrand::sql

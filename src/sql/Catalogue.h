@@ -77,5 +77,7 @@ QString PhysicalIndexName(QStringView table, QStringView index, bool primary);
 QString PhysicalColumnType(const ColumnInfo &column);
 /// A name in SQLite's double quotes.
 QString QuoteName(QStringView name);
+/// A text as SQLite's literal; SQLite's SQL cannot hold the character 0, which is left out.
+QString QuoteText(QStringView text);
 
 } // namespace ostrand::sql

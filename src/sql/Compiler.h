@@ -19,6 +19,7 @@ struct Fragment {
     Kind kind = Kind::Unknown;
     bool condition = false; ///< 1, 0 or NULL as SQLite's own conditions, rather than -1, 0 or NULL
     bool collated = false;  ///< compares by our collation without being told
+    bool chain = false;     ///< a sum or a text joined, in brackets that a further member on its right does not need
 };
 
 /// Compiles one statement; used once. DDL and TRANSFORM have roads of their own (Ddl, CompileTransform).
@@ -114,6 +115,7 @@ private:
     QString Parameter(const ParameterSlot &slot);
 
     static QString ToValue(const Fragment &fragment);
+    static QString ChainStart(const Fragment &left, bool text);
     static QString ToCondition(const Fragment &fragment);
     static QString ToText(const Fragment &fragment);
     static QString ToNumber(const Fragment &fragment);

@@ -18,7 +18,7 @@ QString Literal(const Value &value) {
     case Value::Type::Text:
         break;
     }
-    return u'\'' + QString(value.Text()).replace(u'\'', QStringLiteral("''")) + u'\'';
+    return QuoteText(value.Text());
 }
 
 void RequireFirst(std::vector<const ColumnInfo *> &assigned, const ColumnInfo *column,

@@ -10,13 +10,6 @@ namespace {
 constexpr qsizetype kLongestFragment = 1'000'000; // aliases of aliases double with each step
 constexpr int kLongList = 40; // an IN list beyond this is kept as text, so that it takes no parameters
 
-QString QuoteText(const QString &text) {
-    QString quoted = text;
-    quoted.remove(QChar(0));
-    quoted.replace(u'\'', QStringLiteral("''"));
-    return u'\'' + quoted + u'\'';
-}
-
 /// True where one of the values is not NULL; in groups, since SQLite limits the arguments of a call.
 QString AnyIsFilled(const QStringList &values) {
     constexpr qsizetype kGroup = 50;
@@ -37,6 +30,13 @@ bool IsDigital(Kind kind) {
 
 QString Compiler::ToValue(const Fragment &fragment) {
     return fragment.condition ? QStringLiteral("(-(%1))").arg(fragment.sql) : fragment.sql;
+}
+
+/// The left operand of + and - or of a text joined: long chains of them must not nest brackets, of which SQLite takes
+/// few.
+QString Compiler::ChainStart(const Fragment &left, bool text) {
+    const bool same = left.chain && IsText(left.kind) == text;
+    return same ? left.sql.mid(1, left.sql.size() - 2) : text ? ToValue(left) : ToNumber(left);
 }
 
 QString Compiler::ToCondition(const Fragment &fragment) {
@@ -230,7 +230,8 @@ Fragment Compiler::EmitLogic(ast::BinaryOp op, const Fragment &left, const Fragm
 Fragment Compiler::EmitAdd(const Fragment &left, const Fragment &right) {
     const bool text = IsText(left.kind) && IsText(right.kind);
     if (text || (IsText(left.kind) && right.kind == Kind::Null) || (left.kind == Kind::Null && IsText(right.kind))) {
-        return {QStringLiteral("(%1 || %2)").arg(ToValue(left), ToValue(right)), Kind::Memo, false, false};
+        return {QStringLiteral("(%1 || %2)").arg(ChainStart(left, true), ToValue(right)), Kind::Memo, false, false,
+                true};
     }
     const auto mixed = [](Kind kind) { return IsText(kind) || kind == Kind::Unknown; };
     if (mixed(left.kind) || mixed(right.kind)) {
@@ -242,7 +243,7 @@ Fragment Compiler::EmitAdd(const Fragment &left, const Fragment &right) {
     } else if (kind == Kind::Unknown || kind == Kind::Boolean) {
         kind = left.kind == Kind::Real || right.kind == Kind::Real ? Kind::Real : Kind::Integer;
     }
-    return {QStringLiteral("(%1 + %2)").arg(ToValue(left), ToValue(right)), kind, false, false};
+    return {QStringLiteral("(%1 + %2)").arg(ChainStart(left, false), ToValue(right)), kind, false, false, true};
 }
 
 Fragment Compiler::EmitArithmetic(ast::BinaryOp op, const Fragment &left, const Fragment &right) {
@@ -253,7 +254,8 @@ Fragment Compiler::EmitArithmetic(ast::BinaryOp op, const Fragment &left, const 
     switch (op) {
     case ast::BinaryOp::Subtract: {
         const bool date = left.kind == Kind::Date && right.kind != Kind::Date;
-        return {QStringLiteral("(%1 - %2)").arg(a, b), date ? Kind::Date : number, false, false};
+        return {QStringLiteral("(%1 - %2)").arg(ChainStart(left, false), b), date ? Kind::Date : number, false, false,
+                true};
     }
     case ast::BinaryOp::Multiply:
         return {QStringLiteral("(%1 * %2)").arg(a, b), number, false, false};

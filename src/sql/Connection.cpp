@@ -30,6 +30,17 @@ QString Culprit(const QString &text) {
     return text.mid(text.lastIndexOf(u':') + 1).trimmed();
 }
 
+/// True for SQLite's words about a statement that goes beyond its limits.
+bool IsTooMuch(const QString &text) {
+    for (const char *words : {"parser stack overflow", "too many ", "Expression tree is too large", "at most 64 tables",
+                              "Recursion limit", "string or blob too big"}) {
+        if (text.contains(QLatin1String(words))) {
+            return true;
+        }
+    }
+    return false;
+}
+
 /// The fault of a function of ours: "\1<number>\1<text>".
 std::optional<SqlError> FunctionFault(const QString &text) {
     if (!text.startsWith(QChar(1))) {
@@ -89,6 +100,9 @@ SqlError MakeSqliteError(sqlite3 *handle) {
     }
     if (auto fault = FunctionFault(text)) {
         return *fault;
+    }
+    if (IsTooMuch(text)) {
+        return {ErrorCode::TooComplex, QStringLiteral("The statement is too complex.")};
     }
     return {ErrorCode::Internal, text};
 }

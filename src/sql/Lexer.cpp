@@ -184,6 +184,9 @@ Token Lexer::Name(char16_t closing) {
     if (end < 0) {
         return Fail(LexicalFault::UnclosedName, size_);
     }
+    if (QStringView(text_ + at_, end - at_).contains(QChar(0))) {
+        return Fail(LexicalFault::StrangeCharacter, end + 1);
+    }
     return end == at_ + 1 ? Fail(LexicalFault::EmptyName, end + 1) : Make(TokenType::Name, end + 1);
 }
 

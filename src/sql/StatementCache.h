@@ -24,7 +24,6 @@ struct CachedStatement {
 /// Keeps the statements used last. One shape has an entry for each set of its baked literals.
 class StatementCache {
 public:
-    /// The word "slots" is a macro of Qt and would vanish here.
     explicit StatementCache(size_t capacity = 512) : capacity_(capacity) {}
 
     std::shared_ptr<CachedStatement> Find(const Shape &shape);
