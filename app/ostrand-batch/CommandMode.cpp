@@ -116,7 +116,7 @@ int RunCommandMode(const Arguments &arguments) {
         return kUsage;
     }
     const StopSignals signals_noted;
-    IgnoreBrokenPipes();
+    LetWritesFail();
     Console console(arguments);
     Dialogs dialogs(console.output, Answers(arguments), console.progress);
     Services services{dialogs,        console.progress,  console.pump,    console.clock,

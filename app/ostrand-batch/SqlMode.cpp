@@ -113,7 +113,7 @@ private:
 
 int RunSqlMode(const Arguments &arguments, const sql::Environment &environment) {
     const StopSignals signals_noted;
-    IgnoreBrokenPipes();
+    LetWritesFail();
     try {
         const std::unique_ptr<sql::Database> database = arguments.create
                                                             ? sql::Database::Create(arguments.sql_file, environment)

@@ -18,6 +18,9 @@ namespace {
 
 constexpr QLatin1String kProfileID("ProfileID");
 
+// What the rows of prices hold of a currency's identifier; a longer one would not be found among the currencies.
+constexpr int kLongestCurrency = 5;
+
 struct Price {
     QString value;
     QString symbol;
@@ -36,7 +39,7 @@ void ParseInto(const ImportProfile &profile, const QString &text, Price &price) 
 Price ReadPriceAttributes(const ImportProfile &profile, pugi::xml_node element) {
     Price price{.value = {},
                 .symbol = {},
-                .currency_id = XmlAttribute(element, "DenominationType"),
+                .currency_id = XmlAttribute(element, "DenominationType").left(kLongestCurrency),
                 .currency_name = XmlAttribute(element, "DenominationDesc")};
     ParseInto(profile, XmlAttribute(element, "FormattedValue"), price);
     return price;
@@ -46,7 +49,7 @@ Price ReadPriceChildren(const ImportProfile &profile, pugi::xml_node element, co
                         const char *name, const QString &preset) {
     Price price{.value = {},
                 .symbol = {},
-                .currency_id = XmlChildText(element, id),
+                .currency_id = XmlChildText(element, id).left(kLongestCurrency),
                 .currency_name = XmlChildText(element, name)};
     ParseInto(profile, XmlChildText(element, value, preset), price);
     return price;

@@ -60,6 +60,11 @@ constexpr auto kColumns = std::to_array<ProfileColumn>({
     {"CountAs", nullptr, "CountAs", "1", Treatment::Plain, Written::OnInsert},
 });
 
+/// The line ends of the database.
+QString WithLineEnds(QString text) {
+    return text.replace(u'\n', u"\r\n"_s);
+}
+
 QString ReadDescription(pugi::xml_node dvd) {
     return XmlChildText(dvd, dvd.child("DistTrait") ? "DistTrait" : "Description");
 }
@@ -82,7 +87,7 @@ QString ReadColumn(const ImportProfile &profile, const ProfileColumn &column) {
     case Treatment::Date:
         return XmlParseDate(plain());
     case Treatment::Lines:
-        return plain().replace(u'\n', u"\r\n"_s);
+        return WithLineEnds(plain());
     case Treatment::Medium:
         return profile.medium;
     case Treatment::Description:
@@ -186,7 +191,7 @@ void WriteProfileRow(ImportProfile &profile, bool is_new) {
 
     WriteRatingInfos(profile);
     if (const QString notes = XmlChildText(profile.dvd, "Notes"); !notes.isEmpty()) {
-        StorePseudoTags(profile, notes);
+        StorePseudoTags(profile, WithLineEnds(notes));
     }
 }
 

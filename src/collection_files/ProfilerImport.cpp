@@ -257,7 +257,6 @@ bool CollectionImport::ImportElement(ElementScanner &scanner, const ScannedEleme
         const sql::Database::Bracket bracket(*session_.Database);
         ImportOne(element, document->document_element());
     } catch (const sql::SqlError &error) {
-        known_.Forget(element.text);
         NoteFault(error.Text());
         return !EndsImport(error.Code());
     }
@@ -266,6 +265,7 @@ bool CollectionImport::ImportElement(ElementScanner &scanner, const ScannedEleme
 
 void CollectionImport::ImportOne(const ScannedElement &element, const pugi::xml_node &dvd) {
     constexpr int kLongestKey = 255;
+    constexpr int kPrefixLength = 4; // "Key_"
     ImportProfile profile{.run = run_,
                           .dvd = dvd,
                           .key = {},
@@ -288,8 +288,13 @@ void CollectionImport::ImportOne(const ScannedElement &element, const pugi::xml_
     profile.may_have_rows = found.exists || !run_.into_empty_tables;
     const bool skipped = found.exists && (found.md5 == profile.hash || profile.locks.IsLocked(u"Entire"_s));
     if (!skipped) {
+        // Known under the stored spelling only: another one in the file would leave a second, stale entry.
+        const std::string stored = (found.exists ? found.key : profile.key).mid(kPrefixLength).toStdString();
+        known_.Forget(stored);
         WriteProfile(profile, found);
-        known_.Store(element.text, element.digest);
+        if (!rekey_) {
+            known_.Store(stored, element.digest);
+        }
     }
     if (found.wants_tag) {
         InsertRow(session_, QLatin1String("Tags"),

@@ -44,8 +44,8 @@ sql::Recordset Select(Session &session, const QString &condition) {
 
 FoundProfile FindByKey(const ImportProfile &profile) {
     const sql::Recordset rows = profile.GetSession().Database->OpenRecordset(
-        QString(u"SELECT MD5 FROM Profiles WHERE ProfileID = '"_s + EscapeSql(profile.key) + u'\''));
-    return rows.Eof() ? FoundProfile{} : FoundProfile{.exists = true, .md5 = rows.Text(0)};
+        QString(u"SELECT ProfileID, MD5 FROM Profiles WHERE ProfileID = '"_s + EscapeSql(profile.key) + u'\''));
+    return rows.Eof() ? FoundProfile{} : FoundProfile{.exists = true, .key = rows.Text(0), .md5 = rows.Text(1)};
 }
 
 /// Gives a row the new key with all that hangs on it.
@@ -54,7 +54,7 @@ FoundProfile MoveToKey(const ImportProfile &profile, sql::Recordset &row) {
     ConvertProfileData(profile.GetSession(), row.Text(u"ProfileID"), profile.key);
     row.Set(u"ProfileID", profile.key);
     row.Update();
-    return {.exists = true, .md5 = row.Text(u"MD5")};
+    return {.exists = true, .key = profile.key, .md5 = row.Text(u"MD5")};
 }
 
 /// The disc identifier in the key of a profile that was made from one.

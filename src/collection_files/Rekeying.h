@@ -10,6 +10,8 @@ struct Session;
 
 struct FoundProfile {
     bool exists = false;
+    /// The key as it is stored, which may differ from the file's in case.
+    QString key;
     QString md5;
     /// The profile may have been known under an older form of its key, which is told to the user by a tag.
     bool wants_tag = false;

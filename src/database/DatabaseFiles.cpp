@@ -291,6 +291,7 @@ sql::Environment DatabaseEnvironment(Session &session) {
 }
 
 void CreateCollectionDatabase(Session &session, const QString &path) {
+    Trace(session, u"CreateCollectionDatabase(%1)"_s.arg(path), kTraceEntry);
     FlushOpenDatabase(session);
     auto created = sql::Database::Create(path, DatabaseEnvironment(session));
     session.Database = std::move(created);
@@ -326,14 +327,15 @@ bool CompactCollectionDatabase(Session &session, const QString &path) {
 }
 
 bool IsDatabaseBusy(Session &session, const QString &path) {
+    Trace(session, u"IsDatabaseBusy(%1)"_s.arg(path), kTraceEntry);
     if (!IsOpenHere(session, path) && !sql::LockFile::IsHeldByOther(path)) {
-        return false;
+        return TraceResult(session, u"IsDatabaseBusy"_s, false);
     }
     Say(session, MessageIcon::Warning,
         Translate(session, u"Database seems to be open in another application or instance"_s) + "\r\n"_L1 +
             Translate(session, u"Please close all open instances first"_s),
         Translate(session, u"Open database connection"_s));
-    return true;
+    return TraceResult(session, u"IsDatabaseBusy"_s, true);
 }
 
 } // namespace ostrand

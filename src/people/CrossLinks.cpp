@@ -2,6 +2,7 @@
 
 #include "database/DatabaseFunctions.h"
 #include "shell/Session.h"
+#include "sql/Collation.h"
 
 #include <QRegularExpression>
 
@@ -21,6 +22,11 @@ void InsertAlias(Session &session, const QString &common_name, const QString &al
     if (session.progress.IsLoaded() && session.progress.Details()) {
         session.progress.SetDetail(common_name + u" <- "_s + alias_name);
     }
+}
+
+/// Names compare as they do in the table, where "Strauß" is "STRAUSS".
+bool IsSameName(const QString &left, const QString &right) {
+    return sql::Compare(left, right) == 0;
 }
 
 /// The common name of the first row under a condition; nothing without a row.
@@ -149,8 +155,7 @@ QString GetCommonName(Session &session, const QString &name, int birth_year) {
 
 void LinkAlias(Session &session, const QString &common_name, const QString &alias_name, int birth_year, bool silent,
                const QString &comment) {
-    // Names compare without regard to case, as they do in the table.
-    if (common_name.isEmpty() || alias_name.isEmpty() || common_name.compare(alias_name, Qt::CaseInsensitive) == 0) {
+    if (common_name.isEmpty() || alias_name.isEmpty() || IsSameName(common_name, alias_name)) {
         return;
     }
     const QString quoted_common = u'\'' + EscapeSql(common_name) + u'\'';
@@ -161,7 +166,7 @@ void LinkAlias(Session &session, const QString &common_name, const QString &alia
         return;
     }
     if (const auto present = LinkedTo(session, u"AliasName = "_s + quoted_alias, birth_year)) {
-        if (present->compare(common_name, Qt::CaseInsensitive) != 0) {
+        if (!IsSameName(*present, common_name)) {
             RefuseDuplicate(session, common_name, alias_name, silent, *present);
         }
         return;

@@ -27,8 +27,9 @@ StopSignals::StopSignals() {
     sigaction(SIGTERM, &action, nullptr);
 }
 
-void IgnoreBrokenPipes() {
+void LetWritesFail() {
     std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
 }
 
 #else
@@ -39,7 +40,7 @@ StopSignals::StopSignals() {
     std::signal(SIGTERM, Note);
 }
 
-void IgnoreBrokenPipes() {}
+void LetWritesFail() {}
 
 #endif
 

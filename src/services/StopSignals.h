@@ -16,7 +16,7 @@ public:
     static int Received();
 };
 
-/// Lets a write to a closed pipe fail instead of ending the process.
-void IgnoreBrokenPipes();
+/// Lets a write to a closed pipe, or beyond the size that a file may have, fail instead of ending the process.
+void LetWritesFail();
 
 } // namespace ostrand

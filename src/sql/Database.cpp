@@ -403,9 +403,17 @@ Database::~Database() = default;
 
 std::unique_ptr<Database> Database::Create(const QString &path, Environment environment) {
     auto impl = std::make_unique<Impl>(path, std::move(environment));
-    Connection connection = CreateFile(path, RegisterWith(impl->environment));
-    impl->lock = std::make_unique<LockFile>(path);
-    impl->Attach(std::move(connection));
+    {
+        Connection connection = CreateFile(path, RegisterWith(impl->environment));
+        try {
+            impl->lock = std::make_unique<LockFile>(path);
+        } catch (const SqlError &) {
+            connection = {};
+            RemoveNewFile(path);
+            throw;
+        }
+        impl->Attach(std::move(connection));
+    }
     return std::unique_ptr<Database>(new Database(std::move(impl)));
 }
 

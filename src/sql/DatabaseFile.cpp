@@ -135,13 +135,6 @@ void ReserveFile(const QString &path) {
     }
 }
 
-/// Removes a file that was begun, with what SQLite put beside it.
-void RemoveFiles(const QString &path) {
-    for (const char *end : {"", "-wal", "-shm", "-journal"}) {
-        QFile::remove(path + QString::fromLatin1(end));
-    }
-}
-
 void SyncToDisk(const QString &path) {
 #ifdef Q_OS_UNIX
     QFile file(path);
@@ -167,12 +160,18 @@ Connection FillNewFile(const QString &path, const Registration &registration) {
 
 } // namespace
 
+void RemoveNewFile(const QString &path) {
+    for (const char *end : {"", "-wal", "-shm", "-journal"}) {
+        QFile::remove(path + QString::fromLatin1(end));
+    }
+}
+
 Connection CreateFile(const QString &path, const Registration &registration) {
     ReserveFile(path);
     try {
         return FillNewFile(path, registration);
     } catch (...) {
-        RemoveFiles(path);
+        RemoveNewFile(path);
         throw;
     }
 }
@@ -199,7 +198,7 @@ void CompactFile(const QString &source, const QString &target, const Registratio
         copy.Bind(0, QFileInfo(target).absoluteFilePath());
         copy.Step();
     } catch (...) {
-        RemoveFiles(target);
+        RemoveNewFile(target);
         throw;
     }
     SyncToDisk(target);

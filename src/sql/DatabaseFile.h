@@ -16,6 +16,9 @@ using Registration = std::function<void(sqlite3 *)>;
 /// was begun is removed then.
 Connection CreateFile(const QString &path, const Registration &registration);
 
+/// Removes a database that was only just made, with what stands beside it. Its connection must be closed.
+void RemoveNewFile(const QString &path);
+
 /// Opens a database for reading and writing. Throws CannotOpenDatabase (missing, a folder), NotADatabase, Damaged or
 /// ReadOnly, and has not touched the file then. Indexes of a file that another collation version made are built anew.
 Connection OpenFile(const QString &path, const Registration &registration);

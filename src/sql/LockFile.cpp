@@ -110,7 +110,9 @@ public:
         for (const Holder &holder : holders) {
             text += ToLine(holder);
         }
-        return ::ftruncate(file_, 0) == 0 && ::pwrite(file_, text.constData(), size_t(text.size()), 0) == text.size();
+        // Cut only when the new text stands, so that a full disk takes no holder away.
+        return ::pwrite(file_, text.constData(), size_t(text.size()), 0) == text.size() &&
+               ::ftruncate(file_, text.size()) == 0;
     }
 
 private:
@@ -150,6 +152,10 @@ LockFile::LockFile(const QString &database_path) : path_(PathFor(database_path))
     }
     holders.push_back(own);
     if (!file.IsOpen() || !file.Write(holders)) {
+        holders.pop_back();
+        if (file.IsOpen() && holders.empty()) {
+            file.Write(holders); // removes what was begun
+        }
         throw SqlError(ErrorCode::CannotLock, QStringLiteral("The lock file %1 can't be written.").arg(path_));
     }
     line_ = ToLine(own);

@@ -320,7 +320,9 @@ std::optional<pugi::xml_document> ElementScanner::ReadAny(const ScannedElement &
         left -= block.size();
         sound = !block.isEmpty() && builder.Feed(block);
     }
-    return sound ? std::optional(std::move(builder.Document())) : std::nullopt;
+    pugi::xml_document &document = builder.Document();
+    const bool wanted = sound && builder.IsDone() && query_.element == document.document_element().name();
+    return wanted ? std::optional<pugi::xml_document>(std::move(document)) : std::nullopt;
 }
 
 } // namespace ostrand

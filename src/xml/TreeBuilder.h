@@ -21,6 +21,8 @@ public:
 
     /// The next piece of the document; false when it is not well formed.
     bool Feed(QByteArrayView bytes);
+    /// True when the element wanted has come to its end.
+    bool IsDone() const { return done_; }
     pugi::xml_document &Document() { return document_; }
 
 private:

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <gtest/gtest.h>
 
 #include <csignal>
@@ -117,6 +118,45 @@ TEST_F(CommandModeTest, ASignalEndsItSoundly) {
         EXPECT_FALSE(QFile::exists(program.In(u"a.mdb-wal"_s)));
         EXPECT_EQ(Owners(), "c\r\n1\r\n");
     }
+}
+#endif
+
+QByteArray ManyProfiles(int count) {
+    QByteArray actors;
+    for (int i = 0; i < 40; ++i) {
+        actors += "<Actor FirstName='A" + QByteArray::number(i) + "' LastName='Smith' Role='Walker'/>";
+    }
+    QByteArray file = "<Collection>";
+    for (int i = 0; i < count; ++i) {
+        file += "<DVD><ID>" + QByteArray::number(i) + "</ID><MediaTypes><DVD>true</DVD></MediaTypes><Title>T</Title>" +
+                "<Actors>" + actors + "</Actors></DVD>";
+    }
+    return file + "</Collection>";
+}
+
+#ifdef Q_OS_UNIX
+TEST_F(CommandModeTest, AFullDiskIsToldAndLosesNothingStored) {
+    const auto count = [this](const char *table) {
+        const QByteArray output = program
+                                      .Run({u"--sql"_s, u"a.mdb"_s, u"--format"_s, u"csv"_s},
+                                           "SELECT COUNT(*) AS c FROM " + QByteArray(table) + ";")
+                                      .output;
+        return output.split('\n').value(1).trimmed().toInt();
+    };
+    program.folder.Write(u"few.xml"_s, ManyProfiles(3));
+    program.folder.Write(u"many.xml"_s, ManyProfiles(120));
+    ASSERT_EQ(Run("createdatabase a.mdb\nimportprofilerdatabase few.xml\n").status, 0);
+    program.file_limit = QFileInfo(program.In(u"a.mdb"_s)).size() + 100'000;
+    const BatchResult full = Run("opendatabase a.mdb\nimportprofilerdatabase many.xml\n");
+    program.file_limit = 0;
+    EXPECT_EQ(full.status, 1);
+    EXPECT_TRUE(full.output.contains("[Error]")) << full.output.constData();
+    EXPECT_GE(count("Profiles"), 3);
+    EXPECT_LT(count("Profiles"), 120);
+    EXPECT_EQ(count("CastCrew"), 40 * count("Profiles")) << "each profile is there wholly or not at all";
+    EXPECT_EQ(Run("opendatabase a.mdb\nimportprofilerdatabase many.xml\n").status, 0);
+    EXPECT_EQ(count("Profiles"), 120);
+    EXPECT_EQ(count("CastCrew"), 4800);
 }
 #endif
 

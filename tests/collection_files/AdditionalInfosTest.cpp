@@ -45,6 +45,19 @@ TEST_F(AdditionalInfos, ExportWritesTheNamesAndTheirProfiles) {
     EXPECT_FALSE(folder_.Read(u"one.xml"_s).contains("Site"));
 }
 
+TEST_F(AdditionalInfos, ExportOfNothingIsAnEmptyRoot) {
+    ExportAdditionalInfos(session, Path(u"out.xml"_s), {});
+    EXPECT_EQ(folder_.Read(u"out.xml"_s), "<?xml version=\"1.0\" encoding=\"utf-8\"?><!-- Ostrand Version 1.2.3 "
+                                          "Additional Info Export -->\r\n<AdditionalInfos/>\r\n");
+}
+
+TEST_F(AdditionalInfos, AFileThatIsMissingIsTold) {
+    services.dialogs.ExpectMessage({}, MessageIcon::Warning, MessageAnswer::Ok, u"Invalid file"_s);
+    ImportAdditionalInfos(session, Path(u"none.xml"_s));
+    EXPECT_TRUE(services.dialogs.messages.back().text.startsWith(u"Invalid XML file!\n"_s));
+    EXPECT_TRUE(services.dialogs.messages.back().text.endsWith(u"\nLine 0"_s));
+}
+
 TEST_F(AdditionalInfos, ExportAndImportAgree) {
     Put(u"Key_first"_s, u"Site"_s, u"a"_s, u"Link"_s);
     Put(u"Key_2"_s, u"It's"_s, u"b"_s);

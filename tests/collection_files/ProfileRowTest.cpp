@@ -222,6 +222,11 @@ TEST_F(ProfileRow, PseudoTagsOfTheNotesAreStored) {
     EXPECT_EQ(Rows(u"SELECT Studio FROM Studios"), QStringList()) << "always dropped";
 }
 
+TEST_F(ProfileRow, PseudoTagsHaveTheLineEndsOfTheNotes) {
+    EXPECT_TRUE(ImportOne("<Notes>&lt;TRIVIA>a\nb&lt;/TRIVIA></Notes>"));
+    EXPECT_EQ(Rows(u"SELECT InfoValue FROM AdditionalInfo"), QStringList{u"a\r\nb"_s});
+}
+
 TEST_F(ProfileRow, PseudoTagsObeyTheLockOfTheInfos) {
     Lock(u"AdditionalInfo"_s);
     EXPECT_TRUE(ImportOne(kTagged));

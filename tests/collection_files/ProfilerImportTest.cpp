@@ -72,6 +72,20 @@ TEST_F(ProfilerImport, InvalidFilesAreToldAndChangeNothing) {
          u"Invalid collection file!\nno element found\n<DVD>\nLine 3"_s},
         {"<Aliases>\n</Aliases>", u"Invalid collection file!\nthe root element is \"Aliases\"\n<Aliases>\nLine 1"_s},
         {"", u"Invalid collection file!\nno element found\n\nLine 1"_s},
+        {"<?xml version='1.0' encoding='martian'?>",
+         u"Invalid collection file!\nunknown encoding\n<?xml version='1.0' encoding='martian'?>\nLine 1"_s},
+        {"<Collection>\n<DVD><Title>Caf\xE9</Title></DVD></Collection>",
+         u"Invalid collection file!\nnot well-formed (invalid token)\n"
+         "<DVD><Title>Caf\uFFFD</Title></DVD></Collection>\nLine 2"_s},
+        {"<Collection>\n<DVD><Title>&#1;</Title></DVD></Collection>",
+         u"Invalid collection file!\nreference to invalid character number\n"
+         "<DVD><Title>&#1;</Title></DVD></Collection>\nLine 2"_s},
+        {"<Collection>\n<DVD><Title>&#xFFFE;</Title></DVD></Collection>",
+         u"Invalid collection file!\nreference to invalid character number\n"
+         "<DVD><Title>&#xFFFE;</Title></DVD></Collection>\nLine 2"_s},
+        {"<Collection>\n<DVD><Title>&#xD800;</Title></DVD></Collection>",
+         u"Invalid collection file!\nreference to invalid character number\n"
+         "<DVD><Title>&#xD800;</Title></DVD></Collection>\nLine 2"_s},
     };
     for (const Case &invalid : cases) {
         Expect(invalid.text, u"Invalid file"_s, MessageIcon::Warning);
@@ -79,6 +93,74 @@ TEST_F(ProfilerImport, InvalidFilesAreToldAndChangeNothing) {
         EXPECT_FALSE(session.progress.IsLoaded());
     }
     EXPECT_EQ(Rows(u"SELECT ProfileID FROM Profiles"), QStringList{u"Key_first"_s});
+}
+
+TEST_F(ProfilerImport, AFileCutShortAnywhereChangesNothing) {
+    EXPECT_TRUE(ImportOne("<Title>One</Title><Genres><Genre>Drama</Genre></Genres>"));
+    const QByteArray whole = "<Collection>" + Dvd("1", "<Title>&lt;Two</Title><!--c--><Genres/>") + "</Collection>";
+    for (qsizetype length = 0; length < whole.size(); ++length) {
+        services.dialogs.ExpectMessage({}, MessageIcon::Warning, MessageAnswer::Ok, u"Invalid file"_s);
+        EXPECT_FALSE(ImportProfilerData(session, folder_.Write(u"cut.xml"_s, whole.left(length)))) << length;
+    }
+    EXPECT_EQ(Fields(u"Title"_s), u"One"_s);
+    EXPECT_EQ(Rows(u"SELECT Genre FROM Genres"), QStringList{u"Drama"_s});
+    EXPECT_TRUE(ImportProfilerData(session, folder_.Write(u"cut.xml"_s, whole)));
+    EXPECT_EQ(Fields(u"Title"_s), u"<Two"_s);
+}
+
+TEST_F(ProfilerImport, AFileThatChangesUnderwayIsToldAndLosesNothing) {
+    EXPECT_TRUE(Import(Dvd("2", "<Title>Two</Title><Genres><Genre>Drama</Genre></Genres>")));
+    const QString path = WriteFile(Dvd("1", "<Title>One</Title>") + Dvd("2", "<Title>New</Title><Genres/>"));
+    services.pump.At(services.pump.Turns() + 2, [&] {
+        QFile file(path);
+        EXPECT_TRUE(file.resize(120));
+    });
+    Expect(u"Profiles that could not be imported completely: 1\nthe file has changed while it was read"_s, u"Import"_s,
+           MessageIcon::Critical);
+    EXPECT_TRUE(ImportProfilerData(session, path));
+    EXPECT_EQ(Fields(u"Title"_s), u"One"_s);
+    EXPECT_EQ(Rows(u"SELECT Title FROM Profiles WHERE ProfileID = 'Key_2'"), QStringList{u"Two"_s});
+    EXPECT_EQ(Rows(u"SELECT Genre FROM Genres"), QStringList{u"Drama"_s});
+}
+
+TEST_F(ProfilerImport, AnArchiveWithoutTheNamedFileIsAMissingFile) {
+    const QString archive = folder_.Write(u"films.7z"_s, "packed");
+    services.processes.behave = [&](const QStringList &, QString *) {
+        QFile file(session.TempFolder + u"/unpacked/other.xml"_s);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write("<Collection>" + Dvd("1", "") + "</Collection>");
+        return std::optional(0);
+    };
+    Expect(u"Entered file does not exist"_s, u"Wrong Path"_s, MessageIcon::Warning);
+    EXPECT_FALSE(ImportProfilerData(session, archive));
+
+    services.processes.behave = [](const QStringList &, QString *error) {
+        *error = u"no such program"_s;
+        return std::optional<int>();
+    };
+    Log(kTraceError);
+    Expect(u"Entered file does not exist"_s, u"Wrong Path"_s, MessageIcon::Warning);
+    EXPECT_FALSE(ImportProfilerData(session, archive));
+    EXPECT_EQ(LogLines(), QStringList{u"Error:    Extract7z: no such program"_s});
+}
+
+TEST_F(ProfilerImport, NothingOutsideTheFileIsRead) {
+    folder_.Write(u"secret.txt"_s, "secret");
+    const QByteArray path = Path(u"secret.txt"_s).toUtf8();
+    EXPECT_TRUE(ImportProfilerData(
+        session,
+        folder_.Write(u"a.xml"_s, "<!DOCTYPE Collection SYSTEM 'file://" + path + "' [<!ENTITY e SYSTEM 'file://" +
+                                      path + "'>]><Collection>" + Dvd("1", "<Title>T&e;</Title>") + "</Collection>")));
+    EXPECT_EQ(Fields(u"Title"_s), u"T"_s);
+}
+
+TEST_F(ProfilerImport, AProfileWithoutIdentifierHasTheBareKey) {
+    const QByteArray dvd = "<DVD><MediaTypes><DVD>true</DVD></MediaTypes><Genres><Genre>Drama</Genre></Genres></DVD>";
+    EXPECT_TRUE(Import(dvd));
+    EXPECT_TRUE(Import(dvd));
+    EXPECT_EQ(Rows(u"SELECT ProfileID, Title, Locality FROM Profiles WHERE ProfileID <> 'Key_first'"),
+              QStringList{u"Key_||United States"_s});
+    EXPECT_EQ(Rows(u"SELECT ProfileID FROM Genres"), QStringList{u"Key_"_s});
 }
 
 TEST_F(ProfilerImport, AnEmptyCollectionStopsWithoutAWord) {
@@ -231,6 +313,15 @@ TEST_F(ProfilerImport, OneIdentifierTwiceInAFileEndsWithTheLast) {
     EXPECT_EQ(Fields(u"Title"_s), u"Two"_s);
     EXPECT_TRUE(Import(Dvd("a1", "<Title>One</Title>") + Dvd("A1", "<Title>Two</Title>")));
     EXPECT_EQ(Rows(u"SELECT Title FROM Profiles WHERE ProfileID = 'key_a1'"), QStringList{u"Two"_s});
+    // The digest that stood at the start decides no more once another spelling has been written.
+    for (int pass = 0; pass < 2; ++pass) {
+        EXPECT_TRUE(Import(Dvd("A1", "<Title>One</Title>") + Dvd("a1", "<Title>Two</Title>") +
+                           Dvd("A1", "<Title>One</Title>")));
+        EXPECT_EQ(Rows(u"SELECT Title FROM Profiles WHERE ProfileID = 'key_a1'"), QStringList{u"One"_s});
+        EXPECT_TRUE(Import(Dvd("a1", "<Title>Two</Title>") + Dvd("A1", "<Title>One</Title>") +
+                           Dvd("a1", "<Title>Two</Title>")));
+        EXPECT_EQ(Rows(u"SELECT Title FROM Profiles WHERE ProfileID = 'key_a1'"), QStringList{u"Two"_s});
+    }
 }
 
 TEST_F(ProfilerImport, TheLockEntireKeepsTheProfile) {
@@ -255,6 +346,17 @@ TEST_F(ProfilerImport, HostileTextsAreStoredAsTheyStand) {
     EXPECT_TRUE(Import(Dvd("1'; DROP TABLE Profiles; --", "<Title>O'Neil \"[*?#]\" ' OR ''='</Title>")));
     EXPECT_EQ(Rows(u"SELECT Title FROM Profiles WHERE ProfileID LIKE '*DROP*'"),
               QStringList{u"O'Neil \"[*?#]\" ' OR ''='"_s});
+    for (const char *id : {"O'Neil", "a\"b", "../../up", "..\\up", "a|b", "[x]*?#", "%s%n", "\xF0\x9F\x98\x80"}) {
+        const QString key = u"Key_"_s + QString::fromUtf8(id);
+        const QByteArray dvd = Dvd(id, "<Title>T</Title><Genres><Genre>" + QByteArray(id) + "</Genre></Genres>");
+        for (int pass = 0; pass < 2; ++pass) {
+            ForgetDigests();
+            EXPECT_TRUE(Import(dvd));
+            EXPECT_EQ(
+                Rows(QString(u"SELECT ProfileID, Genre FROM Genres WHERE ProfileID = '"_s + EscapeSql(key) + u'\'')),
+                QStringList{key + u'|' + QString::fromUtf8(id)});
+        }
+    }
 }
 
 TEST_F(ProfilerImport, BigProfilesAreTaken) {

@@ -147,6 +147,8 @@ TEST_F(Sections, SuggestedPrices) {
     EXPECT_EQ(Rows(u"SELECT CurrencyName FROM Currencies"), QStringList{u"US Dollar"_s}) << "an existing row stays";
     EXPECT_EQ(After("<SRP DenominationType='EUR' FormattedValue=''/>", all), QStringList());
     EXPECT_EQ(After("<SRP FormattedValue='$5'/>", all), QStringList{u"5|"_s}) << "no price is lost for its currency";
+    EXPECT_EQ(After("<SRP DenominationType='THALER' FormattedValue='6'/>", all), QStringList{u"6|THALE"_s})
+        << "nor for an identifier that its column cuts";
     EXPECT_EQ(After("", all), QStringList());
     EXPECT_EQ(AfterOld("<SRPInfo><SRP>€12,90</SRP><SRPCurrencyID>EUR</SRPCurrencyID><SRPCurrencyName>Euro"
                        "</SRPCurrencyName></SRPInfo>",

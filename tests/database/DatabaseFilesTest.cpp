@@ -235,6 +235,23 @@ TEST_F(FilesTest, OpeningIsTraced) {
     EXPECT_EQ(LogLines().last(), u"Exit:     OpenCollectionDatabase: True"_s);
 }
 
+TEST_F(FilesTest, MakingAndCompactingAreTraced) {
+    const QString path = Path(u"New.mdb"_s);
+    Log(kTraceEntry | kTraceExit);
+    Create();
+    ExpectBusy();
+    EXPECT_FALSE(CompactCollectionDatabase(session, path));
+    session.Database.reset();
+    EXPECT_TRUE(CompactCollectionDatabase(session, path));
+    EXPECT_EQ(LogLines(),
+              QStringList(
+                  {u"Enter:    CreateCollectionDatabase(%1)"_s.arg(path),
+                   u"Enter:    CompactCollectionDatabase(%1)"_s.arg(path), u"Enter:    IsDatabaseBusy(%1)"_s.arg(path),
+                   u"Exit:     IsDatabaseBusy: True"_s, u"Exit:     CompactCollectionDatabase: False"_s,
+                   u"Enter:    CompactCollectionDatabase(%1)"_s.arg(path), u"Enter:    IsDatabaseBusy(%1)"_s.arg(path),
+                   u"Exit:     IsDatabaseBusy: False"_s, u"Exit:     CompactCollectionDatabase: True"_s}));
+}
+
 TEST_F(FilesTest, ANewDatabaseIsOpenAndHasItsFirstSettings) {
     services.folders.user_name = u"Ann O'Lee"_s;
     ASSERT_TRUE(NewCollectionDatabase(session, Path(u"Fresh.mdb"_s)));

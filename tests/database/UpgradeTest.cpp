@@ -150,6 +150,75 @@ constexpr Survivor kSurvivors[] = {
     {"infos", 68, u"SELECT InfoValue FROM AdditionalInfo WHERE InfoName = 'IMDb'", u"0123"},
 };
 
+/// A statement by which a step is known. It runs for versions from `from` to below `below`.
+struct Mark {
+    QStringView statement;
+    int below;
+    int from = 0;
+};
+
+// In the order of the steps.
+constexpr Mark kMarks[] = {
+    {u"DROP TABLE Currencies", 66},
+    {u"DROP TABLE Cast", 33},
+    {u"DROP TABLE TVCrew", 33},
+    {u"DROP TABLE BoxSet", 47},
+    {u"DROP TABLE Events", 46},
+    {u"DROP TABLE Awards", 46},
+    {u"CREATE UNIQUE INDEX idx_Awards_AwardID ON Awards (AwardID)", 69, 48},
+    {u"CREATE INDEX idx_Awards_MovieTitle_Year ON Awards (MovieTitle, Year)", 69},
+    {u"DELETE FROM TVSeries", 51},
+    {u"DROP TABLE Locks", 60},
+    {u"DROP TABLE Profiles", 53},
+    {u"DROP TABLE TVSeries", 55},
+    {u"DROP TABLE Regions", 59},
+    {u"ALTER Table AdditionalInfo ADD PRIMARY KEY (ProfileID, InfoName)", 60},
+    {u"DELETE FROM CastCrew", 60, 47},
+    {u"ALTER Table CastCrew ADD PRIMARY KEY (ProfileID, Name, Position)", 60, 47},
+    {u"ALTER Table TVCastCrew ADD PRIMARY KEY (EpisodeID, Name, Position)", 60, 47},
+    {u"ALTER Table Features ADD PRIMARY KEY (ProfileID, Feature)", 60, 47},
+    {u"ALTER Table Genres ADD PRIMARY KEY (ProfileID, Genre)", 60, 47},
+    {u"ALTER Table Subtitles ADD PRIMARY KEY (ProfileID, Subtitle)", 60, 47},
+    {u"ALTER Table AudioFormats ADD PRIMARY KEY (ProfileID, OrderPos)", 60, 47},
+    {u"DELETE FROM Reviews", 0},
+    {u"ALTER Table Reviews ADD PRIMARY KEY (ProfileID)", 60, 47},
+    {u"ALTER Table Tags ADD PRIMARY KEY (ProfileID, TagName)", 60, 47},
+    {u"DROP TABLE Studios", 62},
+    {u"ALTER TABLE Alias DROP COLUMN Comment", 64},
+    {u"DROP TABLE AdditionalInfo", 68},
+    {u"ALTER TABLE Profile2Episodes DROP COLUMN ID", 71},
+    {u"ALTER TABLE Profile2Episodes ADD PRIMARY KEY (ProfileID, EpisodeID)", 71},
+    {u"ALTER TABLE Events ADD COLUMN Comment varchar", 72},
+    {u"ALTER TABLE Alias ADD COLUMN BirthYear integer", 73},
+    {u"ALTER TABLE CastCrew ADD COLUMN IsUncredited varchar", 73},
+    {u"ALTER TABLE TVCastCrew ADD COLUMN IsVoice varchar", 73},
+    {u"ALTER TABLE Profiles ADD COLUMN CountryOfOrigin varchar", 73},
+    {u"ALTER TABLE Discs ADD COLUMN DualLayeredSideB varchar(5)", 74, 47},
+    {u"ALTER TABLE Alias ADD PRIMARY KEY (AliasName, BirthYear)", 75},
+    {u"ALTER TABLE Discs ADD COLUMN DescriptionSideB varchar", 75, 47},
+    {u"ALTER Table CastCrew ADD PRIMARY KEY (ProfileID, Name, Position, IsCast)", 76},
+    {u"ALTER Table TVCastCrew ADD PRIMARY KEY (EpisodeID, Name, Position, IsCast)", 76},
+    {u"DROP INDEX idx_Awards_AwardID ON Awards", 77, 48},
+    {u"ALTER TABLE Profiles ADD COLUMN MD5 varchar", 78},
+    {u"ALTER TABLE TVCastCrew ADD COLUMN IsRegular yesno", 79},
+    {u"ALTER TABLE Awards ADD COLUMN MovieYear integer", 80},
+    {u"ALTER TABLE Profiles ADD COLUMN RatingDetails varchar", 81},
+    {u"ALTER TABLE Episodes ADD COLUMN RatingDetails varchar", 82},
+    {u"ALTER TABLE VideoFormat DROP COLUMN VideoStandard", 83},
+    {u"Update Profiles SET Medium = 'Blu-ray Disc' WHERE Medium = 'BluRay'", 84},
+    {u"Update Profiles SET Medium = 'HD DVD' WHERE Medium = 'HDDVD'", 84},
+    {u"Update Profiles SET Medium = 'HD DVD/DVD' WHERE Medium = 'HDDVD/DVD'", 84},
+    {u"ALTER TABLE Profiles ADD COLUMN CountAs integer", 85},
+    {u"UPDATE Profiles SET CountAs = 1 WHERE CountAs Is NULL", 85},
+    {u"DELETE FROM AdditionalInfo WHERE InfoName = 'RatingAge' OR InfoName = 'RatingVariant'", 86},
+    {u"ALTER TABLE CastCrew ADD COLUMN IsCreditOnly yesno", 87},
+    {u"ALTER TABLE TVCastCrew ADD COLUMN IsCreditOnly yesno", 87},
+    {u"ALTER TABLE Users ADD COLUMN IsActive yesno", 88},
+    {u"Update Users SET IsActive = true", 88},
+    {u"Update Profiles SET MD5 = ''", 89},
+    {u"ALTER TABLE Profiles ADD COLUMN CustomSortTitle varchar", 90},
+};
+
 /// A schema as lines that do not tell the order of columns, nor the indexes that stand for keys.
 QStringList SchemaLines(sql::Database &database) {
     QStringList lines;
@@ -214,12 +283,26 @@ protected:
         return SchemaLines(*other.Database);
     }
 
+    /// The steps of that version ran in their order, and no other.
+    void CheckSteps(int version) {
+        const QStringList log = LogLines();
+        qsizetype last = -1;
+        for (const Mark &mark : kMarks) {
+            const qsizetype at = log.lastIndexOf(u"Info:     "_s + mark.statement.toString());
+            EXPECT_EQ(at >= 0, version >= mark.from && version < mark.below) << mark.statement.toString().toStdString();
+            EXPECT_TRUE(at < 0 || at > last) << mark.statement.toString().toStdString();
+            last = std::max(last, at);
+        }
+    }
+
     void CheckUpgrade(int version) {
         BuildFile(version);
         if (version < kAskedBelow) {
             ExpectQuestion(MessageAnswer::Yes);
         }
+        Log(kTraceInfo);
         ASSERT_TRUE(OpenOld());
+        CheckSteps(version);
         EXPECT_EQ(Rows(u"SELECT InfoValue, Comment FROM DbInfo WHERE InfoName = 'Schema'"),
                   QStringList(u"90|Database Schema"_s));
         EXPECT_EQ(SchemaLines(*session.Database), NewSchemaLines());

@@ -33,6 +33,7 @@ TEST_F(CrossLinks, PlainLinkIsStored) {
 TEST_F(CrossLinks, EqualOrEmptyNamesAreNoLink) {
     Link(u"Ann"_s, u"Ann"_s);
     Link(u"Ann"_s, u"ANN"_s);
+    Link(u"Ann Strauß"_s, u"ANN STRAUSS"_s);
     Link({}, u"Ann"_s);
     Link(u"Ann"_s, {});
     EXPECT_EQ(Aliases(), QStringList());

@@ -60,6 +60,15 @@ TEST(Name, SplitsFullNames) {
     }
 }
 
+TEST(Name, ABarInANameCutsItsParts) {
+    Name name;
+    name.SetFullName(u"Ann|Lee Smith"_s);
+    EXPECT_EQ(name.FirstName(), u"Ann"_s);
+    EXPECT_EQ(name.MiddleName(), u"Lee"_s);
+    EXPECT_EQ(name.LastName(), QString());
+    EXPECT_EQ(name.FullName(), u"Ann|Lee Smith"_s);
+}
+
 TEST(Name, KnowsAllTitlesAndSuffixes) {
     for (const char *title :
          {"sir",  "lady",      "madame",  "de",   "capt.",    "lt.",       "captain",  "mr.",      "miss",      "mrs.",

@@ -42,6 +42,167 @@ TEST(SettingsTable, HoldsEachKeyOnce) {
     EXPECT_EQ(FindDbSetting(u"LoanDue")->Preset(), u"7"_s);
 }
 
+TEST(SettingsTable, HasEveryKeyWithItsDefault) {
+    static constexpr struct {
+        QStringView key, preset;
+    } kKeys[] = {
+        {u"Schema", u""},
+        {u"Owner", u""},
+        {u"Profiler3", u"False"},
+        {u"CrewMapping", u""},
+        {u"CoverPath", u"Images/"},
+        {u"HeadshotPath", u"Images/Headshots"},
+        {u"LastSelectedItem", u""},
+        {u"LastTVUpdate", u"0"},
+        {u"LastDataUpdate", u"0"},
+        {u"TVTimeStamp", u""},
+        {u"LoanDue", u"7"},
+        {u"ShowLoanDueOnStartUp", u"1"},
+        {u"FontName", u"Arial"},
+        {u"FontSize", u"8.25"},
+        {u"LocalLanguage", u""},
+        {u"AlternateLocalLanguage", u"en-US"},
+        {u"UseUserDefinedStrings", u"0"},
+        {u"TraceStrings", u"0"},
+        {u"SelectedUsers", u""},
+        {u"EventTypes", u""},
+        {u"IncludeInOwned", u""},
+        {u"UseProfilerColTypes", u"1"},
+        {u"UseCustomTitle", u"False"},
+        {u"UseOriginalTitle", u"False"},
+        {u"ViewTVShows", u"False"},
+        {u"IncludeMovies", u"True"},
+        {u"IncludeTV", u"True"},
+        {u"IncludeAssignedEpisodesOnly", u"False"},
+        {u"ExportTV_AllInfos", u"0"},
+        {u"AdditionalInfosInProfilerExport", u"False"},
+        {u"AwardsInProfilerExport", u"False"},
+        {u"AutoLock", u"False"},
+        {u"AutoLockEvents", u"False"},
+        {u"RemoveBirthYears", u"False"},
+        {u"ProfilesSortKey", u"2"},
+        {u"ProfilesSortOrder", u"0"},
+        {u"LastTab", u"1"},
+        {u"TabColList", u"1"},
+        {u"ProfileInfoLastTab", u"1"},
+        {u"BoxsetView", u"True"},
+        {u"ColorCollectionList", u"True"},
+        {u"CrewTreeView", u"True"},
+        {u"HideUnassignedCrew", u"False"},
+        {u"ReverseCreditName", u"False"},
+        {u"ShowFullBoxsetCredits", u"False"},
+        {u"ShowFilter", u"True"},
+        {u"ShowDescription", u"False"},
+        {u"ShowToolbar", u"False"},
+        {u"ShowMediaIcon", u"True"},
+        {u"ShowProgressDetails", u"True"},
+        {u"ShowMoreProgressDetails", u"False"},
+        {u"ProgressWindowAutoClose", u"0"},
+        {u"HighlightHeadshots", u"True"},
+        {u"DoNotResizeHeadshots", u"True"},
+        {u"EnableSkin", u"0"},
+        {u"CurrentSkin", u""},
+        {u"DescFormat", u"1"},
+        {u"AppearancesOrderColumns", u"1,2,3,4"},
+        {u"CastOrderColumns", u"1,2,3"},
+        {u"CrewOrderColumns", u"1,2,3"},
+        {u"EncryptedText", u""},
+        {u"HTML_AppendEdition", u""},
+        {u"HTML_ColTypesOrder", u"Owned"},
+        {u"HTML_CoverSource", u"1"},
+        {u"HTML_ExcludedColTypes", u""},
+        {u"HTML_ExportPath", u""},
+        {u"HTML_Filter", u""},
+        {u"HTML_GenerateCrosslinks", u"1"},
+        {u"HTML_GenerateEpisodeHTML", u"1"},
+        {u"HTML_MediaSkins", u""},
+        {u"HTML_Skin", u""},
+        {u"HTML_SkinEpisode", u""},
+        {u"HTML_SortByTitle", u"1"},
+        {u"HTML_UseCollectionType", u"1"},
+        {u"HTML_UseCustomTitle", u"0"},
+        {u"HTML_UseTitle", u""},
+    };
+    for (const auto &row : kKeys) {
+        const DbSetting *setting = FindDbSetting(row.key);
+        ASSERT_TRUE(setting) << row.key.toString().toStdString();
+        EXPECT_EQ(setting->Preset(), row.preset) << row.key.toString().toStdString();
+    }
+    EXPECT_EQ(DbSettings().size(), std::size(kKeys));
+}
+
+TEST(SettingsTable, LoadsInItsOrder) {
+    QStringList loaded;
+    for (const DbSetting &setting : DbSettings().first(53)) {
+        loaded += setting.Key();
+    }
+    EXPECT_EQ(loaded.join(u' '),
+              u"LocalLanguage AlternateLocalLanguage FontSize FontName Profiler3 EnableSkin CurrentSkin "
+              "DoNotResizeHeadshots ShowMediaIcon AdditionalInfosInProfilerExport AwardsInProfilerExport "
+              "TraceStrings UseUserDefinedStrings UseProfilerColTypes ShowToolbar CrewTreeView "
+              "ShowFullBoxsetCredits CastOrderColumns CrewOrderColumns AppearancesOrderColumns "
+              "IncludeMovies IncludeTV IncludeAssignedEpisodesOnly AutoLockEvents RemoveBirthYears "
+              "ShowProgressDetails ShowMoreProgressDetails ShowFilter HideUnassignedCrew AutoLock "
+              "ReverseCreditName HighlightHeadshots BoxsetView ColorCollectionList UseCustomTitle "
+              "UseOriginalTitle ShowDescription DescFormat CoverPath HeadshotPath LoanDue "
+              "ShowLoanDueOnStartUp ViewTVShows LastTab TabColList LastSelectedItem ProfilesSortKey "
+              "ProfilesSortOrder IncludeInOwned ProgressWindowAutoClose ProfileInfoLastTab SelectedUsers "
+              "EventTypes"_s);
+}
+
+TEST_F(SettingsTest, TheInstallationHasEveryKeyWithItsDefault) {
+    const struct {
+        const char16_t *section, *key;
+        QString preset;
+    } cases[] = {
+        {u"Main", u"DatabasePath", session.DataFolder},
+        {u"Main", u"Debug", u"1"_s},
+        {u"Main", u"LastDatabase", u"Database"_s},
+        {u"Main", u"Version", {}},
+        {u"Main", u"URLHeadshots", u"/dvdprofiler/Data/Headshots/"_s},
+        {u"Main", u"URLIMDb", u"/title/"_s},
+        {u"Main", u"URLDataUpdate", u"/dvdprofiler/Data"_s},
+        {u"Main", u"URLTVUpdate", u"/dvdprofiler/CastCrew"_s},
+        {u"Main", u"LastHeadshotsUpdate", {}},
+        {u"Main", u"CollectionFile", session.DataFolder + QDir::separator() + u"collection.xml"_s},
+        {u"Main", u"EpisodeDivider", u". "_s},
+        {u"Main", u"Scheme", u"n/a"_s},
+        {u"SVNAudit", u"SVNExePath", {}},
+        {u"SVNAudit", u"SVNAuditEnabled", u"False"_s},
+        {u"SVNAudit", u"SVNAuditPath", {}},
+        {u"SVNAudit", u"SVNTortProcExePath", {}},
+        {u"Window", u"Height", u"11000"_s},
+        {u"Window", u"Width", u"17000"_s},
+        {u"Window", u"Top", u"200"_s},
+        {u"Window", u"Left", u"200"_s},
+        {u"Window", u"WindowState", u"0"_s},
+        {u"Splitter", u"Splitter1", u"0.45"_s},
+        {u"Splitter", u"Splitter2", u"0.55"_s},
+        {u"Splitter", u"Splitter3", u"0.4"_s},
+        {u"Splitter", u"Splitter4", u"0.5"_s},
+        {u"Splitter", u"Splitter5", u"0.5"_s},
+        {u"Splitter", u"Splitter6", u"0.3"_s},
+        {u"GridLines", u"ListCollection", u"True"_s},
+        {u"GridLines", u"ListCast", u"True"_s},
+        {u"GridLines", u"ListCrew", u"True"_s},
+        {u"GridLines", u"ListEpisodes", u"False"_s},
+        {u"GridLines", u"ListAppearances", u"False"_s},
+        {u"GridLines", u"MultiList", u"False"_s},
+        {u"Settings", u"TraceTranslateableStringsToFile", {}},
+        {u"Settings", u"IgnoreEpisodeError", {}},
+        {u"Settings", u"ImportAllAdditionalInfos", {}},
+    };
+    QFile::remove(session.SettingsPath);
+    for (const auto &c : cases) {
+        const QString value = ReadIniSetting(session, c.section, c.key);
+        // The hosts of the servers are the build's own; what is told is how the URL ends.
+        EXPECT_TRUE(c.preset.startsWith(u"/dvd"_s) || c.preset == u"/title/" ? value.endsWith(c.preset)
+                                                                             : value == c.preset)
+            << qPrintable(QString::fromUtf16(c.key) + u": "_s + value);
+    }
+    EXPECT_EQ(IniSettings().size(), std::size(cases));
+}
+
 TEST(SettingsTable, ValuesAreOfTheirKind) {
     for (const DbSetting &setting : DbSettings()) {
         const QString preset = setting.Preset();

@@ -9,6 +9,9 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
+#include <sys/resource.h>
+
 #include <atomic>
 #include <thread>
 
@@ -112,6 +115,27 @@ TEST_F(LockFileTest, AFolderThatTakesNoFileIsTold) {
     } catch (const SqlError &error) {
         EXPECT_EQ(error.Code(), ErrorCode::CannotLock);
     }
+}
+
+TEST_F(LockFileTest, AFullDiskTakesNoHolderAway) {
+    const auto fails = [&](rlim_t room) {
+        return InChild([&] {
+                   std::signal(SIGXFSZ, SIG_IGN);
+                   const rlimit limit = {room, RLIM_INFINITY}; // no file takes a byte beyond it
+                   ::setrlimit(RLIMIT_FSIZE, &limit);
+                   try {
+                       const LockFile lock(path_);
+                       return 1;
+                   } catch (const SqlError &error) {
+                       return error.Code() == ErrorCode::CannotLock ? 0 : 2;
+                   }
+               }) == 0;
+    };
+    EXPECT_TRUE(fails(0));
+    EXPECT_FALSE(Exists());
+    const LockFile own(path_);
+    EXPECT_TRUE(fails(5));
+    EXPECT_EQ(LockFile::Holders(path_).size(), 1);
 }
 
 TEST_F(LockFileTest, ManyComersLoseNoHolder) {

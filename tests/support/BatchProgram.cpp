@@ -4,6 +4,10 @@
 #include <QProcessEnvironment>
 #include <gtest/gtest.h>
 
+#ifdef Q_OS_UNIX
+#include <sys/resource.h>
+#endif
+
 namespace ostrand::test {
 
 using namespace Qt::StringLiterals;
@@ -26,6 +30,14 @@ std::unique_ptr<QProcess> BatchProgram::Start(const QStringList &arguments) {
     environment.insert(u"LC_ALL"_s, u"C"_s);
     process->setProcessEnvironment(environment);
     process->setWorkingDirectory(folder.Path());
+#ifdef Q_OS_UNIX
+    if (file_limit > 0) {
+        process->setChildProcessModifier([limit = rlim_t(file_limit)] {
+            const rlimit both{limit, limit};
+            setrlimit(RLIMIT_FSIZE, &both);
+        });
+    }
+#endif
     process->start(QString::fromUtf8(OSTRAND_BATCH_PROGRAM), arguments);
     EXPECT_TRUE(process->waitForStarted(kPatience));
     return process;

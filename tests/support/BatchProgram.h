@@ -24,6 +24,8 @@ public:
     QString In(const QString &name) const { return folder / name; }
 
     TempDir folder;
+    /// The most bytes that a file may grow to, as on a disk that is full; 0 for no limit. On Unix only.
+    qint64 file_limit = 0;
 };
 
 } // namespace ostrand::test

@@ -207,6 +207,21 @@ TEST_F(Scanner, AFileThatChangedGivesNothing) {
     EXPECT_FALSE(scanner.Read(scanner.Elements()[0]));
 }
 
+TEST_F(Scanner, AnElementThatNoLongerEndsWhereItDidGivesNothing) {
+    const QByteArray before = Wrapped("<DVD><ID>1</ID></DVD><DVD><ID>2</ID></DVD>");
+    const QString path = Write(before);
+    ElementScanner scanner(path, Query());
+    ASSERT_TRUE(scanner.Scan().ok);
+    QByteArray after = before;
+    after.replace("1</ID></DVD>", "1</ID><T/>  ");
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    ASSERT_EQ(file.write(after), before.size());
+    file.close();
+    EXPECT_FALSE(scanner.Read(scanner.Elements()[0])) << "half a profile would take its other rows away";
+    EXPECT_TRUE(scanner.Read(scanner.Elements()[1]));
+}
+
 } // namespace
 
 } // namespace ostrand

@@ -12,6 +12,8 @@ namespace {
 
 constexpr int kCreditsPerProfile = 82;
 constexpr int kFewestCredits = 18;
+// What a profile has above the fewest, on average; a little more than the difference, since boxes have no credits.
+constexpr double kCreditTail = 66.8;
 constexpr int kMostCredits = 420;
 constexpr int kBoxEvery = 40;
 constexpr int kBoxChildren = 3;
@@ -103,7 +105,7 @@ QByteArray MakeTime(Random &random, int first_year, int last_year) {
 }
 
 int DrawCreditCount(Random &random) {
-    const double tail = -std::log(1.0 - random.Unit()) * (kCreditsPerProfile - kFewestCredits);
+    const double tail = -std::log(1.0 - random.Unit()) * kCreditTail;
     return std::min(kMostCredits, kFewestCredits + static_cast<int>(tail + 0.5));
 }
 
