@@ -93,7 +93,7 @@ bool ReadFlag(pugi::xml_node node, const char *child) {
 } // namespace
 
 void ImportBoxSet(const ImportProfile &profile) {
-    DeleteRows(profile.GetSession(), QLatin1String("BoxSet"), QLatin1String("BoxSetID"), profile.key);
+    DeleteRows(profile, QLatin1String("BoxSet"), QLatin1String("BoxSetID"));
     const pugi::xml_node box_set = profile.dvd.child("BoxSet");
     const bool is_new = profile.run.is_profiler3;
     const pugi::xml_node contents = is_new ? box_set.child("Contents") : box_set;
@@ -105,7 +105,7 @@ void ImportBoxSet(const ImportProfile &profile) {
 }
 
 void ImportDiscs(const ImportProfile &profile) {
-    DeleteRows(profile.GetSession(), QLatin1String("Discs"), kProfileID, profile.key);
+    DeleteRows(profile, QLatin1String("Discs"), kProfileID);
     const bool is_new = profile.run.is_profiler3;
     int number = 0;
     for (const pugi::xml_node disc : profile.dvd.child("Discs").children("Disc")) {
@@ -129,7 +129,7 @@ void ImportDiscs(const ImportProfile &profile) {
 }
 
 void ImportRegions(const ImportProfile &profile) {
-    DeleteRows(profile.GetSession(), QLatin1String("Regions"), kProfileID, profile.key);
+    DeleteRows(profile, QLatin1String("Regions"), kProfileID);
     const auto regions = profile.dvd.child("Regions").children("Region");
     for (const pugi::xml_node region : regions) {
         InsertRegion(profile, RegionNumber(XmlNodeText(region)));
@@ -161,7 +161,7 @@ void ImportVideoFormat(const ImportProfile &profile) {
 }
 
 void ImportFeatures(const ImportProfile &profile) {
-    DeleteRows(profile.GetSession(), QLatin1String("Features"), kProfileID, profile.key);
+    DeleteRows(profile, QLatin1String("Features"), kProfileID);
     for (const pugi::xml_node child : profile.dvd.child("Features").children()) {
         const std::string_view name = child.name();
         if (name == "FeatureOther" || name == "OtherFeatures") {
@@ -177,7 +177,7 @@ void ImportFeatures(const ImportProfile &profile) {
 }
 
 void ImportStudios(const ImportProfile &profile) {
-    DeleteRows(profile.GetSession(), QLatin1String("Studios"), kProfileID, profile.key);
+    DeleteRows(profile, QLatin1String("Studios"), kProfileID);
     for (const pugi::xml_node studio : profile.dvd.child("Studios").children("Studio")) {
         InsertStudio(profile, XmlNodeText(studio), {});
     }
@@ -192,7 +192,7 @@ void ImportStudios(const ImportProfile &profile) {
 }
 
 void ImportGenres(const ImportProfile &profile) {
-    DeleteRows(profile.GetSession(), QLatin1String("Genres"), kProfileID, profile.key);
+    DeleteRows(profile, QLatin1String("Genres"), kProfileID);
     for (const pugi::xml_node genre : profile.dvd.child("Genres").children("Genre")) {
         if (const QString name = XmlNodeText(genre); !name.isEmpty()) {
             InsertRow(profile.GetSession(), QLatin1String("Genres"),
@@ -202,7 +202,7 @@ void ImportGenres(const ImportProfile &profile) {
 }
 
 void ImportSubtitles(const ImportProfile &profile) {
-    DeleteRows(profile.GetSession(), QLatin1String("Subtitles"), kProfileID, profile.key);
+    DeleteRows(profile, QLatin1String("Subtitles"), kProfileID);
     for (const pugi::xml_node subtitle : profile.dvd.child("Subtitles").children("Subtitle")) {
         InsertRow(profile.GetSession(), QLatin1String("Subtitles"),
                   {{kProfileID, profile.key}, {QLatin1String("Subtitle"), XmlNodeText(subtitle)}});
@@ -210,7 +210,7 @@ void ImportSubtitles(const ImportProfile &profile) {
 }
 
 void ImportAudioFormats(const ImportProfile &profile) {
-    DeleteRows(profile.GetSession(), QLatin1String("AudioFormats"), kProfileID, profile.key);
+    DeleteRows(profile, QLatin1String("AudioFormats"), kProfileID);
     const bool is_new = profile.run.is_profiler3;
     int order = 0;
     for (const pugi::xml_node track : profile.dvd.child("Audio").children(is_new ? "AudioTrack" : "AudioFormat")) {
@@ -225,7 +225,7 @@ void ImportAudioFormats(const ImportProfile &profile) {
 }
 
 void ImportReviews(const ImportProfile &profile) {
-    DeleteRows(profile.GetSession(), QLatin1String("Reviews"), kProfileID, profile.key);
+    DeleteRows(profile, QLatin1String("Reviews"), kProfileID);
     const pugi::xml_node review = profile.dvd.child("Review");
     const bool is_new = profile.run.is_profiler3;
     const auto mark = [&](const char *attribute, const char *child) {
@@ -246,7 +246,7 @@ void ImportMetaInfo(const ImportProfile &profile) {
             exclusions.append(QString::fromUtf8(exclusion.name()));
         }
     }
-    WriteMetaInfo(profile.GetSession(), profile.key, u"Exclusions"_s, exclusions.join(u", "_s));
+    StoreMetaInfo(profile, u"Exclusions"_s, exclusions.join(u", "_s));
     const pugi::xml_node banners = profile.dvd.child("MediaBanners");
     if (!banners) {
         return;
@@ -254,13 +254,12 @@ void ImportMetaInfo(const ImportProfile &profile) {
     // The neutral words of the two sides differ.
     const QString front = XmlAttribute(banners, "Front");
     const QString back = XmlAttribute(banners, "Back");
-    WriteMetaInfo(profile.GetSession(), profile.key, u"MediaBannerFront"_s,
-                  front == u"Automatic"_s ? QString() : front);
-    WriteMetaInfo(profile.GetSession(), profile.key, u"MediaBannerBack"_s, back == u"Off"_s ? QString() : back);
+    StoreMetaInfo(profile, u"MediaBannerFront"_s, front == u"Automatic"_s ? QString() : front);
+    StoreMetaInfo(profile, u"MediaBannerBack"_s, back == u"Off"_s ? QString() : back);
 }
 
 void ImportTags(const ImportProfile &profile) {
-    DeleteRows(profile.GetSession(), QLatin1String("Tags"), kProfileID, profile.key);
+    DeleteRows(profile, QLatin1String("Tags"), kProfileID);
     const bool is_new = profile.run.is_profiler3;
     for (const pugi::xml_node tag : profile.dvd.child("Tags").children("Tag")) {
         InsertRow(profile.GetSession(), QLatin1String("Tags"),

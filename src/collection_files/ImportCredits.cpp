@@ -16,11 +16,12 @@ namespace {
 /// The rows of one cast or crew, emptied when made.
 class CreditRows {
 public:
-    CreditRows(Session &session, const QString &key, bool is_episode, bool is_cast);
+    CreditRows(Session &session, const QString &key, bool is_episode, bool is_cast, PresentRows present);
     void Add(const Credit &credit);
 
 private:
-    static sql::Recordset OpenEmptied(Session &session, const QString &key, bool is_episode, bool is_cast);
+    static sql::Recordset OpenEmptied(Session &session, const QString &key, bool is_episode, bool is_cast,
+                                      PresentRows present);
 
     Session &session_;
     QString key_;
@@ -32,18 +33,21 @@ private:
     int next_position_ = 1;
 };
 
-sql::Recordset CreditRows::OpenEmptied(Session &session, const QString &key, bool is_episode, bool is_cast) {
+sql::Recordset CreditRows::OpenEmptied(Session &session, const QString &key, bool is_episode, bool is_cast,
+                                       PresentRows present) {
     const QString rows =
         (is_episode ? u"FROM TVCastCrew WHERE EpisodeID = '"_s : u"FROM CastCrew WHERE ProfileID = '"_s) +
         EscapeSql(key) + u"' AND IsCast = "_s + (is_cast ? u"true"_s : u"false"_s);
-    session.Database->Execute(QString(u"DELETE "_s + rows));
+    if (present == PresentRows::Any) {
+        session.Database->Execute(QString(u"DELETE "_s + rows));
+    }
     return session.Database->OpenRecordset(QString(u"SELECT * "_s + rows));
 }
 
-CreditRows::CreditRows(Session &session, const QString &key, bool is_episode, bool is_cast) :
+CreditRows::CreditRows(Session &session, const QString &key, bool is_episode, bool is_cast, PresentRows present) :
     session_(session), key_(key), is_episode_(is_episode), is_cast_(is_cast),
-    rows_(OpenEmptied(session, key, is_episode, is_cast)), name_(rows_.Ordinal(u"Name")), role_(rows_.Ordinal(u"Role")),
-    position_(rows_.Ordinal(u"Position")), is_cast_column_(rows_.Ordinal(u"IsCast")),
+    rows_(OpenEmptied(session, key, is_episode, is_cast, present)), name_(rows_.Ordinal(u"Name")),
+    role_(rows_.Ordinal(u"Role")), position_(rows_.Ordinal(u"Position")), is_cast_column_(rows_.Ordinal(u"IsCast")),
     is_voice_(rows_.Ordinal(u"IsVoice")), is_uncredited_(rows_.Ordinal(u"IsUncredited")),
     is_credit_only_(rows_.Ordinal(u"IsCreditOnly")), birth_year_(rows_.Ordinal(u"BirthYear")),
     key_column_(rows_.Ordinal(is_episode ? u"EpisodeID" : u"ProfileID")) {
@@ -129,11 +133,12 @@ QString CallText(const QString &name, const QString &key, bool is_episode, bool 
 
 } // namespace
 
-void ImportCast(Session &session, pugi::xml_node node, const QString &key, bool is_episode, bool silent) {
+void ImportCast(Session &session, pugi::xml_node node, const QString &key, bool is_episode, bool silent,
+                PresentRows present) {
     if (session.trace.Wants(kTraceEntry)) {
         Trace(session, CallText(u"ImportCast"_s, key, is_episode, silent), kTraceEntry);
     }
-    CreditRows rows(session, key, is_episode, true);
+    CreditRows rows(session, key, is_episode, true, present);
     for (const pugi::xml_node element : node.children()) {
         if (const auto credit = ReadCastCredit(element)) {
             LinkNames(session, *credit, silent);
@@ -142,11 +147,12 @@ void ImportCast(Session &session, pugi::xml_node node, const QString &key, bool 
     }
 }
 
-void ImportCrew(Session &session, pugi::xml_node node, const QString &key, bool is_episode, bool silent) {
+void ImportCrew(Session &session, pugi::xml_node node, const QString &key, bool is_episode, bool silent,
+                PresentRows present) {
     if (session.trace.Wants(kTraceEntry)) {
         Trace(session, CallText(u"ImportCrew"_s, key, is_episode, silent), kTraceEntry);
     }
-    CreditRows rows(session, key, is_episode, false);
+    CreditRows rows(session, key, is_episode, false, present);
     LearnedRoles learned(session);
     for (const pugi::xml_node element : node.children()) {
         if (const auto credit = ReadCrewCredit(element)) {

@@ -18,6 +18,9 @@ struct ImportRun {
     bool is_profiler3 = true;
     bool show_details = true;
     bool show_more_details = false;
+    /// No table held a row of any profile when the run began.
+    bool into_empty_tables = false;
+    bool has_locks = true;
 };
 
 struct ImportProfile {
@@ -31,6 +34,8 @@ struct ImportProfile {
     QString locality;
     QString medium;
     LockSet locks;
+    /// The dependent tables may hold rows under the key, which the sections must delete.
+    bool may_have_rows = true;
 
     Session &GetSession() const { return run.session; }
 };
@@ -42,9 +47,9 @@ void ShowImportDetail(const ImportRun &run, const QString &word);
 
 /// Writes a new row of Profiles, or the present one `row` field by field under the locks. The row's MD5 is left empty
 /// until the whole profile is written.
-void WriteProfileRow(const ImportProfile &profile, bool is_new);
+void WriteProfileRow(ImportProfile &profile, bool is_new);
 /// Stores what the user keeps between tags in the notes.
-void StorePseudoTags(const ImportProfile &profile, const QString &notes);
+void StorePseudoTags(ImportProfile &profile, const QString &notes);
 /// Replaces the dependent rows of a profile, section by section under their locks.
 void ImportSections(const ImportProfile &profile);
 

@@ -13,12 +13,16 @@ namespace ostrand {
 
 namespace {
 
+PresentRows PresentRowsOf(const ImportProfile &profile) {
+    return profile.may_have_rows ? PresentRows::Any : PresentRows::None;
+}
+
 void ImportProfileCast(const ImportProfile &profile) {
-    ImportCast(profile.GetSession(), profile.dvd.child("Actors"), profile.key, false, false);
+    ImportCast(profile.GetSession(), profile.dvd.child("Actors"), profile.key, false, false, PresentRowsOf(profile));
 }
 
 void ImportProfileCrew(const ImportProfile &profile) {
-    ImportCrew(profile.GetSession(), profile.dvd.child("Credits"), profile.key, false, false);
+    ImportCrew(profile.GetSession(), profile.dvd.child("Credits"), profile.key, false, false, PresentRowsOf(profile));
 }
 
 struct Section {

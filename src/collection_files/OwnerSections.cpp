@@ -140,7 +140,7 @@ Price ReadPurchasePrice(const ImportProfile &profile, pugi::xml_node purchase) {
 
 void ImportSrpInfo(const ImportProfile &profile) {
     Session &session = profile.GetSession();
-    DeleteRows(session, QLatin1String("SRPInfo"), kProfileID, profile.key);
+    DeleteRows(profile, QLatin1String("SRPInfo"), kProfileID);
     const Price price = profile.run.is_profiler3 ? ReadPriceAttributes(profile, profile.dvd.child("SRP"))
                                                  : ReadPriceChildren(profile, profile.dvd.child("SRPInfo"), "SRP",
                                                                      "SRPCurrencyID", "SRPCurrencyName", {});
@@ -155,7 +155,7 @@ void ImportSrpInfo(const ImportProfile &profile) {
 
 void ImportPurchaseInfo(const ImportProfile &profile) {
     Session &session = profile.GetSession();
-    DeleteRows(session, QLatin1String("PurchaseInfo"), kProfileID, profile.key);
+    DeleteRows(profile, QLatin1String("PurchaseInfo"), kProfileID);
     const pugi::xml_node purchase = profile.dvd.child("PurchaseInfo");
     const bool is_new = profile.run.is_profiler3;
     const QString date = XmlParseDate(XmlChildText(purchase, "PurchaseDate"));
@@ -180,7 +180,7 @@ void ImportPurchaseInfo(const ImportProfile &profile) {
 
 void ImportEvents(const ImportProfile &profile) {
     Session &session = profile.GetSession();
-    DeleteRows(session, QLatin1String("Events"), kProfileID, profile.key);
+    DeleteRows(profile, QLatin1String("Events"), kProfileID);
     for (const pugi::xml_node event : profile.dvd.child("Events").children("Event")) {
         const Person person = ReadPerson(event.child("User"), profile.run.is_profiler3);
         InsertUser(session, person);
@@ -195,7 +195,7 @@ void ImportEvents(const ImportProfile &profile) {
 
 void ImportLoanInfo(const ImportProfile &profile) {
     Session &session = profile.GetSession();
-    DeleteRows(session, QLatin1String("LoanInfo"), kProfileID, profile.key);
+    DeleteRows(profile, QLatin1String("LoanInfo"), kProfileID);
     const pugi::xml_node loan = profile.dvd.child("LoanInfo");
     Person person;
     QString due;

@@ -2,6 +2,7 @@
 
 #include "collection_files/ElementValues.h"
 #include "collection_files/ImportProfile.h"
+#include "collection_files/Rows.h"
 #include "database/DatabaseFunctions.h"
 #include "shell/Session.h"
 #include "sql/Conversion.h"
@@ -135,8 +136,7 @@ void SetLastEdited(sql::Recordset &row, const QString &text, bool is_new, QChar 
 void WriteRatingInfos(const ImportProfile &profile) {
     for (const char *name : {"RatingAge", "RatingVariant"}) {
         if (profile.dvd.child(name)) {
-            WriteMetaInfo(profile.GetSession(), profile.key, QString::fromLatin1(name),
-                          XmlChildText(profile.dvd, name));
+            StoreMetaInfo(profile, QString::fromLatin1(name), XmlChildText(profile.dvd, name));
         }
     }
 }
@@ -168,7 +168,7 @@ QString ReadMedium(pugi::xml_node dvd, bool is_profiler3) {
     return media.join(u'/');
 }
 
-void WriteProfileRow(const ImportProfile &profile, bool is_new) {
+void WriteProfileRow(ImportProfile &profile, bool is_new) {
     sql::Database &database = *profile.GetSession().Database;
     sql::Recordset row = database.OpenRecordset(
         QString(u"SELECT * FROM Profiles WHERE ProfileID = '"_s + EscapeSql(profile.key) + u'\''));

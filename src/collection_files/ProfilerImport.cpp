@@ -16,6 +16,8 @@
 #include <QFileInfo>
 #include <QStringList>
 
+#include <array>
+
 using namespace Qt::StringLiterals;
 
 namespace ostrand {
@@ -38,6 +40,11 @@ bool EndsImport(sql::ErrorCode code) {
     }
 }
 
+/// The tables whose rows of a profile the import replaces.
+constexpr auto kSectionTables = std::to_array<QStringView>(
+    {u"CastCrew", u"BoxSet", u"Discs", u"Regions", u"Features", u"Studios", u"Genres", u"Subtitles", u"AudioFormats",
+     u"SRPInfo", u"Reviews", u"MetaInfo", u"PurchaseInfo", u"Events", u"LoanInfo", u"Tags"});
+
 /// The first child of the root decides, as the files of both generations look alike otherwise.
 bool IsProfiler3File(const ElementScanner &scanner) {
     return scanner.Elements().front().marked;
@@ -59,6 +66,7 @@ private:
     bool ConfirmOlderFile();
     bool ConfirmFirstNewFile();
     Outcome ImportElements(ElementScanner &scanner);
+    void LookAtTables();
     bool ImportElement(ElementScanner &scanner, const ScannedElement &element);
     void ImportOne(const ScannedElement &element, const pugi::xml_node &dvd);
     void WriteProfile(ImportProfile &profile, const FoundProfile &found);
@@ -203,9 +211,13 @@ bool CollectionImport::ConfirmFirstNewFile() {
 
 CollectionImport::Outcome CollectionImport::ImportElements(ElementScanner &scanner) {
     rekey_ = run_.is_profiler3 && !session_.Profiler3;
-    if (!rekey_) {
+    std::optional<RekeyingIndexes> indexes;
+    if (rekey_) {
+        indexes.emplace(session_);
+    } else {
         known_.Load(session_);
     }
+    LookAtTables();
     const int total = int(scanner.Elements().size());
     const QString of_total = u'/' + QString::number(total);
     int done = 0;
@@ -223,6 +235,15 @@ CollectionImport::Outcome CollectionImport::ImportElements(ElementScanner &scann
         }
     }
     return Outcome::Done;
+}
+
+/// What a first import need not ask for each profile.
+void CollectionImport::LookAtTables() {
+    sql::Database &database = *session_.Database;
+    run_.has_locks = database.RecordCount(u"Locks") > 0;
+    run_.into_empty_tables = database.RecordCount(u"Profiles") == 0 &&
+                             std::all_of(kSectionTables.begin(), kSectionTables.end(),
+                                         [&](QStringView table) { return database.RecordCount(table) == 0; });
 }
 
 /// False when nothing further can be stored.
@@ -261,7 +282,10 @@ void CollectionImport::ImportOne(const ScannedElement &element, const pugi::xml_
         profile.locality = session_.CountryNames.value(profile.id.mid(dot + 1).toInt());
     }
     const FoundProfile found = FindProfileRow(profile, rekey_);
-    profile.locks = LockSet(session_, profile.key);
+    if (run_.has_locks) {
+        profile.locks = LockSet(session_, profile.key);
+    }
+    profile.may_have_rows = found.exists || !run_.into_empty_tables;
     const bool skipped = found.exists && (found.md5 == profile.hash || profile.locks.IsLocked(u"Entire"_s));
     if (!skipped) {
         // Known under the stored spelling only: another one in the file would leave a second, stale entry.

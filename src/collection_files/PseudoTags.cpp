@@ -52,7 +52,7 @@ void InsertItems(const ImportProfile &profile, const PseudoTag &tag, const QStri
 
 } // namespace
 
-void StorePseudoTags(const ImportProfile &profile, const QString &notes) {
+void StorePseudoTags(ImportProfile &profile, const QString &notes) {
     if (!notes.contains(u'<')) {
         return;
     }
@@ -69,6 +69,7 @@ void StorePseudoTags(const ImportProfile &profile, const QString &notes) {
             WriteAdditionalInfo(profile.GetSession(), profile.key, QString::fromLatin1(tag.info), text);
         } else {
             InsertItems(profile, tag, text);
+            profile.may_have_rows = true; // which the sections replace
         }
     }
 }

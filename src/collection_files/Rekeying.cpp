@@ -27,6 +27,17 @@ constexpr auto kKeyColumns = std::to_array<std::pair<const char *, const char *>
     {"MetaInfo", "ProfileID"},
 });
 
+struct RekeyingIndex {
+    QLatin1String name;
+    QLatin1String table;
+    QLatin1String column;
+};
+
+constexpr auto kIndexes = std::to_array<RekeyingIndex>({
+    {QLatin1String("rekeying_Discs"), QLatin1String("Discs"), QLatin1String("DiscIDSideA")},
+    {QLatin1String("rekeying_Profiles"), QLatin1String("Profiles"), QLatin1String("UPC")},
+});
+
 sql::Recordset Select(Session &session, const QString &condition) {
     return session.Database->OpenRecordset(QString(u"SELECT * FROM Profiles WHERE "_s + condition));
 }
@@ -104,6 +115,26 @@ FoundProfile FindByUpc(const ImportProfile &profile) {
 }
 
 } // namespace
+
+RekeyingIndexes::RekeyingIndexes(Session &session) : session_(session) {
+    for (const RekeyingIndex &index : kIndexes) {
+        // One that an import left which was killed serves as well.
+        if (!session.Database->FindTable(QString(index.table))->FindIndex(QString(index.name))) {
+            session.Database->Execute(
+                QString(u"CREATE INDEX "_s + index.name + u" ON "_s + index.table + u" ("_s + index.column + u')'));
+        }
+    }
+}
+
+RekeyingIndexes::~RekeyingIndexes() {
+    for (const RekeyingIndex &index : kIndexes) {
+        try {
+            session_.Database->DropIndex(QString(index.table), QString(index.name));
+        } catch (const sql::SqlError &error) {
+            Trace(session_, u"ImportProfilerData: "_s + error.Text(), kTraceError);
+        }
+    }
+}
 
 void ConvertProfileData(Session &session, const QString &old_key, const QString &new_key) {
     Trace(session, u"ConvertProfileData("_s + old_key + u", "_s + new_key + u')', kTraceEntry);

@@ -23,4 +23,17 @@ FoundProfile FindProfileRow(const ImportProfile &profile, bool rekey);
 /// Moves all dependent rows of a profile to a new key; the row of Profiles is the caller's.
 void ConvertProfileData(Session &session, const QString &old_key, const QString &new_key);
 
+/// Indexes for the look-ups of profiles by disc and by UPC, kept only while an import gives new keys: without them each
+/// profile of the file would search two tables.
+class RekeyingIndexes {
+public:
+    explicit RekeyingIndexes(Session &session);
+    ~RekeyingIndexes();
+    RekeyingIndexes(const RekeyingIndexes &) = delete;
+    RekeyingIndexes &operator=(const RekeyingIndexes &) = delete;
+
+private:
+    Session &session_;
+};
+
 } // namespace ostrand

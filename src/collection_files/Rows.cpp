@@ -1,5 +1,6 @@
 #include "collection_files/Rows.h"
 
+#include "collection_files/ImportProfile.h"
 #include "database/DatabaseFunctions.h"
 #include "shell/Session.h"
 
@@ -31,9 +32,17 @@ void InsertRow(Session &session, QLatin1String table, std::initializer_list<Colu
     session.Database->Execute(QString(u"INSERT INTO "_s + table + u" ("_s + columns + u") VALUES ("_s + texts + u')'));
 }
 
-void DeleteRows(Session &session, QLatin1String table, QLatin1String key_column, const QString &id) {
-    session.Database->Execute(
-        QString(u"DELETE FROM "_s + table + u" WHERE "_s + key_column + u" = '"_s + EscapeSql(id) + u'\''));
+void DeleteRows(const ImportProfile &profile, QLatin1String table, QLatin1String key_column) {
+    if (profile.may_have_rows) {
+        profile.GetSession().Database->Execute(QString(u"DELETE FROM "_s + table + u" WHERE "_s + key_column +
+                                                       u" = '"_s + EscapeSql(profile.key) + u'\''));
+    }
+}
+
+void StoreMetaInfo(const ImportProfile &profile, const QString &name, const QString &value) {
+    if (profile.may_have_rows || !value.isEmpty()) {
+        WriteMetaInfo(profile.GetSession(), profile.key, name, value);
+    }
 }
 
 } // namespace ostrand

@@ -8,6 +8,7 @@
 
 namespace ostrand {
 
+struct ImportProfile;
 struct Session;
 
 /// A value as it stands in a statement: texts and numbers in quotes, truth values bare.
@@ -33,7 +34,9 @@ struct ColumnValue {
 
 /// A row that breaks a key, a NOT NULL or a reference is dropped silently.
 void InsertRow(Session &session, QLatin1String table, std::initializer_list<ColumnValue> values);
-/// Deletes the rows whose column `key_column` holds the id.
-void DeleteRows(Session &session, QLatin1String table, QLatin1String key_column, const QString &id);
+/// Deletes the rows whose column `key_column` holds the profile's key.
+void DeleteRows(const ImportProfile &profile, QLatin1String table, QLatin1String key_column);
+/// Writes an entry of MetaInfo; an empty value removes it.
+void StoreMetaInfo(const ImportProfile &profile, const QString &name, const QString &value);
 
 } // namespace ostrand

@@ -65,6 +65,8 @@ bool WriteDbInfo(Session &session, const QString &name, const QString &value, co
     }
     const bool open = session.Database != nullptr;
     if (open) {
+        // A program that dies in between must not lose the setting.
+        const sql::Database::Bracket bracket(*session.Database);
         session.Database->Execute(u"DELETE FROM DbInfo WHERE InfoName = '%1'"_s.arg(EscapeSql(name)));
         if (!value.isEmpty()) {
             session.Database->Execute(
@@ -97,6 +99,7 @@ void WriteAdditionalInfo(Session &session, const QString &id, const QString &nam
     if (!session.Database) {
         return;
     }
+    const sql::Database::Bracket bracket(*session.Database);
     DeleteProfileInfo(session, u"AdditionalInfo"_s, id, name);
     if (!value.isEmpty()) {
         session.Database->Execute(
@@ -113,6 +116,7 @@ void WriteMetaInfo(Session &session, const QString &id, const QString &name, con
     if (!session.Database) {
         return;
     }
+    const sql::Database::Bracket bracket(*session.Database);
     DeleteProfileInfo(session, u"MetaInfo"_s, id, name);
     if (!value.isEmpty()) {
         session.Database->Execute(

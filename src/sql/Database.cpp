@@ -439,6 +439,9 @@ const Environment &Database::GetEnvironment() const {
 
 template <class Run>
 auto Database::Impl::WithStatement(QStringView sql, Run run) {
+    if (observer) {
+        observer(sql);
+    }
     const std::shared_ptr<CachedStatement> cached = Prepare(sql);
     try {
         auto result = run(cached.get());
@@ -587,6 +590,10 @@ Database::Bracket::~Bracket() {
 
 Database::CacheCounts Database::GetCacheCounts() const {
     return {impl_->cache.Lookups(), impl_->cache.Hits()};
+}
+
+void Database::SetObserver(std::function<void(QStringView)> observer) {
+    impl_->observer = std::move(observer);
 }
 
 QStringList Database::QueryPlan(QStringView sql) {

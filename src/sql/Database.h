@@ -79,6 +79,9 @@ public:
     CacheCounts GetCacheCounts() const;
     /// SQLite's query plan of a statement of the dialect, one line a step; for tests of what scans a table.
     QStringList QueryPlan(QStringView sql);
+    /// Called with each statement that OpenRecordset and Execute are given, before it runs; for tests of what a job
+    /// sends.
+    void SetObserver(std::function<void(QStringView)> observer);
 
     struct Impl;
 

@@ -69,6 +69,7 @@ struct Database::Impl {
     std::unordered_map<const ResultShape *, EditPlan> plans;
     Shape shape;
     qint64 schema_version = -1;
+    std::function<void(QStringView)> observer;
     std::function<bool()> progress;
     QElapsedTimer progress_timer;
     bool in_progress = false;

@@ -1,10 +1,31 @@
 #include "xml/MarkupDigest.h"
 
+#include <cstring>
+
 namespace ostrand {
 
 namespace {
 
 constexpr qsizetype kChunk = 4096;
+constexpr qsizetype kMixed = 64; // bytes converted at once where other characters than ASCII stand
+
+/// The number of bytes at the start that stand for themselves in any encoding of bytes.
+qsizetype AsciiLength(QByteArrayView bytes) {
+    constexpr qsizetype kStep = sizeof(std::uint64_t);
+    constexpr std::uint64_t kHighBits = 0x8080808080808080u;
+    qsizetype length = 0;
+    for (; length + kStep <= bytes.size(); length += kStep) {
+        std::uint64_t block;
+        std::memcpy(&block, bytes.data() + length, sizeof block);
+        if ((block & kHighBits) != 0) {
+            break;
+        }
+    }
+    while (length < bytes.size() && std::uint8_t(bytes[length]) < 0x80) {
+        ++length;
+    }
+    return length;
+}
 
 } // namespace
 
@@ -51,10 +72,22 @@ std::array<char, 16> MarkupDigest::Result() const {
     return digest;
 }
 
+qsizetype MarkupDigest::AddAscii(QByteArrayView bytes) {
+    const qsizetype length = AsciiLength(bytes);
+    if (length > 0) {
+        hash_.addData(bytes.first(length));
+    }
+    return length;
+}
+
 void MarkupDigest::AddBytes(QByteArrayView bytes) {
-    std::array<char, kChunk> chunk;
-    while (!bytes.isEmpty()) {
-        const qsizetype count = std::min(bytes.size(), kChunk);
+    std::array<char, kMixed> chunk;
+    while (true) {
+        bytes = bytes.sliced(AddAscii(bytes));
+        if (bytes.isEmpty()) {
+            return;
+        }
+        const qsizetype count = std::min(bytes.size(), kMixed);
         for (qsizetype i = 0; i < count; ++i) {
             chunk[std::size_t(i)] = encoding_.low_byte[std::uint8_t(bytes[i])];
         }
@@ -64,6 +97,9 @@ void MarkupDigest::AddBytes(QByteArrayView bytes) {
 }
 
 void MarkupDigest::AddUtf8(QByteArrayView bytes) {
+    if (missing_ == 0) {
+        bytes = bytes.sliced(AddAscii(bytes));
+    }
     std::array<char, kChunk> chunk;
     std::size_t filled = 0;
     for (const char c : bytes) {

@@ -32,6 +32,8 @@ public:
     std::array<char, 16> Result() const;
 
 private:
+    /// Adds the ASCII at the start, which needs no conversion; its length.
+    qsizetype AddAscii(QByteArrayView bytes);
     void AddBytes(QByteArrayView bytes);
     void AddUtf8(QByteArrayView bytes);
     void AddUtf16(QByteArrayView bytes, bool low_first);

@@ -88,9 +88,13 @@ QString XmlChildText(const pugi::xml_node &node, const char *name, const QString
 }
 
 QString XmlAttribute(const pugi::xml_node &node, const char *name, const QString &preset) {
+    const std::string_view wanted = name;
     for (const pugi::xml_attribute &attribute : node.attributes()) {
-        const char *colon = std::strchr(attribute.name(), ':');
-        if (std::string_view(colon != nullptr ? colon + 1 : attribute.name()) == name)
+        const std::string_view own = attribute.name();
+        if (!own.ends_with(wanted))
+            continue;
+        const std::size_t colon = own.find(':');
+        if (own.size() == wanted.size() ? colon == own.npos : colon + 1 + wanted.size() == own.size())
             return QString::fromUtf8(attribute.value());
     }
     return preset;

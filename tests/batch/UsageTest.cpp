@@ -1,4 +1,4 @@
-#include "BatchProgram.h"
+#include "support/BatchProgram.h"
 
 #include <gtest/gtest.h>
 
