@@ -84,8 +84,8 @@ Connection OpenHandle(const QString &path, const Registration &registration) {
 
 void SetUp(const Connection &connection) {
     connection.Execute(u"PRAGMA synchronous = NORMAL; PRAGMA foreign_keys = OFF; PRAGMA recursive_triggers = OFF; "
-                       "PRAGMA legacy_alter_table = OFF; PRAGMA secure_delete = OFF; PRAGMA cache_size = -24576; "
-                       "PRAGMA temp_store = MEMORY");
+                       "PRAGMA legacy_alter_table = OFF; PRAGMA secure_delete = OFF; PRAGMA cache_size = -49152; "
+                       "PRAGMA wal_autocheckpoint = 16384; PRAGMA temp_store = MEMORY");
 }
 
 void StartLog(const Connection &connection) {
