@@ -20,7 +20,6 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-
 namespace ostrand::bench {
 
 namespace {
