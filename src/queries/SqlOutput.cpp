@@ -15,7 +15,7 @@ namespace {
 using sql::Kind;
 using sql::Value;
 
-constexpr qsizetype kChunk = 64 * 1024;
+constexpr qsizetype kChunk = qsizetype(64) * 1024;
 
 /// Collects output and hands it on in larger pieces.
 class Buffer {

@@ -11,7 +11,7 @@
 namespace ostrand {
 
 namespace {
-constexpr qsizetype kPiece = 64 * 1024;
+constexpr qsizetype kPiece = qsizetype(64) * 1024;
 }
 
 #ifdef Q_OS_UNIX

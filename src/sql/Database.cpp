@@ -260,7 +260,7 @@ int Database::Impl::RunJoinUpdate(CachedStatement &cached) {
             Statement statement = connection.Prepare(update.sql);
             for (const std::vector<Value> &row : rows) {
                 for (int i = 0; i < update.column_count; ++i) {
-                    statement.Bind(i, row[size_t(update.first_column + i)]);
+                    statement.Bind(i, row[size_t(update.first_column) + size_t(i)]);
                 }
                 while (statement.Step()) {
                 }

@@ -92,9 +92,9 @@ public:
             if (!ReadDate()) {
                 return std::nullopt;
             }
-            if (!AtEnd() && tokens_[next_].IsWord(QLatin1String("T")) && next_ + 1 < tokens_.size()) {
-                ++next_;
-            } else if (!AtEnd() && tokens_[next_].Is(u',')) {
+            const bool before_time =
+                !AtEnd() && tokens_[next_].IsWord(QLatin1String("T")) && next_ + 1 < tokens_.size();
+            if (before_time || (!AtEnd() && tokens_[next_].Is(u','))) {
                 ++next_;
             }
             if (!AtEnd() && !(StartsTime() && ReadTime())) {

@@ -119,7 +119,7 @@ void Ddl::RequireNewTable(QStringView name) const {
     }
 }
 
-ReferenceInfo Ddl::ResolveReference(const TableInfo &child, QStringList columns, const QString &parent,
+ReferenceInfo Ddl::ResolveReference(const TableInfo &child, const QStringList &columns, const QString &parent,
                                     const QStringList &parent_columns) const {
     const TableInfo &table = SameName(parent, child.name) ? child : RequireTable(parent);
     ReferenceInfo reference{RequireColumns(child, columns), table.name, {}};

@@ -45,7 +45,7 @@ private:
     const TableInfo &RequireTable(QStringView name) const;
     void RequireNewTable(QStringView name) const;
     void RequireUnreferenced(const TableInfo &table, const IndexInfo &index) const;
-    ReferenceInfo ResolveReference(const TableInfo &child, QStringList columns, const QString &parent,
+    ReferenceInfo ResolveReference(const TableInfo &child, const QStringList &columns, const QString &parent,
                                    const QStringList &parent_columns) const;
     void RequireParents(const TableInfo &child, const ReferenceInfo &reference) const;
 

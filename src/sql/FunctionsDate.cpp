@@ -167,7 +167,7 @@ void DatePart(Call &call) {
     case Interval::Year:
         return call.Return(qint64(parts.year));
     case Interval::Quarter:
-        return call.Return(qint64((parts.month - 1) / 3 + 1));
+        return call.Return((qint64(parts.month) - 1) / 3 + 1);
     case Interval::Month:
         return call.Return(qint64(parts.month));
     case Interval::DayOfYear:

@@ -22,7 +22,7 @@ struct CharTables {
 
     constexpr CharTables() {
         for (const char c : {' ', '\t', '\n', '\v', '\f', '\r'}) {
-            classes[std::size_t(c)] = CharClass::Blank;
+            classes[static_cast<unsigned char>(c)] = CharClass::Blank;
         }
         for (std::size_t i = 0; i < 26; ++i) {
             classes['a' + i] = classes['A' + i] = CharClass::Letter;
@@ -32,7 +32,7 @@ struct CharTables {
             classes['0' + i] = CharClass::Digit;
         }
         for (const char c : {'\'', '"', '[', '`', '#', '.', '&', '<', '>'}) {
-            classes[std::size_t(c)] = CharClass::Special;
+            classes[static_cast<unsigned char>(c)] = CharClass::Special;
         }
         AddSymbol('(', TokenType::LeftParen);
         AddSymbol(')', TokenType::RightParen);
@@ -49,8 +49,8 @@ struct CharTables {
     }
 
     constexpr void AddSymbol(char c, TokenType type) {
-        classes[std::size_t(c)] = CharClass::Symbol;
-        symbols[std::size_t(c)] = type;
+        classes[static_cast<unsigned char>(c)] = CharClass::Symbol;
+        symbols[static_cast<unsigned char>(c)] = type;
     }
 };
 

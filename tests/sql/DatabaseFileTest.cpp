@@ -89,7 +89,7 @@ TEST_F(DatabaseFileTest, OpensWithTheSettingsOfTheEngine) {
         {u"foreign_keys"_s, Value(0)},
         {u"recursive_triggers"_s, Value(0)},
         {u"busy_timeout"_s, Value(5000)},
-        {u"cache_size"_s, Value(-24576)},
+        {u"cache_size"_s, Value(-49152)},
         {u"temp_store"_s, Value(2)},
         {u"page_size"_s, Value(4096)},
         {u"application_id"_s, Value(kApplicationId)},
