@@ -96,6 +96,9 @@ Fragment Compiler::EmitSpecialCall(const QString &name, const ast::Call &call, i
         }
         return EmitCase(branches, nullptr);
     }
+    if (name == u"cvar") {
+        return Emit(*arguments[0], scope);
+    }
     if (name == u"nz") {
         const Fragment value = Emit(*arguments[0], scope);
         const Fragment otherwise =

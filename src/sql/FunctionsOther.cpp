@@ -63,6 +63,7 @@ constexpr Function kFunctions[] = {
     {{"iif", 3, 3, ResultRule::Special}, nullptr},
     {{"switch", 2, -1, ResultRule::Special}, nullptr},
     {{"choose", 2, -1, ResultRule::Special}, nullptr},
+    {{"cvar", 1, 1, ResultRule::Special}, nullptr},
     {{"isempty", 1, 1, ResultRule::Boolean}, Never, OnNull::IsPassedOn},
     {{"iserror", 1, 1, ResultRule::Boolean}, Never, OnNull::IsPassedOn},
     {{"isobject", 1, 1, ResultRule::Boolean}, Never, OnNull::IsPassedOn},
