@@ -104,7 +104,7 @@ class ScriptRunner {
 public:
     explicit ScriptRunner(QString path) : path_(std::move(path)) {}
 
-    void Run() {
+    void CheckAll() {
         const std::vector<Record> records = ReadScript(path_);
         ASSERT_FALSE(records.empty()) << path_.toStdString();
         for (const Record &record : records) {
@@ -174,7 +174,7 @@ std::vector<std::string> ScriptNames() {
 
 TEST_P(Scripts, RunsAsWritten) {
     ScriptRunner(QStringLiteral(OSTRAND_SOURCE_DIR "/tests/sql/") + QString::fromStdString(GetParam()) + u".test"_s)
-        .Run();
+        .CheckAll();
 }
 
 INSTANTIATE_TEST_SUITE_P(Folder, Scripts, testing::ValuesIn(ScriptNames()),
