@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/Services.h"
+#include "services/NoDesktop.h"
 #include "services/QtProcessRunner.h"
 #include "services/SystemServices.h"
 
@@ -18,6 +19,7 @@ public:
     }
     QString OpenFile(const FileRequest &) override { return {}; }
     QString SaveFile(const FileRequest &) override { return {}; }
+    QString BrowseFolder(const QString &, const QString &) override { return {}; }
 };
 
 class SilentProgress : public ProgressView {
@@ -63,7 +65,12 @@ struct SilentServices {
     QtProcessRunner processes;
     FoldersBelow folders;
     SystemLocaleInfo locale{QStringLiteral("en-US")};
-    Services services{dialogs, progress, pump, clock, random, processes, folders, locale};
+    PrivateClipboard clipboard;
+    NoKeyboard keyboard;
+    NoOpener opener;
+    ImageHeads images;
+    Services services{dialogs, progress, pump,      clock,    random, processes,
+                      folders, locale,   clipboard, keyboard, opener, images};
 };
 
 } // namespace ostrand::bench

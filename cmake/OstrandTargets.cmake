@@ -33,13 +33,26 @@ if(OSTRAND_CCACHE)
     ${OSTRAND_CCACHE})
 endif()
 
-# One precompiled header, made once and reused by every target.
+# Two precompiled headers, each made once: one without and one with widgets.
 file(WRITE ${CMAKE_BINARY_DIR}/pch/pch.cpp "")
 add_library(ostrand_pch STATIC ${CMAKE_BINARY_DIR}/pch/pch.cpp)
+add_library(ostrand_pch_ui STATIC ${CMAKE_BINARY_DIR}/pch/pch.cpp)
 
 function(ostrand_pch_setup)
   target_link_libraries(ostrand_pch PRIVATE ostrand_settings Qt6::Core)
   target_precompile_headers(ostrand_pch PRIVATE ${CMAKE_SOURCE_DIR}/src/pch.h)
+  target_link_libraries(ostrand_pch_ui PRIVATE ostrand_settings Qt6::Widgets)
+  target_precompile_headers(ostrand_pch_ui PRIVATE ${CMAKE_SOURCE_DIR}/src/platform_qt/pch.h)
+endfunction()
+
+# Targets that link widgets take the header that knows them.
+function(ostrand_use_pch target)
+  cmake_parse_arguments(arg "" "" "LINKS" ${ARGN})
+  if("Qt6::Widgets" IN_LIST arg_LINKS OR "ostrand_ui" IN_LIST arg_LINKS)
+    target_precompile_headers(${target} REUSE_FROM ostrand_pch_ui)
+  else()
+    target_precompile_headers(${target} REUSE_FROM ostrand_pch)
+  endif()
 endfunction()
 
 # ostrand_library(name FOLDERS a b LINKS x y): a static library of all sources of the folders below src/.
@@ -56,7 +69,10 @@ function(ostrand_library name)
   add_library(ostrand_${name} STATIC ${sources})
   set_target_properties(ostrand_${name} PROPERTIES LINKER_LANGUAGE CXX)
   target_link_libraries(ostrand_${name} PUBLIC ostrand_settings ${arg_LINKS})
-  target_precompile_headers(ostrand_${name} REUSE_FROM ostrand_pch)
+  if(name STREQUAL core OR name STREQUAL ui)
+    set_target_properties(ostrand_${name} PROPERTIES AUTOMOC ON)
+  endif()
+  ostrand_use_pch(ostrand_${name} LINKS ${arg_LINKS})
 endfunction()
 
 # ostrand_program(name SOURCES a.cpp LINKS x y)
@@ -64,5 +80,5 @@ function(ostrand_program name)
   cmake_parse_arguments(arg "" "" "SOURCES;LINKS" ${ARGN})
   add_executable(${name} ${arg_SOURCES})
   target_link_libraries(${name} PRIVATE ostrand_settings ${arg_LINKS})
-  target_precompile_headers(${name} REUSE_FROM ostrand_pch)
+  ostrand_use_pch(${name} LINKS ${arg_LINKS})
 endfunction()

@@ -2,6 +2,7 @@
 
 #include "collection_files/ProfilerImport.h"
 #include "database/DatabaseFunctions.h"
+#include "services/NoDesktop.h"
 #include "shell/Session.h"
 
 #include <QDir>
@@ -17,7 +18,9 @@ namespace {
 
 class World : UserDialogs, ProgressView, EventPump, Clock, RandomNumbers, ProcessRunner, Folders, SystemLocale {
 public:
-    World() : services_{*this, *this, *this, *this, *this, *this, *this, *this}, session_(services_) {
+    World() :
+        services_{*this, *this, *this, *this, *this, *this, *this, *this, clipboard_, keyboard_, opener_, images_},
+        session_(services_) {
         CreateCollectionDatabase(session_, dir_.filePath(u"a.mdb"_s));
     }
 
@@ -47,6 +50,7 @@ private:
     }
     QString OpenFile(const FileRequest &) override { return {}; }
     QString SaveFile(const FileRequest &) override { return {}; }
+    QString BrowseFolder(const QString &, const QString &) override { return {}; }
     void Opened(const QString &) override {}
     void TitleChanged(const QString &) override {}
     void LineChanged(const QString &) override {}
@@ -79,6 +83,10 @@ private:
     QString DefaultLanguage() const override { return u"en-US"_s; }
 
     QTemporaryDir dir_;
+    PrivateClipboard clipboard_;
+    NoKeyboard keyboard_;
+    NoOpener opener_;
+    ImageHeads images_;
     Services services_;
     Session session_;
     quint64 state_ = 1;

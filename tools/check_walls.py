@@ -11,7 +11,7 @@ import sys
 
 ROOT = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..")
 
-CORE = ["shell", "database", "collection_files", "people", "audit", "queries"]
+CORE = ["shell", "database", "collection_files", "people", "audit", "queries", "browser"]
 BELOW_CORE = ["base", "platform", "sql", "xml"]
 
 # Folder: folders that its files may include besides their own.
@@ -22,6 +22,9 @@ ALLOWED = {
     "xml": ["base"],
     "services": ["base", "platform"],
     **{folder: CORE + BELOW_CORE for folder in CORE},
+    "platform_qt": BELOW_CORE + ["services"],
+    # The windows of every subsystem.
+    "ui": CORE + BELOW_CORE + ["services", "platform_qt"],
 }
 
 # What a person or the system is reached by: only through an interface of platform/.
@@ -32,6 +35,12 @@ GUARDED = re.compile(
 MAY_TOUCH_GUARDED = {"services", "platform_qt"}
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*"([^"]+)"')
+
+
+def group(unit):
+    """The folder of the table that a file below src/ belongs to; windows are one group, whatever their subsystem."""
+    parts = unit.split("/")
+    return "ui" if "ui" in parts[:-1] else parts[0]
 
 
 def sources(folder):
@@ -67,18 +76,20 @@ def main():
     graph = {}
     folders = [f for f in sorted(os.listdir(os.path.join(ROOT, "src"))) if os.path.isdir(os.path.join(ROOT, "src", f))]
     for folder in folders:
-        allowed = set(ALLOWED.get(folder, [])) | {folder}
         for path in sources(folder):
             shown = os.path.relpath(path, ROOT)
             unit = os.path.relpath(path, os.path.join(ROOT, "src"))
+            own = group(unit)
+            allowed = set(ALLOWED.get(own, [])) | {own}
             with open(path, encoding="utf-8") as file:
                 for number, line in enumerate(file, 1):
                     match = INCLUDE.match(line)
                     if match:
                         graph.setdefault(unit, []).append(match.group(1))
-                        if match.group(1).split("/")[0] not in allowed:
-                            breaches.append(f"{shown}:{number}: {folder} may not include {match.group(1)}")
-                    elif folder not in MAY_TOUCH_GUARDED:
+                        included = match.group(1)
+                        if "/" in included and group(included) not in allowed:
+                            breaches.append(f"{shown}:{number}: {own} may not include {included}")
+                    elif own not in MAY_TOUCH_GUARDED:
                         guarded = GUARDED.search(line)
                         if guarded:
                             breaches.append(f"{shown}:{number}: {guarded.group(1)} belongs behind an interface")

@@ -2,6 +2,7 @@
 
 #include "services/ConsoleDialogs.h"
 #include "services/ConsoleProgress.h"
+#include "services/NoDesktop.h"
 #include "services/QtProcessRunner.h"
 #include "services/StandardStreams.h"
 #include "services/StopSignals.h"
@@ -53,6 +54,10 @@ public:
         progress_.EndLine();
         return ConsoleDialogs::SaveFile(request);
     }
+    QString BrowseFolder(const QString &title, const QString &current) override {
+        progress_.EndLine();
+        return ConsoleDialogs::BrowseFolder(title, current);
+    }
     /// True when nothing happened that a nightly run should look at.
     bool Clean() const { return Warnings() + Criticals() + AnsweredByDefault() == 0; }
 
@@ -91,6 +96,10 @@ struct Console {
     QtProcessRunner processes;
     SystemFolders folders;
     SystemLocaleInfo locale;
+    PrivateClipboard clipboard;
+    NoKeyboard keyboard;
+    NoOpener opener;
+    ImageHeads images;
 };
 
 /// False when the database that was named did not open.
@@ -119,8 +128,9 @@ int RunCommandMode(const Arguments &arguments) {
     LetWritesFail();
     Console console(arguments);
     Dialogs dialogs(console.output, Answers(arguments), console.progress);
-    Services services{dialogs,        console.progress,  console.pump,    console.clock,
-                      console.random, console.processes, console.folders, console.locale};
+    Services services{dialogs,           console.progress,  console.pump,    console.clock,
+                      console.random,    console.processes, console.folders, console.locale,
+                      console.clipboard, console.keyboard,  console.opener,  console.images};
     Session session(services);
     console.pump.session = &session;
     const bool opened = Run(session, arguments.target);

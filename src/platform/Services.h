@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include <optional>
+#include <utility>
 
 namespace ostrand {
 
@@ -43,6 +44,8 @@ public:
     /// The chosen path; empty when the user cancelled.
     virtual QString OpenFile(const FileRequest &request) = 0;
     virtual QString SaveFile(const FileRequest &request) = 0;
+    /// A folder chosen by the user, without a trailing separator; empty when the user cancelled.
+    virtual QString BrowseFolder(const QString &title, const QString &current) = 0;
 };
 
 /// The look of the progress window; its rules are those of frmProgress (shell/Progress.h).
@@ -130,6 +133,40 @@ public:
     virtual QString DefaultLanguage() const = 0;
 };
 
+/// The clipboard as text.
+class Clipboard {
+public:
+    virtual ~Clipboard() = default;
+    virtual void SetText(const QString &text) = 0;
+    virtual QString Text() const = 0;
+};
+
+/// The state of the keyboard, read at any moment and not from an event.
+class Keyboard {
+public:
+    virtual ~Keyboard() = default;
+    virtual bool CtrlHeld() const = 0;
+};
+
+/// Hands something to the application that the system has for it.
+class Opener {
+public:
+    virtual ~Opener() = default;
+    /// True when an application took it.
+    virtual bool OpenUrl(const QString &url) = 0;
+    virtual bool OpenFile(const QString &path) = 0;
+    /// Lets the user choose an application for a file that has none.
+    virtual void ChooseApplication(const QString &path) = 0;
+};
+
+/// What the core must know of an image file.
+class Images {
+public:
+    virtual ~Images() = default;
+    /// Width and height in pixels, read from the file's head; nothing when it is no image.
+    virtual std::optional<std::pair<int, int>> Size(const QString &path) const = 0;
+};
+
 /// All of them, handed in once.
 struct Services {
     UserDialogs &dialogs;
@@ -140,6 +177,10 @@ struct Services {
     ProcessRunner &processes;
     Folders &folders;
     SystemLocale &locale;
+    Clipboard &clipboard;
+    Keyboard &keyboard;
+    Opener &opener;
+    Images &images;
 };
 
 } // namespace ostrand

@@ -121,4 +121,8 @@ QString ConsoleDialogs::SaveFile(const FileRequest &request) {
     return ChooseFile(request);
 }
 
+QString ConsoleDialogs::BrowseFolder(const QString &title, const QString &current) {
+    return ChooseFile({.title = title, .initial = current, .filters = {}});
+}
+
 } // namespace ostrand

@@ -22,9 +22,10 @@ public:
     std::optional<QString> InputText(const QString &prompt, const QString &title, const QString &preset) override;
     std::optional<QString> InputCombo(const QString &prompt, const QString &title, const QStringList &values,
                                       const QString &preset) override;
-    /// There is nobody to choose: both are cancelled.
+    /// There is nobody to choose: all three are cancelled.
     QString OpenFile(const FileRequest &request) override;
     QString SaveFile(const FileRequest &request) override;
+    QString BrowseFolder(const QString &title, const QString &current) override;
 
     int Warnings() const { return warnings_; }
     int Criticals() const { return criticals_; }

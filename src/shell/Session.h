@@ -17,6 +17,7 @@
 namespace ostrand {
 
 class InstanceMarker;
+class ListTable;
 
 /// What Settings.ini tells of the audit trail.
 struct AuditSettings {
@@ -100,6 +101,8 @@ struct Session {
         std::function<void()> GetLastSelectedItem;
         std::function<void()> ReloadTitles;
         std::function<void()> ShowTitlesDue;
+        /// Shows a table in a list window of its own.
+        std::function<void(std::unique_ptr<ListTable>)> ShowListView;
     };
     WindowHooks window;
 };

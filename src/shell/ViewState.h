@@ -18,6 +18,9 @@ struct ViewState {
     bool mSkinEnable = false;
     bool mShowFilter = true;
     bool mBoxsetView = true;
+    /// Boxset children stand under their parents now: the wish of mBoxsetView, dropped while the list is not sorted by
+    /// the title ascending. This is what is kept for the next run.
+    bool BoxsetView = true;
     bool mcolorlist = true;
     bool mUseCustomTitle = false;
     bool mUseOriginalTitle = false;

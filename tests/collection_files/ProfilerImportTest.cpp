@@ -397,6 +397,7 @@ public:
     }
     QString OpenFile(const FileRequest &) override { return {}; }
     QString SaveFile(const FileRequest &) override { return {}; }
+    QString BrowseFolder(const QString &, const QString &) override { return {}; }
 
     QStringList texts;
 };
@@ -424,7 +425,11 @@ TEST_F(ProfilerImport, SampleCollectionsAreSkippedTheSecondTime) {
                       services.random,
                       services.processes,
                       services.folders,
-                      services.locale};
+                      services.locale,
+                      services.clipboard,
+                      services.keyboard,
+                      services.opener,
+                      services.images};
     Session all(agreeing);
     all.trace.Mask = kTraceError | kTraceInfo;
     CreateCollectionDatabase(all, Path(u"All.mdb"_s));

@@ -421,8 +421,8 @@ TEST_F(UpgradeTest, AProcessThatDiesInTheMiddleLeavesTheOldVersionWhichUpgradesA
     const int died = sql::testing::InChild([&] {
         DeadlyProgress deadly;
         Services &world = services.services;
-        Services own{world.dialogs, deadly,          world.pump,    world.clock,
-                     world.random,  world.processes, world.folders, world.locale};
+        Services own{world.dialogs, deadly,       world.pump,      world.clock,    world.random, world.processes,
+                     world.folders, world.locale, world.clipboard, world.keyboard, world.opener, world.images};
         Session other(own);
         return OpenCollectionDatabase(other, Path(u"Old.mdb"_s)) ? 1 : 2;
     });

@@ -31,6 +31,10 @@ void ScriptedDialogs::ExpectSaveFile(const QString &answer, const QString &title
     expected_.push_back({Kind::SaveFile, {}, title, std::nullopt, MessageAnswer::Ok, answer, false});
 }
 
+void ScriptedDialogs::ExpectBrowseFolder(const QString &answer, const QString &title) {
+    expected_.push_back({Kind::BrowseFolder, {}, title, std::nullopt, MessageAnswer::Ok, answer, false});
+}
+
 ScriptedDialogs::~ScriptedDialogs() {
     for (const Expectation &expectation : expected_)
         ADD_FAILURE() << "never asked: \"" << qPrintable(expectation.text) << "\" under \""
@@ -89,6 +93,20 @@ QString ScriptedDialogs::OpenFile(const FileRequest &request) {
 
 QString ScriptedDialogs::SaveFile(const FileRequest &request) {
     return ChooseFile(Kind::SaveFile, request);
+}
+
+QString ScriptedDialogs::BrowseFolder(const QString &title, const QString &current) {
+    return ChooseFile(Kind::BrowseFolder, {.title = title, .initial = current, .filters = {}});
+}
+
+bool ScriptedOpener::OpenUrl(const QString &url) {
+    opened += QStringLiteral("url ") + url;
+    return answer;
+}
+
+bool ScriptedOpener::OpenFile(const QString &path) {
+    opened += QStringLiteral("file ") + path;
+    return answer;
 }
 
 void ScriptedProgress::NodeAdded(const QString &key, const QString &parent, const QString &text) {

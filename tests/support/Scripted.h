@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/Services.h"
+#include "services/NoDesktop.h"
 #include "support/TempDir.h"
 
 #include <QStringList>
@@ -30,6 +31,7 @@ public:
     void ExpectInputPreset(const QString &prompt, const QString &title = {});
     void ExpectOpenFile(const QString &answer, const QString &title = {});
     void ExpectSaveFile(const QString &answer, const QString &title = {});
+    void ExpectBrowseFolder(const QString &answer, const QString &title = {});
 
     MessageAnswer Show(const Message &message) override;
     std::optional<QString> InputText(const QString &prompt, const QString &title, const QString &preset) override;
@@ -37,6 +39,7 @@ public:
                                       const QString &preset) override;
     QString OpenFile(const FileRequest &request) override;
     QString SaveFile(const FileRequest &request) override;
+    QString BrowseFolder(const QString &title, const QString &current) override;
 
     /// What was shown so far.
     std::vector<Message> messages;
@@ -48,7 +51,7 @@ public:
     size_t Pending() const { return expected_.size(); }
 
 private:
-    enum class Kind { Message, Input, OpenFile, SaveFile };
+    enum class Kind { Message, Input, OpenFile, SaveFile, BrowseFolder };
     struct Expectation {
         Kind kind = Kind::Message;
         QString text;
@@ -158,6 +161,24 @@ public:
     QString default_language = QStringLiteral("en-US");
 };
 
+class FakeKeyboard : public Keyboard {
+public:
+    bool CtrlHeld() const override { return ctrl; }
+    bool ctrl = false;
+};
+
+/// Records what was handed over, and answers as it is told.
+class ScriptedOpener : public Opener {
+public:
+    bool OpenUrl(const QString &url) override;
+    bool OpenFile(const QString &path) override;
+    void ChooseApplication(const QString &path) override { opened += QStringLiteral("choose ") + path; }
+
+    /// Each call as "url ..", "file .." or "choose ..".
+    QStringList opened;
+    bool answer = true;
+};
+
 /// All of them with the struct that a session takes.
 struct TestServices {
     ScriptedDialogs dialogs;
@@ -168,7 +189,12 @@ struct TestServices {
     ScriptedProcesses processes;
     TempFolders folders;
     FakeLocale locale;
-    Services services{dialogs, progress, pump, clock, random, processes, folders, locale};
+    PrivateClipboard clipboard;
+    FakeKeyboard keyboard;
+    ScriptedOpener opener;
+    ImageHeads images;
+    Services services{dialogs, progress, pump,      clock,    random, processes,
+                      folders, locale,   clipboard, keyboard, opener, images};
 };
 
 } // namespace ostrand::test

@@ -1,0 +1,88 @@
+// What the main window shows, without the window: its lists, tabs, filters, history and the current title.
+#pragma once
+
+#include "browser/Commands.h"
+#include "browser/EpisodeList.h"
+#include "browser/History.h"
+#include "browser/TitleList.h"
+
+#include <QObject>
+
+namespace ostrand {
+
+struct Session;
+
+/// The members keep the names of the controls that show them. Windows read them and listen to the signals; the
+/// routines of the browser (GetMovieNames, ChangeMode, ShowMovie ..) are functions over this object.
+class Browser : public QObject {
+    Q_OBJECT
+public:
+    explicit Browser(Session &session);
+
+    Session &session;
+    Commands commands;
+
+    TitleList listSeries;
+    EpisodeList listEpisodes;
+    /// The seasons of the selected series, and the selected one; -1 for none.
+    QStringList listSeasons;
+    int current_season = -1;
+    /// Row of listSeries that is selected; -1 for none.
+    int current_row = -1;
+
+    /// The list holds groups or a filter's rows.
+    bool SpecialOrder = false;
+
+    /// Captions of the tabs as shown, and the selected one, counted from 1.
+    QStringList tabColList;
+    int tabColList_selected = 1;
+    QStringList tabMain;
+    int tabMain_selected = 1;
+    QStringList comboFilter;
+    QString comboFilter_text;
+    /// comboFilter is shown.
+    bool filter_shown = false;
+    QString labelFilterCount;
+
+    History history;
+
+    /// Caption of the window without a title, and with the current one.
+    QString base_caption;
+    QString caption;
+    /// The cover files of the current title are this and "f.jpg" or "b.jpg"; empty without a title.
+    QString cover_stem;
+
+    // What the windows do on behalf of the browser's routines; empty without windows.
+    struct Hooks {
+        /// Values selected in the panels Audio/Video and Details, for the lists of titles that share them.
+        std::function<QString()> selected_subtitle;
+        std::function<QString()> selected_feature;
+        std::function<QString()> selected_audio;
+        std::function<QString()> selected_studio;
+    };
+    Hooks hooks;
+
+Q_SIGNALS:
+    /// `current_row` is to be selected and scrolled to.
+    void CurrentRowChanged();
+    /// The current title is another one, or none: the panels fill themselves anew.
+    void TitleChanged();
+    /// ShowFrontCover or the cover stem changed.
+    void CoverChanged();
+    void TabsChanged();
+    void MainTabChanged();
+    void FilterChanged();
+    void FilterCountChanged();
+    void SeasonsChanged();
+    void HistoryChanged();
+    void ModeChanged();
+    /// Fonts, tool bar, grid lines: what the settings tell.
+    void SettingsChanged();
+};
+
+/// The English caption of the selected tab of tabColList.
+QString SelectedColType(Browser &browser);
+/// Sets labelFilterCount.
+void ShowFilterCount(Browser &browser, int count);
+
+} // namespace ostrand

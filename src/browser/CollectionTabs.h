@@ -1,0 +1,31 @@
+// Tabs of collection types and of the panels, and the entries of the filter box.
+#pragma once
+
+#include <QString>
+
+namespace ostrand {
+
+class Browser;
+
+/// Rebuilds tabMain, names the first tab of tabColList and reads the others.
+void LoadTabs(Browser &browser);
+/// Rebuilds tabColList.
+void ReloadColTypeTabs(Browser &browser);
+/// Shows what belongs to a tab of tabMain, counted from 1.
+void EnableTab(Browser &browser, int index);
+/// Rebuilds comboFilter.
+void UpdateFilters(Browser &browser);
+/// Shows or hides comboFilter, as mShowFilter and the view say.
+void ApplyFilterLayout(Browser &browser);
+/// A click on a tab of tabColList, counted from 1.
+void SelectColTypeTab(Browser &browser, int index);
+/// A click on a tab of tabMain.
+void SelectMainTab(Browser &browser, int index);
+/// An entry of comboFilter was chosen.
+void ChooseFilter(Browser &browser, const QString &text);
+/// The list of comboFilter is about to open.
+void OpenFilterList(Browser &browser);
+/// True when a saved query gives the columns that a filter needs.
+bool QualifiesAsFilter(const QString &statement);
+
+} // namespace ostrand

@@ -1,0 +1,40 @@
+// The rows of listEpisodes.
+#pragma once
+
+#include <QAbstractTableModel>
+
+namespace ostrand {
+
+struct EpisodeRow {
+    QString key; ///< EpisodeID
+    QString number;
+    QString title;
+    QString tag;
+    QString season;
+};
+
+/// The item model of listEpisodes, in the order of the statement that gave the rows.
+class EpisodeList : public QAbstractTableModel {
+    Q_OBJECT
+public:
+    enum Column { Number, Title };
+    enum Role { KeyRole = Qt::UserRole, TagRole, SeasonRole };
+
+    using QAbstractTableModel::QAbstractTableModel;
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+    void SetHeaders(const QStringList &headers);
+    void Assign(std::vector<EpisodeRow> rows);
+    void Clear() { Assign({}); }
+    const std::vector<EpisodeRow> &Rows() const { return rows_; }
+
+private:
+    std::vector<EpisodeRow> rows_;
+    QStringList headers_;
+};
+
+} // namespace ostrand

@@ -1,0 +1,29 @@
+// The way from a row to what is shown of its title.
+#pragma once
+
+#include <QString>
+
+namespace ostrand {
+
+class Browser;
+namespace sql {
+class Recordset;
+}
+
+/// A row of listSeries became current; -1 for none.
+void UpdateSeriesList(Browser &browser, int row);
+/// Makes a title or an episode the current one. With `keep_credits` the credits stay as they are.
+void GetProfileInfos(Browser &browser, const QString &id, bool is_episode, bool keep_credits);
+/// Shows no title.
+void ClearAllProfileInfos(Browser &browser);
+/// What the window's caption tells of a record of `Profiles`, or of `Episodes`.
+QString ProfileCaption(const sql::Recordset &record);
+QString EpisodeCaption(const sql::Recordset &record);
+/// Takes the cover of a key as the current one.
+void ShowCover(Browser &browser, const QString &key);
+/// The other side of the cover.
+void FlipCover(Browser &browser);
+/// The file of the cover side that is shown; empty when there is none on disk.
+QString CurrentCoverFile(const Browser &browser);
+
+} // namespace ostrand

@@ -1,0 +1,39 @@
+// What a list window shows.
+#pragma once
+
+#include <QAbstractTableModel>
+
+namespace ostrand {
+
+/// What a row of a list window stands for.
+enum class ListRowKind { None, Credit, Movie, Episode };
+
+struct ListTableRow {
+    QStringList texts;
+    QString key; ///< ProfileID or EpisodeID that a double click goes to; empty for none
+    ListRowKind kind = ListRowKind::None;
+};
+
+/// A table of texts with a caption. Sorting by a column compares texts in the database's collation.
+class ListTable : public QAbstractTableModel {
+    Q_OBJECT
+public:
+    explicit ListTable(QString table_caption = {}, QStringList columns = {}, QObject *parent = nullptr);
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    void sort(int column, Qt::SortOrder order) override;
+
+    void Assign(std::vector<ListTableRow> rows);
+    const std::vector<ListTableRow> &Rows() const { return rows_; }
+
+    QString caption;
+
+private:
+    QStringList columns_;
+    std::vector<ListTableRow> rows_;
+};
+
+} // namespace ostrand

@@ -1,0 +1,24 @@
+// The start of the window tests: an application without a screen, in which a warning of the toolkit is a failure.
+
+#include <gtest/gtest.h>
+
+namespace {
+
+void FailOnWarning(QtMsgType type, const QMessageLogContext &, const QString &message) {
+    if (type != QtDebugMsg && type != QtInfoMsg) {
+        ADD_FAILURE() << qPrintable(message);
+    }
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+    ::testing::InitGoogleTest(&argc, argv);
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    QApplication app(argc, argv);
+    app.setStyle(QStringLiteral("Fusion"));
+    qInstallMessageHandler(FailOnWarning);
+    return RUN_ALL_TESTS();
+}
