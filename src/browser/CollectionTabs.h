@@ -23,6 +23,8 @@ void SelectColTypeTab(Browser &browser, int index);
 void SelectMainTab(Browser &browser, int index);
 /// An entry of comboFilter was chosen.
 void ChooseFilter(Browser &browser, const QString &text);
+/// Whether an entry of comboFilter, counted from 0, does anything in this version.
+bool FilterEntryAvailable(Browser &browser, int index);
 /// The list of comboFilter is about to open.
 void OpenFilterList(Browser &browser);
 /// True when a saved query gives the columns that a filter needs.
