@@ -62,8 +62,7 @@ void EpisodeList::sort(int column, Qt::SortOrder order) {
 }
 
 int EpisodeList::RowOfKey(const QString &key) const {
-    const auto found =
-        std::find_if(rows_.begin(), rows_.end(), [&](const EpisodeRow &row) { return row.key == key; });
+    const auto found = std::find_if(rows_.begin(), rows_.end(), [&](const EpisodeRow &row) { return row.key == key; });
     return found == rows_.end() ? -1 : int(found - rows_.begin());
 }
 

@@ -3,6 +3,8 @@
 #include "database/DatabaseFunctions.h"
 #include "shell/Session.h"
 
+#include <QLocale>
+
 #include <cmath>
 
 namespace ostrand {

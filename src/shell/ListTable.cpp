@@ -4,8 +4,8 @@
 
 namespace ostrand {
 
-ListTable::ListTable(QString table_caption, QStringList columns, QObject *parent)
-    : QAbstractTableModel(parent), caption(std::move(table_caption)), columns_(std::move(columns)) {}
+ListTable::ListTable(QString table_caption, QStringList columns, QObject *parent) :
+    QAbstractTableModel(parent), caption(std::move(table_caption)), columns_(std::move(columns)) {}
 
 int ListTable::rowCount(const QModelIndex &parent) const {
     return parent.isValid() ? 0 : int(rows_.size());
@@ -37,8 +37,7 @@ void ListTable::sort(int column, Qt::SortOrder order) {
     std::vector<int> places(rows_.size()); // the former row at each place
     std::iota(places.begin(), places.end(), 0);
     std::stable_sort(places.begin(), places.end(), [&](int a, int b) {
-        const int compared =
-            sql::Compare(rows_[size_t(a)].texts.value(column), rows_[size_t(b)].texts.value(column));
+        const int compared = sql::Compare(rows_[size_t(a)].texts.value(column), rows_[size_t(b)].texts.value(column));
         return order == Qt::AscendingOrder ? compared < 0 : compared > 0;
     });
     std::vector<ListTableRow> sorted(rows_.size());
