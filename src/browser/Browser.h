@@ -1,6 +1,7 @@
 // What the main window shows, without the window: its lists, tabs, filters, history and the current title.
 #pragma once
 
+#include "base/FolderIndex.h"
 #include "browser/Commands.h"
 #include "browser/EpisodeList.h"
 #include "browser/History.h"
@@ -51,6 +52,7 @@ public:
     QString caption;
     /// The cover files of the current title are this and "f.jpg" or "b.jpg"; empty without a title.
     QString cover_stem;
+    FolderIndex covers;
 
     // What the windows do on behalf of the browser's routines; empty without windows.
     struct Hooks {

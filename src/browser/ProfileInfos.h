@@ -24,6 +24,6 @@ void ShowCover(Browser &browser, const QString &key);
 /// The other side of the cover.
 void FlipCover(Browser &browser);
 /// The file of the cover side that is shown; empty when there is none on disk.
-QString CurrentCoverFile(const Browser &browser);
+QString CurrentCoverFile(Browser &browser);
 
 } // namespace ostrand

@@ -101,6 +101,19 @@ struct Session {
         std::function<void()> GetLastSelectedItem;
         std::function<void()> ReloadTitles;
         std::function<void()> ShowTitlesDue;
+        /// Steps of the start and the end that only a window can do.
+        std::function<void()> ShowAuditMenus;
+        std::function<void()> ShowSplash;
+        std::function<void()> UnloadSplash;
+        std::function<void()> ShowBlankPage;
+        std::function<void()> ShowBaseCaption;
+        /// Places the window; `reset` puts it to its first place and forgets the splitters.
+        std::function<void(bool reset)> Layout;
+        std::function<void()> ApplyGridLines;
+        std::function<void()> TranslatePanels;
+        /// Lets the user choose a database; one is open afterwards, or the program ends.
+        std::function<void()> ChooseDatabase;
+        std::function<void()> WriteGeometry;
         /// Shows a table in a list window of its own.
         std::function<void(std::unique_ptr<ListTable>)> ShowListView;
     };

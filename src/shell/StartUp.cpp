@@ -32,6 +32,14 @@ bool ReadTruth(const Session &session, const char16_t *section, const char16_t *
     return is("True") || is("1") || is("-1") || (preset && !is("False") && !is("0"));
 }
 
+/// Does a step of the window, where there is one.
+template <typename Hook, typename... Arguments>
+void Call(const Hook &hook, Arguments... arguments) {
+    if (hook) {
+        hook(arguments...);
+    }
+}
+
 void MakeFolders(Session &session) {
     MakeFolderPath(session.TempFolder);
     session.instance = std::make_shared<InstanceMarker>(session.TempFolder);
@@ -106,7 +114,7 @@ void WriteInstallationSettings(Session &session) {
 }
 
 /// Closing a database tells no faults: what cannot be made durable is told here.
-void SaveAndCloseDatabase(Session &session) {
+void SaveDatabase(Session &session) {
     if (!session.Database) {
         return;
     }
@@ -117,7 +125,6 @@ void SaveAndCloseDatabase(Session &session) {
         Trace(session, QStringLiteral("CloseViewer: ") + error.Text(), kTraceError);
         ShowMessage(session, {.text = error.Text(), .title = {}, .icon = MessageIcon::Critical});
     }
-    session.Database.reset();
 }
 
 } // namespace
@@ -150,14 +157,15 @@ QString TraceMaskText(std::uint32_t mask) {
 
 CommandLine PrepareStartUp(Session &session, const QString &command_line) {
     session.StartingUp = true;
+    const bool layout_reset = session.services.keyboard.CtrlHeld();
     MakeFolders(session);
     MigrateSettingsFile(session);
     session.DatabasePath = ReadIniSetting(session, u"Main", u"DatabasePath");
     StartTrace(session);
     ReadAuditSettings(session);
-    if (session.window.EnableDBMenues) {
-        session.window.EnableDBMenues(false);
-    }
+    Call(session.window.ShowAuditMenus);
+    Call(session.window.ShowSplash);
+    Call(session.window.EnableDBMenues, false);
     session.DatabaseFile = ReadIniSetting(session, u"Main", u"LastDatabase");
     CommandLine line;
     if (!command_line.trimmed().isEmpty()) {
@@ -166,12 +174,19 @@ CommandLine PrepareStartUp(Session &session, const QString &command_line) {
             session.DatabaseFile = line.database;
         }
     }
+    Call(session.window.ShowBlankPage);
     MakeFolderPath(Below(session.DataFolder, u"Skins"));
+    Call(session.window.ShowBaseCaption);
     session.URLHeadshots = ReadIniSetting(session, u"Main", u"URLHeadshots");
     session.TraceTranslateableStringsToFile = ReadIniSetting(session, u"Settings", u"TraceTranslateableStringsToFile");
+    Call(session.window.Layout, layout_reset);
     session.ShowFrontCover = true;
-    ReadGridLines(session);
+    if (!layout_reset) {
+        ReadGridLines(session);
+    }
+    Call(session.window.ApplyGridLines);
     MakeFolderPath(Below(session.DataFolder, u"Images"));
+    Call(session.window.TranslatePanels);
     WriteIniSetting(session, u"Main", u"Version", session.AppVersion);
     return line;
 }
@@ -181,10 +196,20 @@ bool OpenOrRun(Session &session, const CommandLine &command_line) {
         RunCommandFile(session, command_line.command_file);
         return true;
     }
-    return OpenCollectionDatabase(session, session.DatabaseFile);
+    if (!session.window.ChooseDatabase) {
+        return OpenCollectionDatabase(session, session.DatabaseFile);
+    }
+    // A missing file is no fault here: a first start has none.
+    if (!QFileInfo::exists(session.DatabaseFile) || !OpenCollectionDatabase(session, session.DatabaseFile)) {
+        if (!session.EndProgram) {
+            session.window.ChooseDatabase();
+        }
+    }
+    return session.Database != nullptr;
 }
 
 void FinishStartUp(Session &session) {
+    Call(session.window.UnloadSplash);
     // The second of two calls at a normal start: opening a database shows the titles due too. Deliberate.
     if (session.Database && session.view.ShowLoanDueOnStartUp && session.window.ShowTitlesDue) {
         session.window.ShowTitlesDue();
@@ -197,7 +222,9 @@ void CloseViewer(Session &session) {
     session.progress.Close();
     if (!session.SettingsPath.isEmpty()) {
         WriteInstallationSettings(session);
-        SaveAndCloseDatabase(session);
+        SaveDatabase(session);
+        Call(session.window.WriteGeometry);
+        session.Database.reset();
     }
     if (session.instance) {
         session.instance->LeaveAndClean();

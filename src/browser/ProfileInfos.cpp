@@ -1,0 +1,131 @@
+#include "browser/ProfileInfos.h"
+
+#include "base/FolderIndex.h"
+#include "browser/Browser.h"
+#include "browser/CollectionTabs.h"
+#include "browser/Views.h"
+#include "database/DatabaseFunctions.h"
+#include "shell/Session.h"
+
+namespace ostrand {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+/// The three titles of a record, each once, with "/" between them.
+QString JoinTitles(const QString &title, const QString &original, const QString &custom) {
+    QString text = title;
+    if (!original.isEmpty() && original != title) {
+        text += u'/' + original;
+    }
+    if (!custom.isEmpty() && custom != title && custom != original) {
+        text += u'/' + custom;
+    }
+    return text.startsWith(u'/') ? text.mid(1) : text;
+}
+
+QString WithYear(const QString &text, const QString &year) {
+    return year.isEmpty() || year == "0"_L1 ? text : text + " ("_L1 + year + u')';
+}
+
+void Remember(Browser &browser, const QString &id, bool is_episode) {
+    browser.session.CurrentProfileID = id;
+    browser.session.CurrentIsEpisode = is_episode;
+}
+
+QString FindTitle(const QString &id, bool is_episode) {
+    return (is_episode ? u"SELECT * FROM Episodes WHERE EpisodeID = '"_s
+                       : u"SELECT * FROM Profiles WHERE ProfileID = '"_s) +
+           EscapeSql(id) + u'\'';
+}
+
+} // namespace
+
+void UpdateSeriesList(Browser &browser, int row) {
+    Session &session = browser.session;
+    Remember(browser, {}, false);
+    if (row < 0 || row >= browser.listSeries.rowCount()) {
+        return;
+    }
+    browser.current_row = row;
+    Q_EMIT browser.CurrentRowChanged();
+    const QString key = browser.listSeries.At(row).key;
+    if (session.view.mTVShows) {
+        session.CurrentSeriesID = key;
+        UpdateSeasons(browser, key);
+        return;
+    }
+    GetProfileInfos(browser, key, false, false);
+    ShowCover(browser, key);
+}
+
+void GetProfileInfos(Browser &browser, const QString &key, bool is_episode, bool keep_credits) {
+    Session &session = browser.session;
+    if (session.trace.Wants(kTraceEntry)) {
+        Trace(session,
+              u"GetProfileInfos(%1, %2, %3)"_s.arg(key, is_episode ? u"True" : u"False",
+                                                   keep_credits ? u"True" : u"False"),
+              kTraceEntry);
+    }
+    EnableTab(browser, browser.tabMain_selected);
+    const QString id = ProfileOfKey(key);
+    Remember(browser, id, is_episode);
+    browser.commands.SetEnabled(u"mEditTVEpisode"_s, is_episode);
+    if (id.isEmpty() || !session.Database) {
+        ClearAllProfileInfos(browser);
+        return;
+    }
+    const sql::Recordset record = session.Database->OpenRecordset(FindTitle(id, is_episode));
+    if (record.Eof()) {
+        ClearAllProfileInfos(browser);
+        return;
+    }
+    browser.caption = is_episode ? EpisodeCaption(record) : ProfileCaption(record);
+    Q_EMIT browser.TitleChanged();
+}
+
+void ClearAllProfileInfos(Browser &browser) {
+    browser.caption = browser.base_caption;
+    Q_EMIT browser.TitleChanged();
+    if (!browser.cover_stem.isEmpty()) {
+        browser.cover_stem.clear();
+        Q_EMIT browser.CoverChanged();
+    }
+}
+
+QString ProfileCaption(const sql::Recordset &record) {
+    QString text = JoinTitles(record.Text(u"Title"), record.Text(u"OriginalTitle"), record.Text(u"CustomTitle"));
+    text = WithYear(text, record.Text(u"ProdYear"));
+    const QString medium = record.Text(u"Medium");
+    return medium.isEmpty() ? text : text + " - "_L1 + medium;
+}
+
+QString EpisodeCaption(const sql::Recordset &record) {
+    const QString text = JoinTitles(record.Text(u"EpisodeTitle"), record.Text(u"EpisodeOriginalTitle"), {});
+    const QString year = record.Text(u"AirDate").left(4);
+    return WithYear(text, year == "1899"_L1 ? QString() : year);
+}
+
+void ShowCover(Browser &browser, const QString &key) {
+    QString id = ProfileOfKey(key);
+    id.remove(u"Key_"_s);
+    browser.cover_stem = id.isEmpty() ? QString() : browser.session.CoverPath + id;
+    Q_EMIT browser.CoverChanged();
+}
+
+void FlipCover(Browser &browser) {
+    browser.session.ShowFrontCover = !browser.session.ShowFrontCover;
+    Q_EMIT browser.CoverChanged();
+}
+
+QString CurrentCoverFile(Browser &browser) {
+    if (browser.cover_stem.isEmpty()) {
+        return {};
+    }
+    browser.covers.SetFolder(browser.session.CoverPath);
+    return browser.covers.Find(browser.cover_stem.mid(browser.session.CoverPath.size()) +
+                               (browser.session.ShowFrontCover ? "f.jpg"_L1 : "b.jpg"_L1));
+}
+
+} // namespace ostrand
