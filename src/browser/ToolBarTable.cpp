@@ -1,7 +1,6 @@
 #include "browser/ToolBarTable.h"
 
 #include "browser/Browser.h"
-#include "browser/Navigation.h"
 #include "shell/Session.h"
 
 namespace ostrand {
@@ -10,11 +9,13 @@ namespace {
 
 constexpr ToolButton kButtons[] = {
     {.name = u"MoveBack",
+     .role = ToolButton::Role::Back,
      .caption = u"Back",
      .tool_tip = u"Shows the title that was shown before",
      .icon = u"back",
      .shortcut = u"Alt+Left"},
     {.name = u"MoveForward",
+     .role = ToolButton::Role::Forward,
      .caption = u"Forward",
      .tool_tip = u"Shows the title that was left by going back",
      .icon = u"forward",
@@ -44,10 +45,6 @@ QString InViewOf(bool tv, const char16_t *in_movies, const char16_t *in_tv) {
     return text == nullptr ? QString() : QStringView(text).toString();
 }
 
-bool IsNamed(const ToolButton &button, QStringView name) {
-    return QStringView(button.name) == name;
-}
-
 } // namespace
 
 std::span<const ToolButton> ToolButtons() {
@@ -67,26 +64,11 @@ QString ToolCommand(const ToolButton &button, bool tv) {
 }
 
 bool IsToolEnabled(const Browser &browser, const ToolButton &button) {
-    if (IsNamed(button, u"MoveBack")) {
-        return !browser.history.Back().isEmpty();
-    }
-    if (IsNamed(button, u"MoveForward")) {
-        return !browser.history.Forward().isEmpty();
+    if (button.role != ToolButton::Role::Command) {
+        const bool back = button.role == ToolButton::Role::Back;
+        return !(back ? browser.history.Back() : browser.history.Forward()).isEmpty();
     }
     return browser.commands.IsEnabled(ToolCommand(button, browser.session.view.mTVShows));
-}
-
-void RunTool(Browser &browser, const ToolButton &button) {
-    if (!IsToolEnabled(browser, button)) {
-        return;
-    }
-    if (IsNamed(button, u"MoveBack")) {
-        MoveBack(browser);
-    } else if (IsNamed(button, u"MoveForward")) {
-        MoveForward(browser);
-    } else {
-        browser.commands.Run(ToolCommand(button, browser.session.view.mTVShows));
-    }
 }
 
 } // namespace ostrand

@@ -11,8 +11,12 @@ class Browser;
 
 /// A button that is captioned with the other view has a second set of texts, which it shows in TV view.
 struct ToolButton {
+    /// The history buttons drop down the titles of their list.
+    enum class Role { Command, Back, Forward };
+
     const char16_t *name = u"";
-    /// The menu entry that a click runs; null for the history buttons, which move in the history instead.
+    Role role = Role::Command;
+    /// The menu entry that a click runs; null for the history buttons.
     const char16_t *command = nullptr;
     /// English.
     const char16_t *caption = u"";
