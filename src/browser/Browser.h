@@ -63,6 +63,8 @@ public:
         std::function<QString()> selected_feature;
         std::function<QString()> selected_audio;
         std::function<QString()> selected_studio;
+        /// Shows frmFilterTags; the entry of comboFilter does nothing without it.
+        std::function<void()> ShowFilterTags;
     };
     Hooks hooks;
 

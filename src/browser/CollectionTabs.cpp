@@ -19,7 +19,6 @@ constexpr auto kClearFilter = "Clear Filter"_L1;
 constexpr auto kTagFilter = "Filter Profiles by Tags"_L1;
 constexpr auto kEditFilter = "Add/Edit Filter"_L1;
 constexpr auto kEditFilterCommand = "mSQLQuery"_L1;
-constexpr auto kTagFilterCommand = "mFilterTags"_L1;
 
 constexpr QStringView kDefaultColTypes[] = {u"Owned", u"Ordered", u"WishList"};
 
@@ -48,6 +47,16 @@ void AppendColTypeTabs(Browser &browser) {
             browser.tabColList += Translate(session, type);
         }
     }
+}
+
+void ShowFilterTags(Browser &browser) {
+    if (!browser.hooks.ShowFilterTags) {
+        return;
+    }
+    if (browser.session.view.mTVShows) {
+        ChangeMode(browser, true);
+    }
+    browser.hooks.ShowFilterTags();
 }
 
 } // namespace
@@ -153,16 +162,9 @@ void ChooseFilter(Browser &browser, const QString &text) {
     if (entry == kClearFilter) {
         ReloadList(browser);
     } else if (entry == kEditFilter) {
-        if (browser.commands.HasHandler(kEditFilterCommand)) {
-            browser.commands.Run(kEditFilterCommand);
-        }
+        browser.commands.Run(kEditFilterCommand);
     } else if (entry == kTagFilter) {
-        if (browser.commands.HasHandler(kTagFilterCommand)) {
-            if (browser.session.view.mTVShows) {
-                ChangeMode(browser, true);
-            }
-            browser.commands.Run(kTagFilterCommand);
-        }
+        ShowFilterTags(browser);
     } else if (!entry.isEmpty()) {
         SpecialProfileOrder(browser, u"Filter"_s);
     }
@@ -174,7 +176,7 @@ bool FilterEntryAvailable(Browser &browser, int index) {
         return browser.commands.HasHandler(kEditFilterCommand);
     }
     if (entry == kTagFilter) {
-        return browser.commands.HasHandler(kTagFilterCommand);
+        return bool(browser.hooks.ShowFilterTags);
     }
     return !entry.isEmpty();
 }
