@@ -212,6 +212,11 @@ constexpr IniSetting kIniSettings[] = {
     {u"Settings", u"ImportAllAdditionalInfos", u""},
 };
 
+constexpr const char16_t *kWindowSections[] = {
+    u"ProfileInfo",  u"Awards",      u"SQLQueries",     u"AssignEpisodes", u"CoverWindow",   u"FilterTags",
+    u"EditMultiUse", u"CrewMapping", u"ListViewWindow", u"EditSkin",       u"EncryptionPad",
+};
+
 } // namespace
 
 std::span<const DbSetting> DbSettings() {
@@ -252,6 +257,15 @@ QString ReadIniSetting(const Session &session, const char16_t *section, const ch
 
 void WriteIniSetting(const Session &session, const char16_t *section, const char16_t *key, const QString &value) {
     WriteINIString(session, QString::fromUtf16(section), QString::fromUtf16(key), value);
+}
+
+std::span<const char16_t *const> WindowSections() {
+    return kWindowSections;
+}
+
+bool IsWindowSection(QStringView section) {
+    return std::any_of(std::begin(kWindowSections), std::end(kWindowSections),
+                       [&](const char16_t *known) { return section == known; });
 }
 
 QList<int> ParseColumns(QStringView text, const QList<int> &preset) {
