@@ -48,11 +48,11 @@ bool HasSystemMark(const QString &path) {
 
 /// The folders that a system of this family keeps for itself.
 bool HasSystemMark(const QString &path) {
-    constexpr const char16_t *kSystemFolders[] = {u"/bin",    u"/boot", u"/dev",  u"/etc",  u"/lib", u"/lib32", u"/lib64",
-                                                  u"/libx32", u"/proc", u"/sbin", u"/sys",  u"/usr", u"/System"};
-    return std::any_of(std::begin(kSystemFolders), std::end(kSystemFolders), [&](const char16_t *folder) {
-        return IsAtOrBelow(path, QString::fromUtf16(folder));
-    });
+    constexpr const char16_t *kSystemFolders[] = {u"/bin",   u"/boot",  u"/dev",    u"/etc",  u"/lib",
+                                                  u"/lib32", u"/lib64", u"/libx32", u"/proc", u"/sbin",
+                                                  u"/sys",   u"/usr",   u"/System"};
+    return std::any_of(std::begin(kSystemFolders), std::end(kSystemFolders),
+                       [&](const char16_t *folder) { return IsAtOrBelow(path, QString::fromUtf16(folder)); });
 }
 
 /// Whether a volume is one that a user knows, and not a part of the system.
@@ -89,7 +89,8 @@ std::vector<FolderDrive> SystemDrives(const Translator &translator) {
     for (const QFileInfo &drive : QDir::drives()) {
         const QString label = QStorageInfo(drive.filePath()).name();
         const QString letter = drive.filePath().left(2);
-        drives.push_back({drive.filePath(), DriveText(label.isEmpty() ? Translate(translator, u"Drive"_s) : label, letter)});
+        drives.push_back(
+            {drive.filePath(), DriveText(label.isEmpty() ? Translate(translator, u"Drive"_s) : label, letter)});
     }
 #else
     drives.push_back({QDir::homePath(), DriveText(Translate(translator, u"Home"_s), QDir::homePath()), u"Folder"_s});
@@ -117,9 +118,9 @@ struct FolderTree::Node {
         node->path = PathOf(folder, name);
         node->text = name;
         node->parent = above;
-        node->image = IsRecycler(name)               ? u"FolderRecycler"_s
+        node->image = IsRecycler(name)             ? u"FolderRecycler"_s
                       : IsSystemFolder(node->path) ? u"FolderSystem"_s
-                                                     : u"FolderClosed"_s;
+                                                   : u"FolderClosed"_s;
         return node;
     }
 };
@@ -270,10 +271,13 @@ QModelIndex FolderTree::Find(const QString &path) {
 }
 
 QModelIndex FolderTree::NewFolder(const QModelIndex &parent, UserDialogs &dialogs, const Translator &translator) {
+    if (!parent.isValid()) {
+        return {};
+    }
     const std::optional<QString> answer = dialogs.InputText(Translate(translator, u"Enter new folder name:"_s),
                                                             Translate(translator, u"New Folder"_s), {});
     const QString name = SafeFileName(answer.value_or(QString()).trimmed());
-    if (!parent.isValid() || name.isEmpty() || name == "."_L1 || name == ".."_L1) {
+    if (name.isEmpty()) {
         return {};
     }
     const QString path = PathOf(Path(parent), name);

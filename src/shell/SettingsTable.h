@@ -63,8 +63,8 @@ std::span<const IniSetting> IniSettings();
 QString ReadIniSetting(const Session &session, const char16_t *section, const char16_t *key);
 void WriteIniSetting(const Session &session, const char16_t *section, const char16_t *key, const QString &value);
 
-/// The sections of Settings.ini that hold Height, Width, Top and Left of one window each, in twips. Their default is the
-/// design of the window.
+/// The sections of Settings.ini that hold Height, Width, Top and Left of one window each, in twips. Their default is
+/// the design of the window.
 std::span<const char16_t *const> WindowSections();
 bool IsWindowSection(QStringView section);
 

@@ -67,7 +67,9 @@ bool HasWindowPositions() {
 }
 
 void ReadWindowPlace(const Session &session, const QString &section, QWidget &window, QSize design) {
-    const auto positive = [](std::optional<int> pixels, int preset) { return pixels && *pixels > 0 ? *pixels : preset; };
+    const auto positive = [](std::optional<int> pixels, int preset) {
+        return pixels && *pixels > 0 ? *pixels : preset;
+    };
     const QSize size(positive(Stored(session, section, u"Width"_s), design.width()),
                      positive(Stored(session, section, u"Height"_s), design.height()));
     const std::optional<int> left = Stored(session, section, u"Left"_s);
