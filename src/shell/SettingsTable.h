@@ -63,6 +63,9 @@ std::span<const IniSetting> IniSettings();
 QString ReadIniSetting(const Session &session, const char16_t *section, const char16_t *key);
 void WriteIniSetting(const Session &session, const char16_t *section, const char16_t *key, const QString &value);
 
+/// The host of the collection program's covers, for links to them.
+QString CoverHost();
+
 /// The positions in a text of that form; `preset` where it is not each number from 1 to the count of `preset` once.
 QList<int> ParseColumns(QStringView text, const QList<int> &preset);
 QString ColumnsText(const QList<int> &columns);
