@@ -1,9 +1,11 @@
 // The desktop program.
 
 #include "browser/Browser.h"
+#include "browser/Navigation.h"
 #include "browser/ui/Guarded.h"
 #include "browser/ui/frmMain.h"
 #include "platform_qt/QtDesktop.h"
+#include "platform_qt/ThemedIcon.h"
 #include "services/QtProcessRunner.h"
 #include "services/StandardStreams.h"
 #include "services/StopSignals.h"
@@ -93,7 +95,7 @@ int main(int argc, char **argv) {
     Session session(desktop.services);
     application.session = &session;
     desktop.dialogs.translate = [&session](const QString &text) { return Translate(session, text); };
-    desktop.progress.Attach(session.progress);
+    desktop.progress.Attach(session.progress, desktop.dialogs.translate);
     Browser browser(session);
     frmMain main(browser);
     desktop.progress.title_chosen = [&browser](const QString &key) { ShowMovie(browser, key); };

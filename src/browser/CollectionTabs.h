@@ -17,6 +17,8 @@ void EnableTab(Browser &browser, int index);
 void UpdateFilters(Browser &browser);
 /// Shows or hides comboFilter, as mShowFilter and the view say.
 void ApplyFilterLayout(Browser &browser);
+/// mShowFilter.
+void ToggleFilter(Browser &browser);
 /// True for the types that are there without a profile, whatever their case.
 bool IsDefaultColType(const QString &type);
 /// Selects a tab of tabColList without filling the list; false when there is none of that number.
@@ -27,8 +29,6 @@ void SelectColTypeTab(Browser &browser, int index);
 void SelectMainTab(Browser &browser, int index);
 /// An entry of comboFilter was chosen.
 void ChooseFilter(Browser &browser, const QString &text);
-/// Whether an entry of comboFilter, counted from 0, does anything in this version.
-bool FilterEntryAvailable(Browser &browser, int index);
 /// The list of comboFilter is about to open.
 void OpenFilterList(Browser &browser);
 /// False for an entry of comboFilter, counted from 0, whose window does not exist: choosing it does nothing.

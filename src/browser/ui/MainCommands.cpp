@@ -1,6 +1,7 @@
 #include "browser/ui/MainCommands.h"
 
 #include "browser/Browser.h"
+#include "browser/CollectionTabs.h"
 #include "browser/CollectionTypes.h"
 #include "browser/Navigation.h"
 #include "browser/TitleQueries.h"
@@ -10,10 +11,8 @@
 #include "collection_files/ProfilerImport.h"
 #include "database/TitlesDue.h"
 #include "database/ui/frmSwitchDatabase.h"
-#include "people/ui/frmDropBox.h"
 #include "shell/FileCommands.h"
 #include "shell/ui/frmAbout.h"
-#include "shell/ui/frmSettings.h"
 
 namespace ostrand {
 
@@ -25,14 +24,6 @@ void SwitchDatabase(frmMain &main) {
     frmSwitchDatabase(main.browser.session, &main).exec();
 }
 
-void ShowDropBox(frmMain &main) {
-    auto *window = main.findChild<frmDropBox *>();
-    if (!window) {
-        window = new frmDropBox(main.browser.session, &main);
-    }
-    window->show();
-    window->raise();
-}
 
 void ToggleGridLines(Browser &browser, bool ViewState::GridLines::*shown) {
     ViewState::GridLines &lines = browser.session.view.grid_lines;
@@ -96,8 +87,6 @@ constexpr Handler kHandlers[] = {
     {u"mAddColType", Browse<AddColType>},
     {u"mRenameCollectionType", Browse<RenameCollectionType>},
     {u"mRemoveColType", Browse<RemoveColType>},
-    {u"mDropBox", ShowDropBox},
-    {u"mSettings", [](frmMain &main) { frmSettings(main.browser.session, &main).exec(); }},
     {u"mAbout", [](frmMain &main) { frmAbout(main.browser.session, &main).exec(); }},
 };
 

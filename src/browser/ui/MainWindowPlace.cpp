@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 constexpr int kNormal = 0;
 constexpr int kMinimised = 1;
 constexpr int kMaximised = 2;
-constexpr WindowTwips kFirstPlace = {.height = 11000, .width = 17000, .top = 200, .left = 200};
+constexpr QRect kFirstPlace(FromTwips(200), FromTwips(200), FromTwips(17000), FromTwips(11000));
 constexpr std::array<double, 6> kShares = {0.45, 0.55, 0.4, 0.5, 0.5, 0.3};
 
 QString SplitterKey(size_t index) {
@@ -26,9 +26,15 @@ QString SplitterKey(size_t index) {
 } // namespace
 
 void PlaceMainWindow(QMainWindow &window, const Session &session, bool reset) {
-    PlaceWindow(window, reset ? kFirstPlace : ReadWindowTwips(session, u"Window"_s, kFirstPlace));
-    if (!reset && GetINIString(session, u"Window"_s, u"WindowState"_s, {}).toInt() == kMaximised) {
-        window.setWindowState(Qt::WindowMaximized);
+    window.resize(kFirstPlace.size());
+    if (HasWindowPositions()) {
+        window.move(kFirstPlace.topLeft());
+    }
+    if (!reset) {
+        ReadWindowPlace(session, u"Window"_s, window, kFirstPlace.size());
+        if (GetINIString(session, u"Window"_s, u"WindowState"_s, {}).toInt() == kMaximised) {
+            window.setWindowState(Qt::WindowMaximized);
+        }
     }
 }
 
@@ -36,7 +42,7 @@ void KeepMainWindow(const QMainWindow &window, const Session &session) {
     const int state = window.isMinimized() ? kMinimised : window.isMaximized() ? kMaximised : kNormal;
     WriteINIString(session, u"Window"_s, u"WindowState"_s, QString::number(state));
     if (state == kNormal) {
-        WriteWindowTwips(session, u"Window"_s, TwipsOfWindow(window));
+        WriteWindowPlace(session, u"Window"_s, window);
     }
 }
 
@@ -47,7 +53,7 @@ void PlaceSplitters(const std::array<SplitPanel *, 6> &splits, const Session &se
         }
         bool stored = false;
         const int position = GetINIString(session, u"Splitter"_s, SplitterKey(i), {}).toInt(&stored);
-        splits[i]->SetDefaultFraction(kShares[i]);
+        splits[i]->SetDefaultPosition(kShares[i]);
         if (stored) {
             splits[i]->SetPosition(position);
         }
@@ -56,7 +62,7 @@ void PlaceSplitters(const std::array<SplitPanel *, 6> &splits, const Session &se
 
 void KeepSplitters(const std::array<SplitPanel *, 6> &splits, const Session &session) {
     for (size_t i = 0; i < splits.size(); ++i) {
-        if (splits[i]->HasPosition()) {
+        if (splits[i]->Position() != SplitPanel::kUnset) {
             WriteINIString(session, u"Splitter"_s, SplitterKey(i), QString::number(splits[i]->Position()));
         }
     }

@@ -19,14 +19,15 @@
 #include "platform_qt/LazyHtmlView.h"
 #include "shell/InstanceMarker.h"
 #include "shell/ListTable.h"
-#include "shell/SettingsTable.h"
 #include "shell/StartUp.h"
 #include "shell/ui/SplitPanel.h"
-#include "shell/ui/WindowPlace.h"
 #include "shell/ui/frmListView.h"
 #include "shell/ui/frmSplash.h"
 
 #include <QCloseEvent>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMimeData>
 #include <QListView>
 #include <QShortcut>
 #include <QTimer>
@@ -107,8 +108,8 @@ void frmMain::Compose() {
     WebSkin_->SetVisible(false);
     setCentralWidget(centre);
 
-    menus_ = new MenuBuilder(browser.commands, this);
-    toolMain_ = new ToolMain(browser, *menus_, this);
+    menus_ = new MenuBuilder(browser.commands, *menuBar(), *this);
+    toolMain_ = new ToolMain(browser, *this);
     addToolBar(toolMain_);
 }
 
@@ -160,7 +161,6 @@ void frmMain::SetWindowHooks() {
     session.window.ChooseDatabase = [this] { ChooseDatabase(); };
     session.window.WriteGeometry = [this] { WriteGeometry(); };
     session.window.ShowListView = [this](std::unique_ptr<ListTable> table) { ShowListView(std::move(table)); };
-    session.window.SettingsStored = [this] { ApplySettings(); };
 }
 
 bool frmMain::Load(const QString &command_line) {
@@ -195,8 +195,7 @@ void frmMain::ChooseDatabase() {
 
 void frmMain::Layout(bool reset) {
     PlaceMainWindow(*this, browser.session, reset);
-    std::array<SplitPanel *, 6> splits = splits_;
-    PlaceSplitters(splits, browser.session, reset);
+    PlaceSplitters(splits_, browser.session, reset);
 }
 
 void frmMain::WriteGeometry() {
@@ -207,7 +206,6 @@ void frmMain::WriteGeometry() {
 }
 
 void frmMain::ApplySettings() {
-    toolMain_->setVisible(browser.session.view.ShowToolbar);
     titles_->ShowDatabasePath(browser.session.DatabaseFile);
     SetFonts();
     ApplyGridLines();
@@ -242,21 +240,15 @@ void frmMain::TranslateNames() {
 }
 
 void frmMain::ShowListView(std::unique_ptr<ListTable> table) {
-    frmListView *window = nullptr;
     for (frmListView *open : findChildren<frmListView *>()) {
         if (open->windowTitle() == table->caption) {
-            window = open;
+            delete open; // one window for one list
         }
     }
-    if (window) {
-        window->ShowTable(std::move(table));
-    } else {
-        window = new frmListView(browser.session, std::move(table), this);
-        window->setAttribute(Qt::WA_DeleteOnClose);
-        window->title_chosen = [this](const QString &key, ListRowKind) {
-            Guarded(browser.session, [&] { ShowMovie(browser, key); });
-        };
-    }
+    auto *window = new frmListView(browser.session, ContentOf(std::move(table)), this);
+    window->title_chosen = [this](const QString &key, ListRowKind) {
+        Guarded(browser.session, [&] { ShowMovie(browser, key); });
+    };
     window->show();
     window->raise();
 }
