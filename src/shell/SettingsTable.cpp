@@ -270,10 +270,10 @@ void WriteIniSetting(const Session &session, const char16_t *section, const char
     WriteINIString(session, QString::fromUtf16(section), QString::fromUtf16(key), value);
 }
 
-<<<<<<< HEAD
 QString CoverHost() {
     return QString::fromUtf16(kCoverHost);
-=======
+}
+
 std::span<const char16_t *const> WindowSections() {
     return kWindowSections;
 }
@@ -281,7 +281,6 @@ std::span<const char16_t *const> WindowSections() {
 bool IsWindowSection(QStringView section) {
     return std::any_of(std::begin(kWindowSections), std::end(kWindowSections),
                        [&](const char16_t *known) { return section == known; });
->>>>>>> w-dialogs
 }
 
 QList<int> ParseColumns(QStringView text, const QList<int> &preset) {

@@ -3,6 +3,7 @@
 #include "browser/Browser.h"
 #include "browser/ProfileInfos.h"
 #include "browser/Views.h"
+#include "browser/ui/GridDelegate.h"
 #include "browser/ui/PictureView.h"
 #include "shell/Session.h"
 
@@ -26,8 +27,7 @@ CoverPanel::CoverPanel(Browser &browser, QWidget *parent) :
     connect(&browser_, &Browser::SeasonsChanged, this, &CoverPanel::ShowSeasons);
     connect(&browser_, &Browser::ModeChanged, this, &CoverPanel::ShowSeasons);
     connect(listSeasons_, &QComboBox::activated, this, [this](int index) { SelectSeason(browser_, index); });
-    connect(&browser_, &Browser::CoverChanged, this,
-            [this] { picCover_->ShowFile(CurrentCoverFile(browser_)); });
+    connect(&browser_, &Browser::CoverChanged, this, [this] { picCover_->ShowFile(CurrentCoverFile(browser_)); });
     connect(picCover_, &PictureView::Clicked, this, [this] { FlipCover(browser_); });
     TranslateNames();
     ShowSeasons();
@@ -48,10 +48,11 @@ void CoverPanel::ShowSeasons() {
 }
 
 EpisodePanel::EpisodePanel(Browser &browser, QWidget *parent) :
-    QWidget(parent), browser_(browser), listEpisodes_(new QTreeView(this)) {
+    QWidget(parent), browser_(browser), listEpisodes_(new QTreeView(this)), delegate_(new GridDelegate(this)) {
     setObjectName(QStringLiteral("Frame4_2"));
     listEpisodes_->setObjectName(QStringLiteral("listEpisodes"));
     listEpisodes_->setModel(&browser_.listEpisodes);
+    listEpisodes_->setItemDelegate(delegate_);
     listEpisodes_->setRootIsDecorated(false);
     listEpisodes_->setUniformRowHeights(true);
     listEpisodes_->setAllColumnsShowFocus(true);
@@ -68,6 +69,11 @@ EpisodePanel::EpisodePanel(Browser &browser, QWidget *parent) :
                 }
             });
     TranslateNames();
+}
+
+void EpisodePanel::SetGridLines(bool shown) {
+    delegate_->SetGridLines(shown);
+    listEpisodes_->viewport()->update();
 }
 
 void EpisodePanel::TranslateNames() {

@@ -7,6 +7,7 @@
 namespace ostrand {
 
 class Browser;
+class GridDelegate;
 class PictureView;
 
 /// Frame4_1: the seasons in TV view, the cover.
@@ -29,12 +30,13 @@ class EpisodePanel : public QWidget {
     Q_OBJECT
 public:
     explicit EpisodePanel(Browser &browser, QWidget *parent = nullptr);
-    QTreeView *List() const { return listEpisodes_; }
+    void SetGridLines(bool shown);
     void TranslateNames();
 
 private:
     Browser &browser_;
     QTreeView *listEpisodes_;
+    GridDelegate *delegate_;
 };
 
 } // namespace ostrand

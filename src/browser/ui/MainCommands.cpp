@@ -24,7 +24,6 @@ void SwitchDatabase(frmMain &main) {
     frmSwitchDatabase(main.browser.session, &main).exec();
 }
 
-
 void ToggleGridLines(Browser &browser, bool ViewState::GridLines::*shown) {
     ViewState::GridLines &lines = browser.session.view.grid_lines;
     lines.*shown = !(lines.*shown);
@@ -90,9 +89,22 @@ constexpr Handler kHandlers[] = {
     {u"mAbout", [](frmMain &main) { frmAbout(main.browser.session, &main).exec(); }},
 };
 
+/// The lists whose grid lines can be seen today.
+constexpr std::array kGridLists = {&ViewState::GridLines::ListCollection, &ViewState::GridLines::ListEpisodes};
+
+void HandleGridLines(frmMain &main) {
+    for (const MenuEntry &entry : MenuEntries()) {
+        if (std::find(kGridLists.begin(), kGridLists.end(), entry.grid_lines) != kGridLists.end()) {
+            main.browser.commands.Handle(QString::fromUtf16(entry.name),
+                                         [&main, lines = entry.grid_lines] { ToggleGridLines(main.browser, lines); });
+        }
+    }
+}
+
 } // namespace
 
 void HandleCommands(frmMain &main) {
+    HandleGridLines(main);
     for (const Handler &handler : kHandlers) {
         main.browser.commands.Handle(QString::fromUtf16(handler.name), [&main, run = handler.run] {
             Guarded(main.browser.session, [&] { run(main); });

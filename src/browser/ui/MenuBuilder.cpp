@@ -16,8 +16,8 @@ QString OfTable(const char16_t *text) {
 
 } // namespace
 
-MenuBuilder::MenuBuilder(Commands &commands, QMenuBar &bar, QWidget &window)
-    : QObject(&window), commands_(commands), views_(new QActionGroup(this)) {
+MenuBuilder::MenuBuilder(Commands &commands, QMenuBar &bar, QWidget &window) :
+    QObject(&window), commands_(commands), views_(new QActionGroup(this)) {
     for (const MenuEntry &entry : MenuEntries()) {
         if (entry.is_menu) {
             AddMenu(entry, bar, window);
@@ -34,9 +34,9 @@ MenuBuilder::MenuBuilder(Commands &commands, QMenuBar &bar, QWidget &window)
 }
 
 void MenuBuilder::AddMenu(const MenuEntry &entry, QMenuBar &bar, QWidget &window) {
-    QMenu *menu = entry.is_context_menu       ? new QMenu(&window)
-                  : entry.parent == nullptr   ? bar.addMenu(QString())
-                                              : menus_.value(OfTable(entry.parent))->addMenu(QString());
+    QMenu *menu = entry.is_context_menu     ? new QMenu(&window)
+                  : entry.parent == nullptr ? bar.addMenu(QString())
+                                            : menus_.value(OfTable(entry.parent))->addMenu(QString());
     const QString name = OfTable(entry.name);
     menu->setObjectName(name);
     menu->menuAction()->setObjectName(name);

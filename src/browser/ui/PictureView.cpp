@@ -26,7 +26,7 @@ void PictureView::paintEvent(QPaintEvent *) {
     }
     QPainter painter(this);
     const QSizeF extent = picture_.deviceIndependentSize();
-    painter.drawPixmap(QPointF((width() - extent.width()) / 2, (height() - extent.height()) / 2), picture_);
+    painter.drawPixmap(QPointF((width() - extent.width()) / 2, 0), picture_);
     if (hasFocus()) {
         QStyleOptionFocusRect option;
         option.initFrom(this);

@@ -2,8 +2,6 @@
 
 #include "browser/TitleList.h"
 
-#include <QPainter>
-
 namespace ostrand {
 
 namespace {
@@ -25,17 +23,6 @@ void TitleDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIn
         break;
     case TitleList::Colour::Text:
         break;
-    }
-}
-
-void TitleDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const {
-    QStyledItemDelegate::paint(painter, option, index);
-    if (grid_lines_) {
-        painter->save();
-        painter->setPen(option.palette.color(QPalette::Midlight));
-        painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
-        painter->drawLine(option.rect.topRight(), option.rect.bottomRight());
-        painter->restore();
     }
 }
 

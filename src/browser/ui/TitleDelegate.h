@@ -1,26 +1,18 @@
-// Paints the rows of listSeries.
+// The looks of the rows of listSeries.
 #pragma once
 
-#include <QStyledItemDelegate>
+#include "browser/ui/GridDelegate.h"
 
 namespace ostrand {
 
-/// Turns the colours and the bold headers of a TitleList into looks, and draws grid lines when asked.
-class TitleDelegate : public QStyledItemDelegate {
+/// Turns the colours and the bold headers of a TitleList into looks.
+class TitleDelegate : public GridDelegate {
     Q_OBJECT
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    void SetGridLines(bool shown) { grid_lines_ = shown; }
-    bool GridLines() const { return grid_lines_; }
-
-    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+    using GridDelegate::GridDelegate;
 
 protected:
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
-
-private:
-    bool grid_lines_ = false;
 };
 
 } // namespace ostrand

@@ -41,6 +41,7 @@ void TitleListPanel::TranslateNames() {
     const auto shown = [this](const char16_t *text) { return Translate(browser_.session, QString::fromUtf16(text)); };
     tabColList_->setAccessibleName(shown(u"Collection types"));
     comboFilter_->setAccessibleName(shown(u"Filter"));
+    comboFilter_->setPlaceholderText(shown(u"Filter"));
     comboFilter_->setToolTip(shown(u"Show only the titles that a saved filter finds"));
     listSeries_->setAccessibleName(shown(u"Titles"));
 }

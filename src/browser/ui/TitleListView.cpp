@@ -28,8 +28,7 @@ TitleListView::TitleListView(Browser &browser, QWidget *parent) :
     header()->setSectionsMovable(false);
     header()->setStretchLastSection(false);
     header()->setMinimumSectionSize(0);
-    connect(header(), &QHeaderView::sectionClicked, this,
-            [this](int column) { SortByHeader(browser_, column); });
+    connect(header(), &QHeaderView::sectionClicked, this, [this](int column) { SortByHeader(browser_, column); });
     connect(&browser_, &Browser::CurrentRowChanged, this, &TitleListView::FollowBrowser);
     connect(&browser_.listSeries, &TitleList::WidthsChanged, this, &TitleListView::ApplyWidths);
     connect(&browser_.listSeries, &QAbstractItemModel::modelReset, this, &TitleListView::ApplyWidths);
@@ -90,7 +89,6 @@ void TitleListView::keyPressEvent(QKeyEvent *event) {
     }
 }
 
-
 void TitleListView::mouseDoubleClickEvent(QMouseEvent *event) {
     QTreeView::mouseDoubleClickEvent(event);
     if (event->button() == Qt::LeftButton && indexAt(event->pos()).isValid()) {
@@ -110,10 +108,10 @@ void TitleListView::resizeEvent(QResizeEvent *event) {
 }
 
 void TitleListView::ApplyWidths() {
-    const int width = viewport()->width();
+    const int list_width = width();
     int others = 0;
     for (int column = 1; column < kTitleColumns; ++column) {
-        const int wanted = int(browser_.listSeries.Width(column) * width);
+        const int wanted = int(browser_.listSeries.Width(column) * list_width);
         setColumnHidden(column, wanted == 0);
         if (wanted > 0) {
             setColumnWidth(column, wanted);
@@ -121,7 +119,7 @@ void TitleListView::ApplyWidths() {
         }
     }
     // The two widths may add up to more than there is; the list does not scroll sideways for that.
-    setColumnWidth(0, std::min(int(browser_.listSeries.Width(0) * width), width - others));
+    setColumnWidth(0, std::min(int(browser_.listSeries.Width(0) * list_width), viewport()->width() - others));
 }
 
 void TitleListView::ShowSortMark() {

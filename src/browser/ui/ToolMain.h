@@ -12,8 +12,8 @@ namespace ostrand {
 class Browser;
 struct ToolButton;
 
-/// `toolMain`: it follows the browser, its commands and the setting that shows it. Its buttons, and their actions, carry
-/// the names of the table. Their shortcuts work while it is hidden too.
+/// `toolMain`: it follows the browser, its commands and the setting that shows it. Its buttons, and their actions,
+/// carry the names of the table. Their shortcuts work while it is hidden too.
 class ToolMain : public QToolBar {
     Q_OBJECT
 public:

@@ -8,8 +8,8 @@
 #include "browser/ui/EmptyPlace.h"
 #include "browser/ui/FileDrop.h"
 #include "browser/ui/Guarded.h"
-#include "browser/ui/MainWindowPlace.h"
 #include "browser/ui/MainCommands.h"
+#include "browser/ui/MainWindowPlace.h"
 #include "browser/ui/MenuBuilder.h"
 #include "browser/ui/MiddlePanel.h"
 #include "browser/ui/TitleListPanel.h"
@@ -25,10 +25,10 @@
 #include "shell/ui/frmSplash.h"
 
 #include <QCloseEvent>
+#include <QListView>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
-#include <QListView>
 #include <QShortcut>
 #include <QTimer>
 
