@@ -71,7 +71,9 @@ Q_SIGNALS:
     void WidthsChanged();
 
 private:
-    void Sort();
+    Colour ColourOf(int row) const;
+    /// Orders the rows; returns where each one went.
+    std::vector<int> SortRows();
 
     std::vector<TitleRow> rows_;
     QStringList headers_;

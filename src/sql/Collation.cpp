@@ -163,6 +163,23 @@ int CompareWeights(Weigher<Reader> left, Weigher<Reader> right) {
     return accents != 0 ? accents : places.Result();
 }
 
+/// Writes numbers above 0 so that their bytes compare as they do; none begins with the byte 0.
+void PutNumber(QByteArray &key, std::uint32_t number) {
+    constexpr std::uint32_t kLong = 0xF0;
+    if (number < kLong) {
+        key.append(char(number));
+        return;
+    }
+    const char bytes[] = {char(kLong), char(number >> 16), char(number >> 8), char(number)};
+    key.append(bytes, sizeof bytes);
+}
+
+void PutPlace(QByteArray &key, std::uint32_t place, std::uint32_t character) {
+    const char bytes[] = {char(place >> 24), char(place >> 16), char(place >> 8), char(place)};
+    key.append(bytes, sizeof bytes);
+    PutNumber(key, character + 1);
+}
+
 /// Runs over what weighs the same in both texts. True when `result` is known; else `place` is where the slow
 /// comparison may begin.
 template <class Unit>
@@ -232,6 +249,38 @@ int Compare(QStringView left, QStringView right) {
         --start;
     }
     return CompareWeights(Weigher(Utf16Reader(left.sliced(start))), Weigher(Utf16Reader(right.sliced(start))));
+}
+
+QByteArray SortKey(QStringView text) {
+    while (text.endsWith(u' ')) {
+        text.chop(1);
+    }
+    QByteArray letters;
+    letters.reserve(text.size() + 2);
+    QByteArray accents;
+    QByteArray places;
+    std::uint32_t count = 0;
+    std::uint32_t unaccented = 0; // letters since the last accent; those behind the last one need no byte
+    for (Weigher weigher{Utf16Reader(text)}; !weigher.AtEnd(); weigher.Advance()) {
+        if (weigher.IsIgnored()) {
+            PutPlace(places, count, weigher.Secondary());
+            continue;
+        }
+        ++count;
+        PutNumber(letters, weigher.Primary());
+        if (weigher.Secondary() == 0) {
+            ++unaccented;
+            continue;
+        }
+        accents.append(qsizetype(unaccented), char(1));
+        PutNumber(accents, weigher.Secondary() + 1);
+        unaccented = 0;
+    }
+    letters.append(char(0));
+    letters.append(accents);
+    letters.append(char(0));
+    letters.append(places);
+    return letters;
 }
 
 int CompareUtf8(std::string_view left, std::string_view right) {

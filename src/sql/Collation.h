@@ -1,6 +1,7 @@
 // The one text order of the engine.
 #pragma once
 
+#include <QByteArray>
 #include <QStringView>
 
 #include <string_view>
@@ -16,5 +17,7 @@ inline constexpr int kCollationVersion = 1;
 int Compare(QStringView left, QStringView right);
 /// The same over UTF-8, without copying.
 int CompareUtf8(std::string_view left, std::string_view right);
+/// A key for sorting or looking up many texts: keys stand to each other, byte by byte, as Compare finds their texts.
+QByteArray SortKey(QStringView text);
 
 } // namespace ostrand::sql

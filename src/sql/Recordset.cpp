@@ -87,6 +87,10 @@ int Recordset::Ordinal(QStringView name) const {
     return ordinal;
 }
 
+int Recordset::FindOrdinal(QStringView name) const {
+    return data_->shape->Find(name);
+}
+
 const Value &Recordset::Get(int ordinal) const {
     if (Eof()) {
         throw NoRow();

@@ -41,6 +41,8 @@ public:
     const std::vector<Field> &Fields() const;
     /// The place of a field, for reading many rows; throws on an unknown name.
     int Ordinal(QStringView name) const;
+    /// The same; -1 for an unknown name.
+    int FindOrdinal(QStringView name) const;
 
     const Value &Get(int ordinal) const;
     const Value &Get(QStringView name) const { return Get(Ordinal(name)); }

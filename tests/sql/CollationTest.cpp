@@ -13,6 +13,10 @@ namespace {
 
 int Both(const QString &left, const QString &right) {
     const int order = Compare(left, right);
+    const QByteArray left_key = SortKey(left);
+    const QByteArray right_key = SortKey(right);
+    EXPECT_EQ(order, left_key < right_key ? -1 : int(right_key < left_key))
+        << "by key: " << left.toStdString() << " / " << right.toStdString();
     EXPECT_EQ(order, CompareUtf8(left.toStdString(), right.toStdString()))
         << left.toStdString() << " / " << right.toStdString();
     EXPECT_EQ(order, -Compare(right, left)) << left.toStdString() << " / " << right.toStdString();

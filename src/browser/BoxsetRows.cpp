@@ -1,0 +1,83 @@
+#include "browser/BoxsetRows.h"
+
+#include "browser/TitleRows.h"
+#include "shell/Session.h"
+#include "sql/Collation.h"
+
+#include <limits>
+
+namespace ostrand {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr int kBlanksOfLevel = 5;
+constexpr int kDeepestLevel = std::numeric_limits<qint16>::max();
+
+/// The children of one boxset on the way down, the next one to add, and what they take over from their parent.
+struct Siblings {
+    const std::vector<int> *rows;
+    size_t next;
+    int level;
+    QString parent_key;
+};
+
+} // namespace
+
+void RowsByKey::Add(const QString &key, int row) {
+    rows_[sql::SortKey(key)].push_back(row);
+}
+
+const std::vector<int> &RowsByKey::Find(const QString &key) const {
+    static const std::vector<int> kNone;
+    if (rows_.isEmpty()) {
+        return kNone;
+    }
+    const auto found = rows_.constFind(sql::SortKey(key));
+    return found == rows_.constEnd() ? kNone : *found;
+}
+
+BoxsetRows::BoxsetRows(Session &session) {
+    const QString statement =
+        u"SELECT b.BoxSetID, p.Title, p.ProfileID, p.SortTitle, p.OriginalSortTitle, p.Description, p.ColNo, "
+        "p.OriginalTitle, pi.PurchaseDate, p.ProdYear, p.Released, p.CustomTitle, p.CustomSortTitle "
+        "FROM (BoxSet b INNER JOIN Profiles p ON b.ChildID = p.ProfileID) "
+        "LEFT JOIN PurchaseInfo pi ON pi.ProfileID = p.ProfileID ORDER BY p.SortTitle"_s;
+    sql::Recordset record = session.Database->OpenRecordset(statement);
+    const TitleRowReader reader(session.view, record);
+    const int boxset = record.Ordinal(u"BoxSetID");
+    children_.reserve(size_t(record.RecordCount()));
+    for (; !record.Eof(); record.MoveNext()) {
+        by_boxset_.Add(record.Text(boxset), int(children_.size()));
+        children_.push_back(reader.ChildRow());
+    }
+}
+
+void BoxsetRows::GetBoxsetChilds(const QString &boxset_id, int level, const QString &parent_key,
+                                 std::vector<TitleRow> &rows) {
+    std::vector<Siblings> path = {{&by_boxset_.Find(boxset_id), 0, level, parent_key}};
+    while (!path.empty()) {
+        Siblings &siblings = path.back();
+        if (siblings.next == siblings.rows->size() || siblings.level > kDeepestLevel) {
+            path.pop_back();
+            continue;
+        }
+        TitleRow row = children_[size_t((*siblings.rows)[siblings.next++])];
+        const qsizetype before = added_.size();
+        added_.insert(row.key.toCaseFolded());
+        if (added_.size() == before) {
+            continue;
+        }
+        row.texts[TitleList::Title].prepend(QString(siblings.level * kBlanksOfLevel, u' '));
+        row.texts[TitleList::SortTitle].prepend(siblings.parent_key + " - "_L1);
+        const std::vector<int> &below = by_boxset_.Find(row.key);
+        if (!below.empty()) {
+            // Ends the reference to `siblings`.
+            path.push_back({&below, 0, siblings.level + 1, row.texts[TitleList::SortTitle]});
+        }
+        rows.push_back(std::move(row));
+    }
+}
+
+} // namespace ostrand

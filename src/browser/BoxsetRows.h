@@ -1,0 +1,41 @@
+// The children of boxsets, below their parents in the list.
+#pragma once
+
+#include "browser/TitleList.h"
+
+#include <QSet>
+
+namespace ostrand {
+
+struct Session;
+
+/// Row numbers by a key that the database compares, such as the children of a boxset by its ProfileID.
+class RowsByKey {
+public:
+    void Add(const QString &key, int row);
+    /// Empty for a key without rows.
+    const std::vector<int> &Find(const QString &key) const;
+    bool IsEmpty() const { return rows_.isEmpty(); }
+
+private:
+    QHash<QByteArray, std::vector<int>> rows_;
+};
+
+/// Reads the children of all boxsets at once: a statement for each title of the list would cost more than the list.
+class BoxsetRows {
+public:
+    /// Throws SqlError.
+    explicit BoxsetRows(Session &session);
+
+    /// Adds the children of a boxset behind `rows`, each followed by its own children. A title that was added before,
+    /// be it under another parent or because a boxset contains itself, is left out with all below it: it stands in the
+    /// list already.
+    void GetBoxsetChilds(const QString &boxset_id, int level, const QString &parent_key, std::vector<TitleRow> &rows);
+
+private:
+    std::vector<TitleRow> children_;
+    RowsByKey by_boxset_;
+    QSet<QString> added_;
+};
+
+} // namespace ostrand

@@ -1,0 +1,67 @@
+#include "browser/ListFilling.h"
+
+#include "browser/Browser.h"
+#include "browser/ProfileInfos.h"
+#include "shell/Session.h"
+
+namespace ostrand {
+
+namespace {
+
+constexpr double kSortColumnWidth = 0.25;
+constexpr int kOptionalColumns[] = {TitleList::Number, TitleList::Year, TitleList::PurchaseDate,
+                                    TitleList::ReleaseDate};
+
+/// The column that a sort key stands for.
+int SortColumnOf(int sort_key) {
+    return sort_key > TitleList::Title && sort_key < kTitleColumns ? sort_key : int(TitleList::SortTitle);
+}
+
+} // namespace
+
+void BeginList(Browser &browser) {
+    browser.listSeries.Unsort();
+    browser.listSeries.SetStriping(TitleList::Striping::None);
+    browser.listSeries.Clear();
+    browser.current_row = -1;
+}
+
+void ShowFirstTitle(Browser &browser) {
+    if (browser.listSeries.rowCount() > 0) {
+        UpdateSeriesList(browser, 0);
+    } else {
+        Q_EMIT browser.CurrentRowChanged();
+    }
+}
+
+void ShowSortColumn(TitleList &list, int sort_column) {
+    for (const int column : kOptionalColumns) {
+        list.SetWidth(column, column == sort_column ? kSortColumnWidth : 0);
+    }
+}
+
+void SortList(Browser &browser, int sort_key, TitleList::Order order) {
+    TitleList &list = browser.listSeries;
+    const QString current = browser.current_row >= 0 && browser.current_row < list.rowCount()
+                                ? list.At(browser.current_row).key
+                                : QString();
+    const int column = SortColumnOf(sort_key);
+    ShowSortColumn(list, column);
+    list.SortBy(column, order);
+    const int row = current.isEmpty() ? browser.current_row : list.RowOfKey(current);
+    if (row != browser.current_row) {
+        browser.current_row = row;
+        Q_EMIT browser.CurrentRowChanged();
+    }
+}
+
+int StoredSortColumn(const Browser &browser) {
+    return SortColumnOf(browser.session.view.ProfilesSortKey);
+}
+
+TitleList::Order StoredSortOrder(const Browser &browser) {
+    return browser.session.view.ProfilesSortOrder == int(TitleList::Order::Descending) ? TitleList::Order::Descending
+                                                                                       : TitleList::Order::Ascending;
+}
+
+} // namespace ostrand

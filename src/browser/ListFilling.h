@@ -1,0 +1,25 @@
+// The steps that all ways of filling listSeries with titles share.
+#pragma once
+
+#include "browser/TitleList.h"
+
+namespace ostrand {
+
+class Browser;
+
+/// Empties the list and turns its automatic sort off.
+void BeginList(Browser &browser);
+/// Makes the first title current; an empty list has no current row.
+void ShowFirstTitle(Browser &browser);
+/// Shows the column that sorts, where it is none that always shows or never, and hides the others of its kind.
+void ShowSortColumn(TitleList &list, int sort_column);
+/// Sorts by one of the columns that sort; any other one stands for the sort key. The current title stays current.
+void SortList(Browser &browser, int sort_key, TitleList::Order order);
+/// The column and order that are kept for the next run.
+int StoredSortColumn(const Browser &browser);
+TitleList::Order StoredSortOrder(const Browser &browser);
+
+/// The list of the filter that is chosen in comboFilter.
+void ShowSavedFilter(Browser &browser);
+
+} // namespace ostrand

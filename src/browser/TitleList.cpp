@@ -1,0 +1,168 @@
+#include "browser/TitleList.h"
+
+#include "sql/Collation.h"
+
+#include <QSet>
+
+#include <numeric>
+
+namespace ostrand {
+
+int TitleList::rowCount(const QModelIndex &parent) const {
+    return parent.isValid() ? 0 : int(rows_.size());
+}
+
+int TitleList::columnCount(const QModelIndex &parent) const {
+    return parent.isValid() ? 0 : kTitleColumns;
+}
+
+QVariant TitleList::data(const QModelIndex &index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid)) {
+        return {};
+    }
+    const TitleRow &row = At(index.row());
+    switch (role) {
+    case Qt::DisplayRole:
+        return row.texts[size_t(index.column())];
+    case Qt::ToolTipRole:
+        return row.tool_tip;
+    case KeyRole:
+        return row.key;
+    case TagRole:
+        return row.tag;
+    case ColourRole:
+        return int(ColourOf(index.row()));
+    case HeaderRole:
+        return row.header;
+    default:
+        return {};
+    }
+}
+
+QVariant TitleList::headerData(int section, Qt::Orientation orientation, int role) const {
+    return orientation == Qt::Horizontal && role == Qt::DisplayRole ? QVariant(headers_.value(section)) : QVariant();
+}
+
+TitleList::Colour TitleList::ColourOf(int row) const {
+    const bool header = At(row).header;
+    const Colour striped = row % 2 == 0 ? Colour::Text : Colour::Alternate;
+    switch (striping_) {
+    case Striping::None:
+        return header ? Colour::Header : Colour::Text;
+    case Striping::Plain:
+        return Colour::Text;
+    case Striping::Rows:
+        return striped;
+    case Striping::KeepBold:
+        return header ? Colour::Header : striped;
+    }
+    return Colour::Text;
+}
+
+void TitleList::SetHeaders(const QStringList &headers) {
+    headers_ = headers;
+    Q_EMIT headerDataChanged(Qt::Horizontal, 0, kTitleColumns - 1);
+}
+
+int TitleList::Assign(std::vector<TitleRow> rows) {
+    QSet<QString> keys;
+    keys.reserve(qsizetype(rows.size()));
+    const size_t clashes = std::erase_if(rows, [&keys](const TitleRow &row) {
+        const qsizetype before = keys.size();
+        keys.insert(row.key.toCaseFolded());
+        return keys.size() == before;
+    });
+    beginResetModel();
+    rows_ = std::move(rows);
+    if (sorted_) {
+        SortRows();
+    }
+    endResetModel();
+    return int(clashes);
+}
+
+void TitleList::Clear() {
+    Assign({});
+}
+
+void TitleList::SortBy(int column, Order order) {
+    sorted_ = true;
+    sort_column_ = std::clamp(column, 0, kTitleColumns - 1);
+    sort_order_ = order;
+    Q_EMIT layoutAboutToBeChanged({}, VerticalSortHint);
+    const std::vector<int> new_places = SortRows();
+    const QModelIndexList before = persistentIndexList();
+    QModelIndexList after;
+    after.reserve(before.size());
+    for (const QModelIndex &index : before) {
+        after.append(createIndex(new_places[size_t(index.row())], index.column()));
+    }
+    changePersistentIndexList(before, after);
+    Q_EMIT layoutChanged({}, VerticalSortHint);
+}
+
+void TitleList::Unsort() {
+    sorted_ = false;
+}
+
+std::vector<int> TitleList::SortRows() {
+    struct Entry {
+        QByteArray key;
+        int row;
+    };
+    std::vector<Entry> entries;
+    entries.reserve(rows_.size());
+    for (const TitleRow &row : rows_) {
+        entries.push_back({sql::SortKey(row.texts[size_t(sort_column_)]), int(entries.size())});
+    }
+    if (sort_order_ == Order::Ascending) {
+        std::stable_sort(entries.begin(), entries.end(), [](const Entry &a, const Entry &b) { return a.key < b.key; });
+    } else {
+        std::stable_sort(entries.begin(), entries.end(), [](const Entry &a, const Entry &b) { return b.key < a.key; });
+    }
+    std::vector<TitleRow> sorted;
+    sorted.reserve(rows_.size());
+    std::vector<int> new_places(rows_.size());
+    for (const Entry &entry : entries) {
+        new_places[size_t(entry.row)] = int(sorted.size());
+        sorted.push_back(std::move(rows_[size_t(entry.row)]));
+    }
+    rows_ = std::move(sorted);
+    return new_places;
+}
+
+void TitleList::SetStriping(Striping striping) {
+    striping_ = striping;
+    if (!rows_.empty()) {
+        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, kTitleColumns - 1), {ColourRole});
+    }
+}
+
+void TitleList::SetWidth(int column, double fraction) {
+    if (widths_[size_t(column)] != fraction) {
+        widths_[size_t(column)] = fraction;
+        Q_EMIT WidthsChanged();
+    }
+}
+
+int TitleList::RowOfKey(const QString &key) const {
+    const auto row = std::find_if(rows_.begin(), rows_.end(), [&key](const TitleRow &candidate) {
+        return candidate.key.size() == key.size() && candidate.key.compare(key, Qt::CaseInsensitive) == 0;
+    });
+    return row == rows_.end() ? -1 : int(row - rows_.begin());
+}
+
+int TitleList::RowOfTitle(const QString &id) const {
+    const auto row = std::find_if(rows_.begin(), rows_.end(), [&id](const TitleRow &candidate) {
+        return !candidate.header &&
+               QStringView(candidate.key).left(candidate.key.indexOf(u'|')).compare(id, Qt::CaseInsensitive) == 0;
+    });
+    return row == rows_.end() ? -1 : int(row - rows_.begin());
+}
+
+QString ProfileOfKey(const QString &key) {
+    const qsizetype bar = key.indexOf(u'|');
+    return bar < 0 ? key : key.left(bar);
+}
+
+} // namespace ostrand

@@ -1,0 +1,42 @@
+#include "browser/ui/TitleDelegate.h"
+
+#include "browser/TitleList.h"
+
+#include <QPainter>
+
+namespace ostrand {
+
+namespace {
+
+constexpr QColor kAlternate(128, 128, 255);
+constexpr QColor kHeader(255, 0, 0);
+
+} // namespace
+
+void TitleDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const {
+    QStyledItemDelegate::initStyleOption(option, index);
+    option->font.setBold(index.data(TitleList::HeaderRole).toBool());
+    switch (index.data(TitleList::ColourRole).value<TitleList::Colour>()) {
+    case TitleList::Colour::Alternate:
+        option->palette.setColor(QPalette::Text, kAlternate);
+        break;
+    case TitleList::Colour::Header:
+        option->palette.setColor(QPalette::Text, kHeader);
+        break;
+    case TitleList::Colour::Text:
+        break;
+    }
+}
+
+void TitleDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const {
+    QStyledItemDelegate::paint(painter, option, index);
+    if (grid_lines_) {
+        painter->save();
+        painter->setPen(option.palette.color(QPalette::Midlight));
+        painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
+        painter->drawLine(option.rect.topRight(), option.rect.bottomRight());
+        painter->restore();
+    }
+}
+
+} // namespace ostrand
