@@ -77,7 +77,11 @@ void MenuBuilder::Activate(const QString &name) {
 
 void MenuBuilder::ShowStates() {
     for (const auto &[name, action] : actions_.asKeyValueRange()) {
-        action->setEnabled(commands_.IsEnabled(name));
+        if (QMenu *menu = menus_.value(name)) {
+            menu->setEnabled(commands_.IsEnabled(name)); // its action follows
+        } else {
+            action->setEnabled(commands_.IsEnabled(name));
+        }
         action->setVisible(commands_.IsVisible(name));
         if (action->isCheckable()) {
             action->setChecked(commands_.IsChecked(name));
