@@ -28,6 +28,8 @@ public:
     /// The seasons of the selected series, and the selected one; -1 for none.
     QStringList listSeasons;
     int current_season = -1;
+    /// Row of listEpisodes that is selected; -1 for none.
+    int current_episode = -1;
     /// Row of listSeries that is selected; -1 for none.
     int current_row = -1;
 
@@ -61,12 +63,16 @@ public:
         std::function<QString()> selected_feature;
         std::function<QString()> selected_audio;
         std::function<QString()> selected_studio;
+        /// Shows frmFilterTags; the entry of comboFilter does nothing without it.
+        std::function<void()> ShowFilterTags;
     };
     Hooks hooks;
 
 Q_SIGNALS:
     /// `current_row` is to be selected and scrolled to.
     void CurrentRowChanged();
+    /// `current_episode` is to be selected and scrolled to.
+    void CurrentEpisodeChanged();
     /// The current title is another one, or none: the panels fill themselves anew.
     void TitleChanged();
     /// ShowFrontCover or the cover stem changed.

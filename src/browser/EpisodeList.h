@@ -26,11 +26,15 @@ public:
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    /// Sorts the present rows as text; rows assigned later stand in their own order again.
+    void sort(int column, Qt::SortOrder order) override;
 
     void SetHeaders(const QStringList &headers);
     void Assign(std::vector<EpisodeRow> rows);
     void Clear() { Assign({}); }
     const std::vector<EpisodeRow> &Rows() const { return rows_; }
+    /// -1 when there is none.
+    int RowOfKey(const QString &key) const;
 
 private:
     std::vector<EpisodeRow> rows_;

@@ -12,6 +12,10 @@ class Recordset;
 
 /// Switches the view and fills its list.
 void ChangeMode(Browser &browser, bool movies);
+/// Fills listSeries anew for the view and the tab. A fault of the statement is traced and leaves an empty list.
+void ReloadList(Browser &browser);
+/// The caption of the button that changes the view: the other view's name, translated.
+QString ChangeModeCaption(Browser &browser);
 /// The menu entries: they remember and restore the tab.
 void ShowMovies(Browser &browser);
 void ShowTVShows(Browser &browser);

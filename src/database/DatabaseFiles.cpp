@@ -148,7 +148,6 @@ void Call(const Hook &hook, Arguments... arguments) {
 
 void HandOver(Session &session, const QFileInfo &file) {
     LoadDatabaseSettings(session);
-    Call(session.window.LoadDatabaseSettings);
     Call(session.window.MenuStrings);
     Call(session.window.EnableDBMenues, true);
     session.DatabaseFile = QDir::toNativeSeparators(file.absoluteFilePath());

@@ -88,6 +88,9 @@ void LoadDatabaseSettings(Session &session) {
     LoadImdbUrl(session);
     LoadStep(session, SettingStep::Rest);
     LoadFolders(session);
+    if (session.window.LoadDatabaseSettings) {
+        session.window.LoadDatabaseSettings();
+    }
     EnsureCoverFolder(session);
     Trace(session, QStringLiteral("LoadDatabaseSettings()"), kTraceExit);
 }
@@ -95,6 +98,9 @@ void LoadDatabaseSettings(Session &session) {
 void SaveDatabaseSettings(Session &session) {
     if (!session.Database || session.DatabaseTooNew) {
         return;
+    }
+    if (session.window.SaveDatabaseSettings) {
+        session.window.SaveDatabaseSettings();
     }
     std::vector<const DbSetting *> saved;
     for (const DbSetting &setting : DbSettings()) {

@@ -7,10 +7,11 @@ namespace ostrand {
 
 struct Session;
 
-/// Reads all settings of the open database into the session and its view state, and makes the image folders. What
-/// windows do with them comes behind it (`Session::window.LoadDatabaseSettings`).
+/// Reads all settings of the open database into the session and its view state, lets the window take them over
+/// (`Session::window.LoadDatabaseSettings`), and makes the image folders.
 void LoadDatabaseSettings(Session &session);
-/// Writes what follows the windows. Does nothing while no database is open, or one of a newer program.
+/// Writes what follows the windows, after they told it (`Session::window.SaveDatabaseSettings`). Does nothing while no
+/// database is open, or one of a newer program.
 void SaveDatabaseSettings(Session &session);
 
 /// The language of the program for a system language such as "de-AT".

@@ -15,6 +15,7 @@ using enum SettingStep;
 // Host names of this build; the whole URLs are settings.
 constexpr const char16_t *kDataServer = u"http://data.ostrand.example";
 constexpr const char16_t *kImdbServer = u"http://www.imdb.com";
+constexpr const char16_t *kCoverHost = u"http://covers.ostrand.example";
 
 template <typename T>
 T &Member(Session &session, T ViewState::*member) {
@@ -84,6 +85,16 @@ constexpr DbSetting Kept(const char16_t *key, const char16_t *preset, SettingKin
             }};
 }
 
+/// What is kept is the present state, and the wish begins with it.
+constexpr DbSetting BoxsetSetting() {
+    DbSetting kept = Kept<&ViewState::BoxsetView>(u"BoxsetView", u"True", TrueFalse, Rest, 10);
+    kept.load = [](Session &session, const DbSetting &setting) {
+        Take(session, setting, session.view.BoxsetView);
+        session.view.mBoxsetView = session.view.BoxsetView;
+    };
+    return kept;
+}
+
 constexpr DbSetting Bare(const char16_t *key, const char16_t *preset, SettingKind kind = Text,
                          const char16_t *comment = u"") {
     return {key, preset, kind, PointOfUse, 0, comment};
@@ -125,7 +136,7 @@ constexpr DbSetting kDbSettings[] = {
     Kept<&V::AutoLock>(u"AutoLock", u"False", TrueFalse, Rest),
     Kept<&V::mReverseCredit>(u"ReverseCreditName", u"False", TrueFalse, Rest, 15),
     Kept<&V::HighlightHeadshots>(u"HighlightHeadshots", u"True", TrueFalse, Rest),
-    Kept<&V::mBoxsetView>(u"BoxsetView", u"True", TrueFalse, Rest, 10),
+    BoxsetSetting(),
     Kept<&V::mcolorlist>(u"ColorCollectionList", u"True", TrueFalse, Rest, 11),
     Kept<&V::mUseCustomTitle>(u"UseCustomTitle", u"False", TrueFalse, Rest, 12),
     Kept<&V::mUseOriginalTitle>(u"UseOriginalTitle", u"False", TrueFalse, Rest, 13),
@@ -212,6 +223,11 @@ constexpr IniSetting kIniSettings[] = {
     {u"Settings", u"ImportAllAdditionalInfos", u""},
 };
 
+constexpr const char16_t *kWindowSections[] = {
+    u"ProfileInfo",  u"Awards",      u"SQLQueries",     u"AssignEpisodes", u"CoverWindow",   u"FilterTags",
+    u"EditMultiUse", u"CrewMapping", u"ListViewWindow", u"EditSkin",       u"EncryptionPad",
+};
+
 } // namespace
 
 std::span<const DbSetting> DbSettings() {
@@ -252,6 +268,19 @@ QString ReadIniSetting(const Session &session, const char16_t *section, const ch
 
 void WriteIniSetting(const Session &session, const char16_t *section, const char16_t *key, const QString &value) {
     WriteINIString(session, QString::fromUtf16(section), QString::fromUtf16(key), value);
+}
+
+QString CoverHost() {
+    return QString::fromUtf16(kCoverHost);
+}
+
+std::span<const char16_t *const> WindowSections() {
+    return kWindowSections;
+}
+
+bool IsWindowSection(QStringView section) {
+    return std::any_of(std::begin(kWindowSections), std::end(kWindowSections),
+                       [&](const char16_t *known) { return section == known; });
 }
 
 QList<int> ParseColumns(QStringView text, const QList<int> &preset) {

@@ -1,0 +1,104 @@
+#include "browser/Attach.h"
+
+#include "browser/Browser.h"
+#include "browser/CollectionTabs.h"
+#include "browser/Navigation.h"
+#include "browser/ProfileInfos.h"
+#include "browser/Views.h"
+#include "database/TitlesDue.h"
+#include "shell/Session.h"
+#include "shell/Settings.h"
+
+namespace ostrand {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr double kTitleWidth = 0.78;
+
+QStringList Translated(Session &session, std::initializer_list<const char16_t *> texts) {
+    QStringList translated;
+    for (const char16_t *text : texts) {
+        translated += Translate(session, QString::fromUtf16(text));
+    }
+    return translated;
+}
+
+void BuildColumns(Browser &browser) {
+    Session &session = browser.session;
+    browser.listSeries.Clear();
+    browser.listSeries.SetHeaders(Translated(session, {u"Title", u"#", u"SortTitle", u"Year", u"P.Date", u"Released"}));
+    for (int column = 1; column < kTitleColumns; ++column) {
+        browser.listSeries.SetWidth(column, 0);
+    }
+    browser.listEpisodes.SetHeaders(Translated(session, {u"#", u"Episode Title"}));
+}
+
+void LoadWindowSettings(Browser &browser) {
+    ViewState &view = browser.session.view;
+    Q_EMIT browser.SettingsChanged();
+    browser.current_row = -1;
+    BuildColumns(browser);
+    browser.tabColList_selected = 1; // captions of another database say nothing here
+    LoadTabs(browser);
+    view.LastTab = ClampTab(view.LastTab, int(browser.tabMain.size()));
+    browser.tabMain_selected = view.LastTab;
+    Q_EMIT browser.MainTabChanged();
+    if (!view.mTVShows) {
+        ReloadColTypeTabs(browser);
+        view.TabColList = ClampTab(view.TabColList, int(browser.tabColList.size()));
+        SelectTab(browser, view.TabColList);
+        ApplyFilterLayout(browser);
+    }
+    ChangeMode(browser, !view.mTVShows);
+    UpdateFilters(browser);
+}
+
+/// Lets the settings that are about to be written tell what the browser shows.
+void FollowBrowser(Browser &browser) {
+    ViewState &view = browser.session.view;
+    if (!view.mTVShows) {
+        view.TabColList = browser.tabColList_selected;
+    }
+    const int row = browser.current_row;
+    const bool selected = row >= 0 && row < browser.listSeries.rowCount();
+    view.LastSelectedItem = selected ? browser.listSeries.At(row).key : QString();
+}
+
+void RestoreSelection(Browser &browser) {
+    GetLastSelectedItem(browser);
+    // The cover folder may have been settled after the first row was shown.
+    const int row = browser.current_row;
+    if (!browser.session.view.mTVShows && row >= 0 && row < browser.listSeries.rowCount()) {
+        ShowCover(browser, browser.listSeries.At(row).key);
+    }
+    browser.listSeries.SetWidth(TitleList::Title, kTitleWidth);
+}
+
+/// After an import: the tab that holds every title, and on it the one that was shown.
+void ReloadTitles(Browser &browser) {
+    Session &session = browser.session;
+    const int row = browser.current_row;
+    const bool selected = row >= 0 && row < browser.listSeries.rowCount();
+    const QString key = selected ? ProfileOfKey(browser.listSeries.At(row).key) : QString();
+    SelectTab(browser, 1);
+    ChangeMode(browser, !session.view.mTVShows);
+    const int restored = key.isEmpty() ? -1 : browser.listSeries.RowOfTitle(key);
+    if (restored > 0) { // the first row is shown already
+        UpdateSeriesList(browser, restored);
+    }
+}
+
+} // namespace
+
+void AttachBrowser(Browser &browser) {
+    Session &session = browser.session;
+    session.window.LoadDatabaseSettings = [&browser] { LoadWindowSettings(browser); };
+    session.window.SaveDatabaseSettings = [&browser] { FollowBrowser(browser); };
+    session.window.GetLastSelectedItem = [&browser] { RestoreSelection(browser); };
+    session.window.ReloadTitles = [&browser] { ReloadTitles(browser); };
+    session.window.ShowTitlesDue = [&session] { ShowTitlesDue(session); };
+}
+
+} // namespace ostrand

@@ -1,0 +1,11 @@
+// The browser as what the window does when a database opens, closes or changes.
+#pragma once
+
+namespace ostrand {
+
+class Browser;
+
+/// Sets the hooks of `Session::window` that the browser answers. The browser must live as long as they are called.
+void AttachBrowser(Browser &browser);
+
+} // namespace ostrand

@@ -1,0 +1,221 @@
+#include "browser/Views.h"
+
+#include "browser/Browser.h"
+#include "browser/CollectionTabs.h"
+#include "browser/ProfileInfos.h"
+#include "browser/TitleQueries.h"
+#include "browser/Titles.h"
+#include "database/DatabaseFunctions.h"
+#include "shell/Session.h"
+
+namespace ostrand {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr auto kTabColList = "TabColList"_L1;
+
+/// No title and no series is the current one, and the lists that follow them are empty.
+void ForgetTitle(Browser &browser) {
+    browser.session.CurrentProfileID.clear();
+    browser.session.CurrentIsEpisode = false;
+    browser.current_row = -1;
+    browser.current_episode = -1;
+    browser.current_season = -1;
+    browser.listSeries.Clear();
+    browser.listEpisodes.Clear();
+    browser.listSeasons.clear();
+    Q_EMIT browser.SeasonsChanged();
+    Q_EMIT browser.CurrentRowChanged();
+}
+
+void ShowMainTab(Browser &browser, int index) {
+    browser.tabMain_selected = index;
+    EnableTab(browser, index);
+    Q_EMIT browser.MainTabChanged();
+}
+
+/// ChangeMode, with the tab of tabColList that movie view shows; 0 for the one that ReloadColTypeTabs leaves selected.
+void EnterView(Browser &browser, bool movies, int tab) {
+    Session &session = browser.session;
+    ViewState &view = session.view;
+    view.mTVShows = !movies;
+    browser.commands.FollowView(movies);
+    Q_EMIT browser.ModeChanged();
+    ForgetTitle(browser);
+    ClearAllProfileInfos(browser);
+    browser.history.Clear();
+    Q_EMIT browser.HistoryChanged();
+    if (movies && view.LastTab != 1) {
+        ShowMainTab(browser, view.LastTab);
+    }
+    ReloadColTypeTabs(browser);
+    if (movies) {
+        SelectTab(browser, tab);
+    } else {
+        if (view.LastTab != 1) {
+            ShowMainTab(browser, 1);
+        }
+        GetProfileInfos(browser, {}, false, false);
+    }
+    ReloadList(browser);
+}
+
+void SetEpisode(Browser &browser, int row) {
+    browser.current_episode = row;
+    Q_EMIT browser.CurrentEpisodeChanged();
+}
+
+/// "3+4" stands as the third episode.
+QString EpisodeNumber(const QString &number) {
+    return number.section(u'+', 0, 0).trimmed().rightJustified(3);
+}
+
+} // namespace
+
+void ChangeMode(Browser &browser, bool movies) {
+    const QString call = u"ChangeMode("_s + (movies ? u"True"_s : u"False"_s) + u')';
+    Trace(browser.session, call, kTraceEntry);
+    EnterView(browser, movies, 0);
+    Trace(browser.session, call, kTraceExit);
+}
+
+void ReloadList(Browser &browser) {
+    Session &session = browser.session;
+    if (!session.Database) {
+        return;
+    }
+    try {
+        if (session.view.mTVShows) {
+            UpdateSeriesNames(browser);
+        } else {
+            GetMovieNames(browser);
+        }
+    } catch (const sql::SqlError &error) {
+        // The name of a collection type stands in the statement as it is, and some break it.
+        Trace(session, u"ReloadList: "_s + error.Text(), kTraceError);
+        ForgetTitle(browser);
+        ClearAllProfileInfos(browser);
+        ShowFilterCount(browser, 0);
+    }
+}
+
+QString ChangeModeCaption(Browser &browser) {
+    return Translate(browser.session, browser.session.view.mTVShows ? u"Movies"_s : u"TV Shows"_s);
+}
+
+void ShowMovies(Browser &browser) {
+    bool ok = false;
+    const int tab = ReadDbInfo(browser.session, kTabColList, u"1"_s).toInt(&ok);
+    EnterView(browser, true, ok ? tab : 1);
+}
+
+void ShowTVShows(Browser &browser) {
+    Session &session = browser.session;
+    if (!session.view.mTVShows) {
+        session.view.TabColList = browser.tabColList_selected;
+        WriteDbInfo(session, kTabColList, QString::number(browser.tabColList_selected));
+    }
+    ChangeMode(browser, false);
+}
+
+void UpdateSeriesNames(Browser &browser) {
+    Session &session = browser.session;
+    const ViewState &view = session.view;
+    Trace(session, u"UpdateSeriesNames()"_s, kTraceEntry);
+    std::vector<TitleRow> series;
+    sql::Recordset rows = session.Database->OpenRecordset(
+        u"SELECT * FROM TVSeries ORDER BY "_s + (view.mUseOriginalTitle ? u"OriginalSortTitle"_s : u"SortTitle"_s));
+    for (; !rows.Eof(); rows.MoveNext()) {
+        TitleRow row;
+        row.key = rows.Text(u"SeriesID");
+        const QString original = rows.Text(u"OriginalTitle");
+        row.tag = original.isEmpty() ? rows.Text(u"Title") : original;
+        row.texts[TitleList::Title] = GetTitle(view, rows, true, false);
+        row.texts[TitleList::SortTitle] = GetSortTitle(view, rows, true);
+        row.tool_tip = row.texts[TitleList::Title];
+        series.push_back(std::move(row));
+    }
+    browser.current_row = -1;
+    browser.listSeries.Unsort();
+    browser.listSeries.Assign(std::move(series));
+    ApplyListColors(browser, false);
+    ShowFilterCount(browser, browser.listSeries.rowCount());
+    if (browser.listSeries.rowCount() > 0) {
+        UpdateSeriesList(browser, 0);
+    } else {
+        session.CurrentSeriesID.clear();
+        UpdateSeasons(browser, {});
+        Q_EMIT browser.CurrentRowChanged();
+    }
+    Trace(session, u"UpdateSeriesNames()"_s, kTraceExit);
+}
+
+void UpdateSeasons(Browser &browser, const QString &series_id) {
+    Session &session = browser.session;
+    Trace(session, u"UpdateSeasons("_s + series_id + u')', kTraceEntry);
+    browser.listEpisodes.Clear();
+    browser.listSeasons.clear();
+    SetEpisode(browser, -1);
+    sql::Recordset rows = session.Database->OpenRecordset(u"SELECT DISTINCT Season FROM Episodes WHERE SeriesID = '"_s +
+                                                          EscapeSql(series_id) + u'\'');
+    for (; !rows.Eof(); rows.MoveNext()) {
+        browser.listSeasons += rows.Text(0);
+    }
+    browser.current_season = browser.listSeasons.isEmpty() ? -1 : 0;
+    Q_EMIT browser.SeasonsChanged();
+    if (browser.current_season == 0) {
+        UpdateEpisodes(browser, series_id, browser.listSeasons.front());
+    } else if (session.view.mTVShows) {
+        GetProfileInfos(browser, {}, false, false);
+    }
+}
+
+void SelectSeason(Browser &browser, int index) {
+    if (index < 0 || index >= browser.listSeasons.size()) {
+        return;
+    }
+    browser.current_season = index;
+    Q_EMIT browser.SeasonsChanged();
+    UpdateEpisodes(browser, browser.session.CurrentSeriesID, browser.listSeasons[index]);
+}
+
+void UpdateEpisodes(Browser &browser, const QString &series_id, const QString &season) {
+    Session &session = browser.session;
+    sql::Recordset rows =
+        session.Database->OpenRecordset(u"SELECT DISTINCT * FROM Episodes WHERE SeriesID = '"_s + EscapeSql(series_id) +
+                                        u"' AND Season = '"_s + EscapeSql(season) + u"' ORDER BY EpisodeNo"_s);
+    UpdateEpisodeList(browser, rows);
+    if (!session.view.mTVShows) {
+        return;
+    }
+    const QString first = browser.listEpisodes.Rows().empty() ? QString() : browser.listEpisodes.Rows().front().key;
+    if (first.isEmpty()) {
+        GetProfileInfos(browser, {}, false, false);
+    } else {
+        LoadEpisode(browser, first);
+    }
+}
+
+void UpdateEpisodeList(Browser &browser, sql::Recordset &rows) {
+    std::vector<EpisodeRow> episodes;
+    for (; !rows.Eof(); rows.MoveNext()) {
+        const QString original = rows.Text(u"EpisodeOriginalTitle");
+        episodes.push_back({.key = rows.Text(u"EpisodeID"),
+                            .number = EpisodeNumber(rows.Text(u"EpisodeNo")),
+                            .title = GetEpisodeTitle(browser.session.view, rows),
+                            .tag = original.isEmpty() ? rows.Text(u"EpisodeTitle") : original,
+                            .season = rows.Text(u"Season")});
+    }
+    browser.listEpisodes.Assign(std::move(episodes));
+    SetEpisode(browser, -1);
+}
+
+void LoadEpisode(Browser &browser, const QString &episode_id) {
+    Trace(browser.session, u"LoadEpisode("_s + episode_id + u')', kTraceEntry);
+    SetEpisode(browser, browser.listEpisodes.RowOfKey(episode_id));
+    GetProfileInfos(browser, episode_id, true, false);
+}
+
+} // namespace ostrand
