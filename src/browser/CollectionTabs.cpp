@@ -133,6 +133,13 @@ void ApplyFilterLayout(Browser &browser) {
     }
 }
 
+void ToggleFilter(Browser &browser) {
+    bool &shown = browser.session.view.mShowFilter;
+    shown = !shown;
+    ApplyFilterLayout(browser);
+    browser.commands.Refresh();
+}
+
 bool SelectTab(Browser &browser, int index) {
     if (index < 1 || index > browser.tabColList.size()) {
         return false;

@@ -17,6 +17,8 @@ void EnableTab(Browser &browser, int index);
 void UpdateFilters(Browser &browser);
 /// Shows or hides comboFilter, as mShowFilter and the view say.
 void ApplyFilterLayout(Browser &browser);
+/// mShowFilter.
+void ToggleFilter(Browser &browser);
 /// True for the types that are there without a profile, whatever their case.
 bool IsDefaultColType(const QString &type);
 /// Selects a tab of tabColList without filling the list; false when there is none of that number.

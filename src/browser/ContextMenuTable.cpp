@@ -60,10 +60,10 @@ constexpr MenuEntry kEntries[] = {
     Separator(u"mSeasonTools"),
     InTV(Entry(u"mCopySeasonCast", u"mSeasonTools", u"Copy &Cast",
                u"Copies the cast of all episodes; with Ctrl held as one flat list")),
-    InTV(Entry(u"mCopySeasonCastRegulars", u"mSeasonTools", u"Copy C&ast, Regulars First")),
+    InTV(Entry(u"mCopySeasonCastRegulars", u"mSeasonTools", u"Copy Cast, Regulars &First")),
     InTV(Entry(u"mCopySeasonCrew", u"mSeasonTools", u"Copy Cre&w",
                u"Copies the crew of all episodes; with Ctrl held as one flat list")),
-    InTV(Entry(u"mCopySeasonCrewRegulars", u"mSeasonTools", u"Copy Cr&ew, Regulars First")),
+    InTV(Entry(u"mCopySeasonCrewRegulars", u"mSeasonTools", u"Copy Crew, Regulars Firs&t")),
 
     // The rows of listEpisodes.
     ContextMenu(u"mEpisodeTools"),
@@ -100,7 +100,7 @@ constexpr MenuEntry kEntries[] = {
     SameAs(u"mNewProfile", InMovies(Entry(u"mAddProfile", u"mColTabTools", u"&New Profile..."))),
     Separator(u"mColTabTools"),
     InMovies(Entry(u"mAddColType", u"mColTabTools", u"&Add Collection Type...")),
-    InMovies(Entry(u"mRenameCollectionType", u"mColTabTools", u"Re&name Collection Type...")),
+    InMovies(Entry(u"mRenameCollectionType", u"mColTabTools", u"Rena&me Collection Type...")),
     InMovies(Entry(u"mRemoveColType", u"mColTabTools", u"&Remove Collection Type")),
 
     // The fields of the panels.

@@ -223,6 +223,11 @@ constexpr IniSetting kIniSettings[] = {
     {u"Settings", u"ImportAllAdditionalInfos", u""},
 };
 
+constexpr const char16_t *kWindowSections[] = {
+    u"ProfileInfo",  u"Awards",      u"SQLQueries",     u"AssignEpisodes", u"CoverWindow",   u"FilterTags",
+    u"EditMultiUse", u"CrewMapping", u"ListViewWindow", u"EditSkin",       u"EncryptionPad",
+};
+
 } // namespace
 
 std::span<const DbSetting> DbSettings() {
@@ -267,6 +272,15 @@ void WriteIniSetting(const Session &session, const char16_t *section, const char
 
 QString CoverHost() {
     return QString::fromUtf16(kCoverHost);
+}
+
+std::span<const char16_t *const> WindowSections() {
+    return kWindowSections;
+}
+
+bool IsWindowSection(QStringView section) {
+    return std::any_of(std::begin(kWindowSections), std::end(kWindowSections),
+                       [&](const char16_t *known) { return section == known; });
 }
 
 QList<int> ParseColumns(QStringView text, const QList<int> &preset) {

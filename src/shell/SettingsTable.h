@@ -65,6 +65,10 @@ void WriteIniSetting(const Session &session, const char16_t *section, const char
 
 /// The host of the collection program's covers, for links to them.
 QString CoverHost();
+/// The sections of Settings.ini that hold Height, Width, Top and Left of one window each, in twips. Their default is
+/// the design of the window.
+std::span<const char16_t *const> WindowSections();
+bool IsWindowSection(QStringView section);
 
 /// The positions in a text of that form; `preset` where it is not each number from 1 to the count of `preset` once.
 QList<int> ParseColumns(QStringView text, const QList<int> &preset);

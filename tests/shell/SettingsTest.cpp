@@ -203,6 +203,17 @@ TEST_F(SettingsTest, TheInstallationHasEveryKeyWithItsDefault) {
     EXPECT_EQ(IniSettings().size(), std::size(cases));
 }
 
+TEST(SettingsTable, WindowsHaveTheirSections) {
+    QStringList sections;
+    for (const char16_t *section : WindowSections()) {
+        sections += QString::fromUtf16(section);
+        EXPECT_TRUE(IsWindowSection(sections.last()));
+    }
+    EXPECT_EQ(sections.join(u' '), u"ProfileInfo Awards SQLQueries AssignEpisodes CoverWindow FilterTags EditMultiUse "
+                                   "CrewMapping ListViewWindow EditSkin EncryptionPad"_s);
+    EXPECT_FALSE(IsWindowSection(u"Window"_s));
+}
+
 TEST(SettingsTable, ValuesAreOfTheirKind) {
     for (const DbSetting &setting : DbSettings()) {
         const QString preset = setting.Preset();

@@ -234,6 +234,82 @@ TEST_F(StartUpTest, TheTitlesDueShowTwiceAtANormalStart) {
     EXPECT_EQ(shown, 2);
 }
 
+/// Notes the steps that the window is called for, in their order.
+class WindowStepsTest : public StartUpTest {
+protected:
+    void SetUp() override {
+        const auto note = [this](const QString &step) { return [this, step] { steps += step; }; };
+        session.window.ShowAuditMenus = note(u"audit menus"_s);
+        session.window.ShowSplash = note(u"splash"_s);
+        session.window.EnableDBMenues = [this](bool on) { steps += on ? u"menus on"_s : u"menus off"_s; };
+        session.window.ShowBlankPage = note(u"blank page"_s);
+        session.window.ShowBaseCaption = note(u"caption"_s);
+        session.window.Layout = [this](bool reset) { steps += reset ? u"first layout"_s : u"layout"_s; };
+        session.window.ApplyGridLines = note(u"grid lines"_s);
+        session.window.TranslatePanels = note(u"panels"_s);
+        session.window.ChooseDatabase = note(u"choose"_s);
+        session.window.UnloadSplash = note(u"no splash"_s);
+        session.window.LoadDatabaseSettings = note(u"settings"_s);
+        session.window.MenuStrings = note(u"captions"_s);
+        session.window.GetLastSelectedItem = note(u"last title"_s);
+        session.window.ShowTitlesDue = note(u"titles due"_s);
+        session.window.SaveDatabaseSettings = note(u"keep settings"_s);
+        session.window.WriteGeometry = [this] { steps += session.Database ? u"geometry"_s : u"too late"_s; };
+    }
+
+    QStringList steps;
+};
+
+TEST_F(WindowStepsTest, ANormalStartTakesThemInThisOrder) {
+    const QString path = services.folders.dir / u"a.mdb"_s;
+    CreateCollectionDatabase(session, path);
+    session.Database.reset();
+    EXPECT_TRUE(OpenOrRun(session, PrepareStartUp(session, path)));
+    FinishStartUp(session);
+    EXPECT_EQ(steps.join(u", "_s),
+              u"audit menus, splash, menus off, blank page, caption, layout, grid lines, panels, "
+              "settings, captions, menus on, last title, titles due, no splash, titles due"_s);
+    EXPECT_FALSE(session.StartingUp);
+}
+
+TEST_F(WindowStepsTest, CtrlResetsTheLayoutAndLeavesTheGridLinesAsDesigned) {
+    services.keyboard.ctrl = true;
+    WriteIni("[GridLines]\r\nListCollection=False\r\n");
+    PrepareStartUp(session, {});
+    EXPECT_TRUE(steps.contains(u"first layout"_s));
+    EXPECT_TRUE(session.view.grid_lines.ListCollection);
+}
+
+TEST_F(WindowStepsTest, WithoutADatabaseTheUserChoosesOne) {
+    const QString none = services.folders.dir / u"none.mdb"_s;
+    EXPECT_FALSE(OpenOrRun(session, PrepareStartUp(session, none)));
+    EXPECT_EQ(steps.count(u"choose"_s), 1);
+    EXPECT_TRUE(services.dialogs.messages.empty()) << "a first start has no database, which is no fault";
+}
+
+TEST_F(WindowStepsTest, ADatabaseThatDoesNotOpenLetsTheUserChooseAnother) {
+    services.folders.dir.Write(u"bad.mdb"_s, "no database at all, but long enough to be looked at as one");
+    services.dialogs.ExpectMessage({});
+    session.window.ChooseDatabase = [this] { CreateCollectionDatabase(session, services.folders.dir / u"b.mdb"_s); };
+    EXPECT_TRUE(OpenOrRun(session, PrepareStartUp(session, services.folders.dir / u"bad.mdb"_s)));
+    EXPECT_TRUE(session.Database);
+}
+
+TEST_F(WindowStepsTest, ACommandFileOpensNoDatabaseFirst) {
+    services.folders.dir.Write(u"go.txt"_s, "");
+    EXPECT_TRUE(OpenOrRun(session, PrepareStartUp(session, services.folders.dir / u"go.txt"_s)));
+    EXPECT_FALSE(steps.contains(u"choose"_s));
+    EXPECT_FALSE(session.Database);
+}
+
+TEST_F(WindowStepsTest, TheEndKeepsTheWindowsPlaceBeforeTheDatabaseCloses) {
+    PrepareStartUp(session, {});
+    CreateCollectionDatabase(session, services.folders.dir / u"a.mdb"_s);
+    steps.clear();
+    CloseViewer(session);
+    EXPECT_EQ(steps.join(u", "_s), u"keep settings, geometry"_s);
+}
+
 TEST_F(StartUpTest, ShutdownWritesTheInstallationsSettings) {
     PrepareStartUp(session, u"/x/films.mdb"_s);
     session.view.grid_lines.ListCrew = false;

@@ -5,10 +5,10 @@ namespace ostrand {
 
 inline constexpr int kTwipsPerPixel = 15; ///< at 100 % scaling
 
-inline int ToTwips(int pixels) {
+constexpr int ToTwips(int pixels) {
     return pixels * kTwipsPerPixel;
 }
-inline int FromTwips(int twips) {
+constexpr int FromTwips(int twips) {
     return twips / kTwipsPerPixel;
 }
 

@@ -1,0 +1,83 @@
+#include "browser/ui/CoverPanel.h"
+
+#include "browser/Browser.h"
+#include "browser/ProfileInfos.h"
+#include "browser/Views.h"
+#include "browser/ui/GridDelegate.h"
+#include "browser/ui/PictureView.h"
+#include "shell/Session.h"
+
+#include <QHeaderView>
+#include <QSignalBlocker>
+
+namespace ostrand {
+
+CoverPanel::CoverPanel(Browser &browser, QWidget *parent) :
+    QWidget(parent), browser_(browser), listSeasons_(new QComboBox(this)), picCover_(new PictureView(this)) {
+    setObjectName(QStringLiteral("Frame4_1"));
+    listSeasons_->setObjectName(QStringLiteral("listSeasons"));
+    listSeasons_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    picCover_->setObjectName(QStringLiteral("picCover"));
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(listSeasons_);
+    layout->addWidget(picCover_, 1);
+
+    connect(&browser_, &Browser::SeasonsChanged, this, &CoverPanel::ShowSeasons);
+    connect(&browser_, &Browser::ModeChanged, this, &CoverPanel::ShowSeasons);
+    connect(listSeasons_, &QComboBox::activated, this, [this](int index) { SelectSeason(browser_, index); });
+    connect(&browser_, &Browser::CoverChanged, this, [this] { picCover_->ShowFile(CurrentCoverFile(browser_)); });
+    connect(picCover_, &PictureView::Clicked, this, [this] { FlipCover(browser_); });
+    TranslateNames();
+    ShowSeasons();
+}
+
+void CoverPanel::TranslateNames() {
+    listSeasons_->setAccessibleName(Translate(browser_.session, QStringLiteral("Season")));
+    picCover_->setAccessibleName(Translate(browser_.session, QStringLiteral("Cover")));
+    picCover_->setToolTip(Translate(browser_.session, QStringLiteral("Click to see the other side")));
+}
+
+void CoverPanel::ShowSeasons() {
+    const QSignalBlocker quiet(listSeasons_);
+    listSeasons_->clear();
+    listSeasons_->addItems(browser_.listSeasons);
+    listSeasons_->setCurrentIndex(browser_.current_season);
+    listSeasons_->setVisible(browser_.session.view.mTVShows);
+}
+
+EpisodePanel::EpisodePanel(Browser &browser, QWidget *parent) :
+    QWidget(parent), browser_(browser), listEpisodes_(new QTreeView(this)), delegate_(new GridDelegate(this)) {
+    setObjectName(QStringLiteral("Frame4_2"));
+    listEpisodes_->setObjectName(QStringLiteral("listEpisodes"));
+    listEpisodes_->setModel(&browser_.listEpisodes);
+    listEpisodes_->setItemDelegate(delegate_);
+    listEpisodes_->setRootIsDecorated(false);
+    listEpisodes_->setUniformRowHeights(true);
+    listEpisodes_->setAllColumnsShowFocus(true);
+    listEpisodes_->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(listEpisodes_);
+
+    connect(listEpisodes_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [this](const QModelIndex &current) {
+                if (current.isValid()) {
+                    LoadEpisode(browser_, current.data(EpisodeList::KeyRole).toString());
+                }
+            });
+    TranslateNames();
+}
+
+void EpisodePanel::SetGridLines(bool shown) {
+    delegate_->SetGridLines(shown);
+    listEpisodes_->viewport()->update();
+}
+
+void EpisodePanel::TranslateNames() {
+    listEpisodes_->setAccessibleName(Translate(browser_.session, QStringLiteral("Episodes")));
+}
+
+} // namespace ostrand

@@ -1,0 +1,116 @@
+#include "browser/ui/MainCommands.h"
+
+#include "browser/Browser.h"
+#include "browser/CollectionTabs.h"
+#include "browser/CollectionTypes.h"
+#include "browser/Navigation.h"
+#include "browser/TitleQueries.h"
+#include "browser/Views.h"
+#include "browser/ui/Guarded.h"
+#include "browser/ui/frmMain.h"
+#include "collection_files/ProfilerImport.h"
+#include "database/TitlesDue.h"
+#include "database/ui/frmSwitchDatabase.h"
+#include "shell/FileCommands.h"
+#include "shell/ui/frmAbout.h"
+
+namespace ostrand {
+
+namespace {
+
+using Order = TitleList::Order;
+
+void SwitchDatabase(frmMain &main) {
+    frmSwitchDatabase(main.browser.session, &main).exec();
+}
+
+void ToggleGridLines(Browser &browser, bool ViewState::GridLines::*shown) {
+    ViewState::GridLines &lines = browser.session.view.grid_lines;
+    lines.*shown = !(lines.*shown);
+    Q_EMIT browser.SettingsChanged();
+}
+
+template <int kKey, Order kOrder>
+void Sort(frmMain &main) {
+    ReOrderSeriesList(main.browser, kKey, kOrder);
+}
+
+/// A routine of the browser, or of the session, as a handler.
+template <void (*kRoutine)(Browser &)>
+void Browse(frmMain &main) {
+    kRoutine(main.browser);
+}
+template <void (*kRoutine)(Session &)>
+void Run(frmMain &main) {
+    kRoutine(main.browser.session);
+}
+
+struct Handler {
+    const char16_t *name;
+    void (*run)(frmMain &main);
+};
+
+constexpr Handler kHandlers[] = {
+    {u"mSwitchDatabase", SwitchDatabase},
+    {u"mUpdateMovieData", [](frmMain &main) { ImportProfilerData(main.browser.session, {}); }},
+    {u"mImportAdditionalInfos", Run<ChooseAdditionalInfosToImport>},
+    {u"mExportAdditionalInfos", Run<ChooseAdditionalInfosToExport>},
+    {u"mCommandFile", Run<ChooseCommandFile>},
+    {u"mExit", [](frmMain &main) { main.close(); }},
+    {u"mTVShows", Browse<ShowTVShows>},
+    {u"mMovies", Browse<ShowMovies>},
+    {u"mcolorlist", Browse<ToggleColours>},
+    {u"mBoxsetView", Browse<ToggleBoxsetView>},
+    {u"mUseCustomTitle", Browse<ToggleCustomTitle>},
+    {u"mUseOriginalTitle", Browse<ToggleOriginalTitle>},
+    {u"mShowDescription", Browse<ToggleDescription>},
+    {u"mGotoProfile", Browse<GotoProfile>},
+    {u"mSelectRandom", Browse<SelectRandom>},
+    {u"mShowLoanDue", Run<ShowTitlesDue>},
+    {u"mShowFilter", Browse<ToggleFilter>},
+    {u"mOrderByCaseType", [](frmMain &main) { SpecialProfileOrder(main.browser, QStringLiteral("CaseType")); }},
+    {u"mOrderByGenre", [](frmMain &main) { SpecialProfileOrder(main.browser, QStringLiteral("Genre")); }},
+    {u"mOrderByLocality", [](frmMain &main) { SpecialProfileOrder(main.browser, QStringLiteral("Locality")); }},
+    {u"mOrderByRating", [](frmMain &main) { SpecialProfileOrder(main.browser, QStringLiteral("Rating")); }},
+    {u"mOrderbyMedium", [](frmMain &main) { SpecialProfileOrder(main.browser, QStringLiteral("Medium")); }},
+    {u"mOrderTitleAsc", Sort<0, Order::Ascending>},
+    {u"mOrderTitleDesc", Sort<0, Order::Descending>},
+    {u"mOrderColNoAsc", Sort<1, Order::Ascending>},
+    {u"mOrderColNoDesc", Sort<1, Order::Descending>},
+    {u"mOrderProdYearAsc", Sort<3, Order::Ascending>},
+    {u"mOrderProdYearDesc", Sort<3, Order::Descending>},
+    {u"mOrderPDateAsc", Sort<4, Order::Ascending>},
+    {u"mOrderPDateDesc", Sort<4, Order::Descending>},
+    {u"mOrderRDateAsc", Sort<5, Order::Ascending>},
+    {u"mOrderRDateDesc", Sort<5, Order::Descending>},
+    {u"mAddColType", Browse<AddColType>},
+    {u"mRenameCollectionType", Browse<RenameCollectionType>},
+    {u"mRemoveColType", Browse<RemoveColType>},
+    {u"mAbout", [](frmMain &main) { frmAbout(main.browser.session, &main).exec(); }},
+};
+
+/// The lists whose grid lines can be seen today.
+constexpr std::array kGridLists = {&ViewState::GridLines::ListCollection, &ViewState::GridLines::ListEpisodes};
+
+void HandleGridLines(frmMain &main) {
+    for (const MenuEntry &entry : MenuEntries()) {
+        if (std::find(kGridLists.begin(), kGridLists.end(), entry.grid_lines) != kGridLists.end()) {
+            main.browser.commands.Handle(QString::fromUtf16(entry.name),
+                                         [&main, lines = entry.grid_lines] { ToggleGridLines(main.browser, lines); });
+        }
+    }
+}
+
+} // namespace
+
+void HandleCommands(frmMain &main) {
+    HandleGridLines(main);
+    for (const Handler &handler : kHandlers) {
+        main.browser.commands.Handle(QString::fromUtf16(handler.name), [&main, run = handler.run] {
+            Guarded(main.browser.session, [&] { run(main); });
+            main.EndIfAsked();
+        });
+    }
+}
+
+} // namespace ostrand

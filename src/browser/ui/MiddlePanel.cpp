@@ -1,0 +1,68 @@
+#include "browser/ui/MiddlePanel.h"
+
+#include "browser/Browser.h"
+#include "browser/CollectionTabs.h"
+#include "browser/ui/EmptyPlace.h"
+#include "shell/Session.h"
+#include "shell/ui/SplitPanel.h"
+
+#include <QScopedValueRollback>
+#include <QStackedWidget>
+
+namespace ostrand {
+
+MiddlePanel::MiddlePanel(Browser &browser, QWidget *parent) :
+    QWidget(parent), browser_(browser), tabMain_(new QTabBar(this)), pages_(new QStackedWidget(this)),
+    Split4_(new SplitPanel) {
+    tabMain_->setObjectName(QStringLiteral("tabMain"));
+    tabMain_->setExpanding(false);
+    tabMain_->setUsesScrollButtons(true);
+    tabMain_->setDrawBase(false);
+    tabMain_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+
+    Split4_->setObjectName(QStringLiteral("Split4"));
+    Split4_->SetHorizontal(true);
+    Split4_->SetMinPanelSize(0);
+    Split4_->SetControl1(EmptyPlace(QStringLiteral("ListCast")));
+    Split4_->SetControl2(EmptyPlace(QStringLiteral("FrameCrew")));
+    pages_->addWidget(Split4_);
+    pages_->addWidget(EmptyPlace(QStringLiteral("Details")));
+    pages_->addWidget(EmptyPlace(QStringLiteral("AV")));
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(tabMain_);
+    layout->addWidget(pages_, 1);
+
+    connect(tabMain_, &QTabBar::currentChanged, this, [this](int index) {
+        if (!following_ && index >= 0) {
+            SelectMainTab(browser_, index + 1);
+        }
+    });
+    connect(&browser_, &Browser::TabsChanged, this, &MiddlePanel::ShowTabs);
+    connect(&browser_, &Browser::MainTabChanged, this, &MiddlePanel::ShowTabs);
+    TranslateNames();
+}
+
+void MiddlePanel::TranslateNames() {
+    tabMain_->setAccessibleName(Translate(browser_.session, QStringLiteral("Panels")));
+}
+
+void MiddlePanel::ShowTabs() {
+    const QScopedValueRollback<bool> follow(following_, true);
+    while (tabMain_->count() > browser_.tabMain.size()) {
+        tabMain_->removeTab(tabMain_->count() - 1);
+    }
+    for (int i = 0; i < browser_.tabMain.size(); ++i) {
+        if (i < tabMain_->count()) {
+            tabMain_->setTabText(i, browser_.tabMain[i]);
+        } else {
+            tabMain_->addTab(browser_.tabMain[i]);
+        }
+    }
+    tabMain_->setCurrentIndex(browser_.tabMain_selected - 1);
+    pages_->setCurrentIndex(browser_.tabMain_selected - 1);
+}
+
+} // namespace ostrand

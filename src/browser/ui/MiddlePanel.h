@@ -1,0 +1,31 @@
+// The third column of the main window: credits, details and technical data of a title.
+#pragma once
+
+#include <QTabBar>
+
+class QStackedWidget;
+
+namespace ostrand {
+
+class Browser;
+class SplitPanel;
+
+/// The tabs of tabMain and what belongs to each: Split4 with the credits, Details, AV.
+class MiddlePanel : public QWidget {
+    Q_OBJECT
+public:
+    explicit MiddlePanel(Browser &browser, QWidget *parent = nullptr);
+    SplitPanel *Split4() const { return Split4_; }
+    void TranslateNames();
+
+private:
+    void ShowTabs();
+
+    Browser &browser_;
+    QTabBar *tabMain_;
+    QStackedWidget *pages_;
+    SplitPanel *Split4_;
+    bool following_ = false;
+};
+
+} // namespace ostrand

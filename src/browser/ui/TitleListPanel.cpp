@@ -1,0 +1,122 @@
+#include "browser/ui/TitleListPanel.h"
+
+#include "browser/Browser.h"
+#include "browser/CollectionTabs.h"
+#include "shell/Session.h"
+
+#include <QScopedValueRollback>
+#include <QStandardItemModel>
+
+namespace ostrand {
+
+void FilterBox::showPopup() {
+    Q_EMIT AboutToOpen();
+    if (count() > 0) {
+        QComboBox::showPopup();
+    }
+}
+
+TitleListPanel::TitleListPanel(Browser &browser, QWidget *parent) :
+    QWidget(parent), browser_(browser), tabColList_(new QTabBar(this)), comboFilter_(new FilterBox(this)),
+    listSeries_(new TitleListView(browser, this)), labelFilterCount_(new QLabel(this)) {
+    setObjectName(QStringLiteral("Frame1_1"));
+    MakeTabs();
+    MakeFilterBox();
+    labelFilterCount_->setObjectName(QStringLiteral("labelFilterCount"));
+    labelFilterCount_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    connect(&browser_, &Browser::FilterCountChanged, this,
+            [this] { labelFilterCount_->setText(browser_.labelFilterCount); });
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(2);
+    layout->addWidget(tabColList_);
+    layout->addWidget(comboFilter_);
+    layout->addWidget(listSeries_, 1);
+    layout->addWidget(labelFilterCount_);
+    TranslateNames();
+}
+
+void TitleListPanel::TranslateNames() {
+    const auto shown = [this](const char16_t *text) { return Translate(browser_.session, QString::fromUtf16(text)); };
+    tabColList_->setAccessibleName(shown(u"Collection types"));
+    comboFilter_->setAccessibleName(shown(u"Filter"));
+    comboFilter_->setPlaceholderText(shown(u"Filter"));
+    comboFilter_->setToolTip(shown(u"Show only the titles that a saved filter finds"));
+    listSeries_->setAccessibleName(shown(u"Titles"));
+}
+
+void TitleListPanel::MakeTabs() {
+    tabColList_->setObjectName(QStringLiteral("tabColList"));
+    tabColList_->setExpanding(false);
+    tabColList_->setUsesScrollButtons(true);
+    tabColList_->setDrawBase(false);
+    tabColList_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    tabColList_->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(&browser_, &Browser::TabsChanged, this, &TitleListPanel::ShowTabs);
+    connect(tabColList_, &QTabBar::currentChanged, this, [this](int index) {
+        if (!following_ && index >= 0) {
+            SelectColTypeTab(browser_, index + 1);
+        }
+    });
+    // A click on the tab that is selected already lists its titles anew, which ends a filter.
+    connect(tabColList_, &QTabBar::tabBarClicked, this, [this](int index) {
+        if (index >= 0 && index == tabColList_->currentIndex() &&
+            QGuiApplication::mouseButtons().testFlag(Qt::LeftButton)) {
+            SelectColTypeTab(browser_, index + 1);
+        }
+    });
+    connect(tabColList_, &QWidget::customContextMenuRequested, this, [this](const QPoint &place) {
+        const int index = tabColList_->tabAt(place);
+        if (index >= 0 && index != tabColList_->currentIndex()) {
+            tabColList_->setCurrentIndex(index);
+        }
+        Q_EMIT TabMenuWanted(tabColList_->mapToGlobal(place));
+    });
+}
+
+void TitleListPanel::MakeFilterBox() {
+    comboFilter_->setObjectName(QStringLiteral("comboFilter"));
+    comboFilter_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    connect(comboFilter_, &FilterBox::AboutToOpen, this, [this] { OpenFilterList(browser_); });
+    connect(comboFilter_, &QComboBox::textActivated, this,
+            [this](const QString &text) { ChooseFilter(browser_, text); });
+    connect(&browser_, &Browser::FilterChanged, this, &TitleListPanel::ShowFilters);
+}
+
+void TitleListPanel::ShowTabs() {
+    const QScopedValueRollback<bool> follow(following_, true);
+    while (tabColList_->count() > browser_.tabColList.size()) {
+        tabColList_->removeTab(tabColList_->count() - 1);
+    }
+    for (int i = 0; i < browser_.tabColList.size(); ++i) {
+        QString text = browser_.tabColList[i];
+        text.replace(u'&', QStringLiteral("&&")); // not a mnemonic: it is the user's own word
+        if (i < tabColList_->count()) {
+            tabColList_->setTabText(i, text);
+        } else {
+            tabColList_->addTab(text);
+        }
+    }
+    tabColList_->setCurrentIndex(browser_.tabColList_selected - 1);
+}
+
+void TitleListPanel::ShowFilters() {
+    comboFilter_->setVisible(browser_.filter_shown);
+    QStringList shown;
+    for (int i = 0; i < comboFilter_->count(); ++i) {
+        shown.append(comboFilter_->itemText(i));
+    }
+    if (shown != browser_.comboFilter) {
+        comboFilter_->clear();
+        comboFilter_->addItems(browser_.comboFilter);
+    }
+    if (const auto *items = qobject_cast<QStandardItemModel *>(comboFilter_->model())) {
+        for (int i = 0; i < items->rowCount(); ++i) {
+            items->item(i)->setEnabled(FilterEntryAvailable(browser_, i));
+        }
+    }
+    comboFilter_->setCurrentIndex(int(browser_.comboFilter.indexOf(browser_.comboFilter_text)));
+}
+
+} // namespace ostrand

@@ -1,0 +1,54 @@
+// The left part of the main window: tabs, filter, list and count.
+#pragma once
+
+#include "browser/ui/TitleListView.h"
+
+#include <QComboBox>
+#include <QTabBar>
+
+namespace ostrand {
+
+class Browser;
+
+/// The box of saved filters; tells when its list is about to open.
+class FilterBox : public QComboBox {
+    Q_OBJECT
+public:
+    using QComboBox::QComboBox;
+    void showPopup() override;
+
+Q_SIGNALS:
+    void AboutToOpen();
+};
+
+/// Frame1_1. The tabs of collection types, the filter box, listSeries and the count of what is shown.
+class TitleListPanel : public QWidget {
+    Q_OBJECT
+public:
+    explicit TitleListPanel(Browser &browser, QWidget *parent = nullptr);
+
+    TitleListView *List() const { return listSeries_; }
+    /// The tool tip of the count: the path of the database.
+    void ShowDatabasePath(const QString &path) { labelFilterCount_->setToolTip(path); }
+    /// Names for those who do not see the window, in the user's language.
+    void TranslateNames();
+
+Q_SIGNALS:
+    /// The right button was pressed on a tab.
+    void TabMenuWanted(const QPoint &place);
+
+private:
+    void MakeTabs();
+    void MakeFilterBox();
+    void ShowTabs();
+    void ShowFilters();
+
+    Browser &browser_;
+    QTabBar *tabColList_;
+    FilterBox *comboFilter_;
+    TitleListView *listSeries_;
+    QLabel *labelFilterCount_;
+    bool following_ = false;
+};
+
+} // namespace ostrand

@@ -1,0 +1,297 @@
+#include "browser/ui/frmMain.h"
+
+#include "browser/Attach.h"
+#include "browser/Browser.h"
+#include "browser/MenuStrings.h"
+#include "browser/Navigation.h"
+#include "browser/ui/CoverPanel.h"
+#include "browser/ui/EmptyPlace.h"
+#include "browser/ui/FileDrop.h"
+#include "browser/ui/Guarded.h"
+#include "browser/ui/MainCommands.h"
+#include "browser/ui/MainWindowPlace.h"
+#include "browser/ui/MenuBuilder.h"
+#include "browser/ui/MiddlePanel.h"
+#include "browser/ui/TitleListPanel.h"
+#include "browser/ui/ToolMain.h"
+#include "collection_files/ProfilerImport.h"
+#include "database/ui/frmSwitchDatabase.h"
+#include "platform_qt/LazyHtmlView.h"
+#include "shell/InstanceMarker.h"
+#include "shell/ListTable.h"
+#include "shell/StartUp.h"
+#include "shell/ui/SplitPanel.h"
+#include "shell/ui/frmListView.h"
+#include "shell/ui/frmSplash.h"
+
+#include <QCloseEvent>
+#include <QListView>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QShortcut>
+#include <QTimer>
+
+namespace ostrand {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr int kFlushEvery = 1000; // milliseconds between looks at what is not durable yet
+
+QString BaseCaption() {
+    return u"Ostrand v%1.%2"_s.arg(OSTRAND_VERSION_MAJOR).arg(OSTRAND_VERSION_MINOR);
+}
+
+} // namespace
+
+frmMain::frmMain(Browser &the_browser) : browser(the_browser) {
+    setObjectName(u"frmMain"_s);
+    setAcceptDrops(true);
+    Compose();
+    ConnectBrowser();
+    AttachBrowser(browser);
+    SetWindowHooks();
+    HandleCommands(*this);
+
+    auto *idle = new QTimer(this);
+    connect(idle, &QTimer::timeout, this, [this] {
+        if (browser.session.Database) {
+            Guarded(browser.session, [this] { browser.session.Database->FlushIfDue(); });
+        }
+    });
+    idle->start(kFlushEvery);
+}
+
+frmMain::~frmMain() {
+    // What still runs must not reach a window that is gone.
+    browser.session.window = {};
+    browser.disconnect(this);
+}
+
+SplitPanel *frmMain::Split(int number) const {
+    return splits_[size_t(number - 1)];
+}
+
+void frmMain::Compose() {
+    titles_ = new TitleListPanel(browser);
+    cover_ = new CoverPanel(browser);
+    episodes_ = new EpisodePanel(browser);
+    middle_ = new MiddlePanel(browser);
+    WebSkin_ = new LazyHtmlView({});
+    WebSkin_->setObjectName(u"WebSkin"_s);
+
+    for (size_t i = 0; i < splits_.size(); ++i) {
+        splits_[i] = i == 3 ? middle_->Split4() : new SplitPanel;
+        splits_[i]->setObjectName(u"Split%1"_s.arg(i + 1));
+        splits_[i]->SetMinPanelSize(0);
+        splits_[i]->SetHorizontal(i >= 3);
+    }
+    Split(1)->SetControl1(Split(2));
+    Split(1)->SetControl2(Split(3));
+    Split(2)->SetControl1(titles_);
+    Split(2)->SetControl2(Split(6));
+    Split(2)->SetSnapToEdge(true);
+    Split(3)->SetControl1(middle_);
+    Split(3)->SetControl2(Split(5));
+    Split(5)->SetControl1(EmptyPlace(u"listAppearences"_s));
+    Split(5)->SetControl2(EmptyPlace(u"FrameAwards"_s));
+    Split(6)->SetControl1(cover_);
+    Split(6)->SetControl2(episodes_);
+
+    auto *centre = new QWidget;
+    auto *layout = new QVBoxLayout(centre);
+    layout->setContentsMargins(4, 4, 4, 4);
+    layout->addWidget(Split(1), 1);
+    layout->addWidget(WebSkin_, 1);
+    WebSkin_->SetVisible(false);
+    setCentralWidget(centre);
+
+    menus_ = new MenuBuilder(browser.commands, *menuBar(), *this);
+    toolMain_ = new ToolMain(browser, *this);
+    addToolBar(toolMain_);
+}
+
+void frmMain::ConnectBrowser() {
+    connect(&browser, &Browser::TitleChanged, this, [this] { setWindowTitle(browser.caption); });
+    connect(&browser, &Browser::SettingsChanged, this, &frmMain::ApplySettings);
+    connect(&browser, &Browser::ModeChanged, this, &frmMain::ShowView);
+    connect(titles_, &TitleListPanel::TabMenuWanted, this, [this](const QPoint &place) {
+        if (!browser.session.view.mTVShows) {
+            menus_->ContextMenu(u"mColTabTools"_s)->popup(place);
+        }
+    });
+    connect(titles_->List(), &TitleListView::MenuWanted, this, [this](const QPoint &place) {
+        menus_->ContextMenu(browser.session.view.mTVShows ? u"mSeriesTools"_s : u"mProfileTools"_s)->popup(place);
+    });
+    connect(titles_->List(), &TitleListView::RowActivated, this,
+            [this] { browser.commands.Run(u"mProfileInformation"_s); });
+    auto *cover_tag = new QShortcut(QKeySequence(u"Ctrl+1"_s), this);
+    connect(cover_tag, &QShortcut::activated, this, [this] { CopyCoverTag(browser); });
+}
+
+void frmMain::SetWindowHooks() {
+    Session &session = browser.session;
+    session.window.EnableDBMenues = [this](bool enabled) { EnableDBMenues(browser.commands, enabled); };
+    session.window.MenuStrings = [this] {
+        MenuStrings(browser.session, browser.commands);
+        TranslateNames();
+    };
+    session.window.ShowAuditMenus = [this] {
+        for (const QString &name : {u"mShowAuditTrail"_s, u"mSVNAuditTrailDatabase"_s}) {
+            browser.commands.SetVisible(name, browser.session.audit.menus_shown);
+        }
+    };
+    session.window.ShowSplash = [this] {
+        splash_ = std::make_unique<frmSplash>(browser.session);
+        splash_->show();
+        browser.session.services.pump.Turn();
+    };
+    session.window.UnloadSplash = [this] { splash_.reset(); };
+    session.window.ShowBlankPage = [this] { WebSkin_->Navigate(u"about:blank"_s); };
+    session.window.ShowBaseCaption = [this] {
+        browser.base_caption = BaseCaption();
+        browser.caption = browser.base_caption;
+        setWindowTitle(browser.caption);
+    };
+    session.window.Layout = [this](bool reset) { Layout(reset); };
+    session.window.ApplyGridLines = [this] { ApplyGridLines(); };
+    session.window.TranslatePanels = [this] { TranslateNames(); };
+    session.window.ChooseDatabase = [this] { ChooseDatabase(); };
+    session.window.WriteGeometry = [this] { WriteGeometry(); };
+    session.window.ShowListView = [this](std::unique_ptr<ListTable> table) { ShowListView(std::move(table)); };
+}
+
+bool frmMain::Load(const QString &command_line) {
+    Session &session = browser.session;
+    const CommandLine line = PrepareStartUp(session, command_line);
+    bool opened = false;
+    Guarded(session, [&] { opened = OpenOrRun(session, line); });
+    if (!opened && line.command_file.isEmpty()) {
+        splash_.reset();
+        if (session.instance) {
+            session.instance->LeaveAndClean();
+        }
+        return false;
+    }
+    ApplySettings();
+    FinishStartUp(session);
+    if (session.EndProgram) {
+        close();
+        return false;
+    }
+    show();
+    titles_->List()->setFocus();
+    return true;
+}
+
+void frmMain::ChooseDatabase() {
+    if (splash_) {
+        splash_->hide(); // it must not lie above the window that asks
+    }
+    frmSwitchDatabase(browser.session, isVisible() ? this : nullptr).exec();
+}
+
+void frmMain::Layout(bool reset) {
+    PlaceMainWindow(*this, browser.session, reset);
+    PlaceSplitters(splits_, browser.session, reset);
+}
+
+void frmMain::WriteGeometry() {
+    KeepMainWindow(*this, browser.session);
+    if (!isMinimized()) {
+        KeepSplitters(splits_, browser.session);
+    }
+}
+
+void frmMain::ApplySettings() {
+    titles_->ShowDatabasePath(browser.session.DatabaseFile);
+    SetFonts();
+    ApplyGridLines();
+}
+
+void frmMain::SetFonts() {
+    const ViewState &view = browser.session.view;
+    for (QAbstractItemView *list : findChildren<QAbstractItemView *>()) {
+        QFont font = list->font();
+        font.setFamily(view.FontName);
+        font.setPointSizeF(view.FontSize);
+        list->setFont(font);
+    }
+}
+
+void frmMain::ApplyGridLines() {
+    titles_->List()->SetGridLines(browser.session.view.grid_lines.ListCollection);
+    episodes_->SetGridLines(browser.session.view.grid_lines.ListEpisodes);
+}
+
+void frmMain::ShowView() {
+    const bool tv = browser.session.view.mTVShows;
+    episodes_->setVisible(tv || browser.listEpisodes.rowCount() > 0);
+    setWindowTitle(browser.caption);
+}
+
+void frmMain::TranslateNames() {
+    titles_->TranslateNames();
+    cover_->TranslateNames();
+    episodes_->TranslateNames();
+    middle_->TranslateNames();
+}
+
+void frmMain::ShowListView(std::unique_ptr<ListTable> table) {
+    for (frmListView *open : findChildren<frmListView *>()) {
+        if (open->windowTitle() == table->caption) {
+            delete open; // one window for one list
+        }
+    }
+    auto *window = new frmListView(browser.session, ContentOf(std::move(table)), this);
+    window->title_chosen = [this](const QString &key, ListRowKind) {
+        Guarded(browser.session, [&] { ShowMovie(browser, key); });
+    };
+    window->show();
+    window->raise();
+}
+
+void frmMain::EndIfAsked() {
+    if (browser.session.EndProgram) {
+        close();
+    }
+}
+
+void frmMain::closeEvent(QCloseEvent *event) {
+    Session &session = browser.session;
+    if (session.progress.IsLoaded() || session.commands.depth > 0) {
+        // The routine that runs still holds the database: it is told to end, and the window goes when it has.
+        session.EndProgram = true;
+        session.progress.Close();
+        event->ignore();
+        return;
+    }
+    event->accept();
+    if (!closed_) {
+        closed_ = true;
+        CloseViewer(session);
+        QCoreApplication::quit();
+    }
+}
+
+void frmMain::dragEnterEvent(QDragEnterEvent *event) {
+    if (browser.session.Database && !CollectionFilesIn(*event->mimeData()).isEmpty()) {
+        event->acceptProposedAction();
+    }
+}
+
+void frmMain::dropEvent(QDropEvent *event) {
+    const QStringList files = CollectionFilesIn(*event->mimeData());
+    event->acceptProposedAction();
+    // The program that the files come from waits for the drop to end, and an import takes its time.
+    QTimer::singleShot(0, this, [this, files] {
+        for (const QString &file : files) {
+            Guarded(browser.session, [&] { ImportProfilerData(browser.session, file); });
+        }
+        EndIfAsked();
+    });
+}
+
+} // namespace ostrand

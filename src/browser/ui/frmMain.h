@@ -1,0 +1,69 @@
+// The main window.
+#pragma once
+
+#include <QMainWindow>
+
+namespace ostrand {
+
+class Browser;
+class CoverPanel;
+class EpisodePanel;
+class frmListView;
+class frmSplash;
+class LazyHtmlView;
+class ListTable;
+class MenuBuilder;
+class MiddlePanel;
+class SplitPanel;
+class TitleListPanel;
+class ToolMain;
+
+/// Composes the panels and knows the steps of start and end that need a window; it holds no rules.
+class frmMain : public QMainWindow {
+    Q_OBJECT
+public:
+    explicit frmMain(Browser &browser);
+    ~frmMain() override;
+
+    /// The start of the program, up to the shown window. False when no database was opened and the program ends.
+    bool Load(const QString &command_line);
+
+    Browser &browser;
+    /// The window's splitters by their number, from 1.
+    SplitPanel *Split(int number) const;
+    /// Shows a table in a window of its own; one with the same caption is filled anew.
+    void ShowListView(std::unique_ptr<ListTable> table);
+    /// Ends the program if a routine asked for it.
+    void EndIfAsked();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+
+private:
+    void Compose();
+    void ConnectBrowser();
+    void SetWindowHooks();
+    void Layout(bool reset);
+    void WriteGeometry();
+    void ApplySettings();
+    void SetFonts();
+    void ApplyGridLines();
+    void ShowView();
+    void ChooseDatabase();
+    void TranslateNames();
+
+    MenuBuilder *menus_ = nullptr;
+    ToolMain *toolMain_ = nullptr;
+    TitleListPanel *titles_ = nullptr;
+    CoverPanel *cover_ = nullptr;
+    EpisodePanel *episodes_ = nullptr;
+    MiddlePanel *middle_ = nullptr;
+    LazyHtmlView *WebSkin_ = nullptr;
+    std::array<SplitPanel *, 6> splits_ = {};
+    std::unique_ptr<frmSplash> splash_;
+    bool closed_ = false;
+};
+
+} // namespace ostrand

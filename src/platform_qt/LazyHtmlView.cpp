@@ -1,0 +1,46 @@
+#include "platform_qt/LazyHtmlView.h"
+
+#include <QVBoxLayout>
+
+namespace ostrand {
+
+LazyHtmlView::LazyHtmlView(MakeEngine make_engine, QWidget *parent) :
+    QWidget(parent), make_engine_(std::move(make_engine)) {
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    setAutoFillBackground(true);
+    setBackgroundRole(QPalette::Base);
+}
+
+void LazyHtmlView::Load() {
+    if (!make_engine_) {
+        return;
+    }
+    engine_ = std::exchange(make_engine_, nullptr)(this);
+    if (!engine_.widget || !engine_.view) {
+        engine_ = {};
+        return;
+    }
+    engine_.view->before_navigate = [this](const QString &url) { return before_navigate && before_navigate(url); };
+    layout()->addWidget(engine_.widget);
+    engine_.view->SetVisible(true);
+    setFocusProxy(engine_.widget);
+}
+
+void LazyHtmlView::Navigate(const QString &url) {
+    const bool blank = url == QStringLiteral("about:blank");
+    if (!HasEngine() && blank) {
+        if (before_navigate) {
+            before_navigate(url); // nothing is shown, so there is nothing to cancel
+        }
+        return;
+    }
+    if (!HasEngine()) {
+        Load();
+    }
+    if (HasEngine()) {
+        engine_.view->Navigate(url);
+    }
+}
+
+} // namespace ostrand

@@ -1,0 +1,18 @@
+// Image files as small as they are shown.
+#pragma once
+
+#include <QPixmap>
+#include <QSize>
+#include <QString>
+
+namespace ostrand {
+
+/// Whether a picture smaller than its place grows.
+enum class PictureGrowth { Fit, Never };
+
+/// Loads an image file scaled to fit `place` (in device-independent pixels) keeping its ratio, with `pixel_ratio`
+/// device pixels each. Decodes no more than needed, as far as the format allows. Null for a broken or missing file and
+/// an empty place.
+QPixmap ScaledPicture(const QString &path, QSize place, qreal pixel_ratio, PictureGrowth growth = PictureGrowth::Fit);
+
+} // namespace ostrand

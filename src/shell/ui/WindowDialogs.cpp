@@ -1,0 +1,33 @@
+#include "shell/ui/WindowDialogs.h"
+
+#include "queries/ui/frmSQLUserInput.h"
+#include "shell/ui/frmBrowseFolder.h"
+
+#include <QApplication>
+
+namespace ostrand {
+
+std::optional<QString> WindowDialogs::InputText(const QString &prompt, const QString &title, const QString &preset) {
+    frmSQLUserInput dialog(translate, prompt, title, QApplication::activeWindow());
+    dialog.SetPlainFont();
+    dialog.SetPreset(preset);
+    dialog.exec();
+    return dialog.OutputString();
+}
+
+std::optional<QString> WindowDialogs::InputCombo(const QString &prompt, const QString &title, const QStringList &values,
+                                                 const QString &preset) {
+    frmSQLUserInput dialog(translate, prompt, title, QApplication::activeWindow());
+    dialog.SetValues(values);
+    dialog.SetPreset(preset);
+    dialog.exec();
+    return dialog.OutputString();
+}
+
+QString WindowDialogs::BrowseFolder(const QString &title, const QString &current) {
+    frmBrowseFolder dialog(*this, translate, title, SystemDrives(translate), QApplication::activeWindow());
+    dialog.SetCurrentFolder(current);
+    return dialog.exec() == QDialog::Accepted ? dialog.CurrentFolder() : QString();
+}
+
+} // namespace ostrand

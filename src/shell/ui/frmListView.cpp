@@ -1,0 +1,136 @@
+#include "shell/ui/frmListView.h"
+
+#include "shell/Session.h"
+#include "shell/SettingsTable.h"
+#include "shell/ui/WindowPlace.h"
+
+#include <QAction>
+#include <QHeaderView>
+#include <QTableView>
+#include <QVBoxLayout>
+
+#include <numeric>
+
+namespace ostrand {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr int kMeasuredRows = 200; ///< rows that column widths are taken from; the list may be long
+constexpr int kWidestColumnChars = 50;
+
+QString Line(const QAbstractItemModel &model, const std::function<QVariant(int column)> &cell) {
+    QStringList cells;
+    for (int column = 0; column < model.columnCount(); ++column) {
+        // A tab or a line break within a cell would make cells and lines of it.
+        cells += cell(column).toString().simplified();
+    }
+    return cells.join(u'\t');
+}
+
+} // namespace
+
+frmListView::frmListView(Session &session, ListViewContent content, QWidget *parent) :
+    QDialog(parent, Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinMaxButtonsHint |
+                        Qt::WindowCloseButtonHint),
+    session_(session), content_(std::move(content)), MultiList_(new QTableView(this)) {
+    setObjectName(u"frmListView"_s);
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowTitle(content_.caption);
+    BuildList();
+    AddActions();
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(MultiList_);
+    const QFontMetrics metrics = fontMetrics();
+    new WindowPlace(session_, u"ListViewWindow"_s, this, {metrics.averageCharWidth() * 90, metrics.lineSpacing() * 24});
+}
+
+void frmListView::BuildList() {
+    MultiList_->setObjectName(u"MultiList"_s);
+    MultiList_->setAccessibleName(content_.caption);
+    MultiList_->setModel(content_.model.get());
+    MultiList_->setSelectionBehavior(QAbstractItemView::SelectRows);
+    MultiList_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    MultiList_->setTabKeyNavigation(false);
+    MultiList_->setWordWrap(false);
+    MultiList_->setFrameShape(QFrame::NoFrame);
+    MultiList_->verticalHeader()->hide();
+    MultiList_->verticalHeader()->setDefaultSectionSize(fontMetrics().lineSpacing() + fontMetrics().height() / 3);
+    QHeaderView *header = MultiList_->horizontalHeader();
+    header->setHighlightSections(false);
+    header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    header->setStretchLastSection(true);
+    header->setMaximumSectionSize(fontMetrics().averageCharWidth() * kWidestColumnChars);
+    header->setResizeContentsPrecision(kMeasuredRows);
+    MultiList_->resizeColumnsToContents();
+    header->setMaximumSectionSize(-1);
+    // The rows keep the order they came in until a header is clicked.
+    header->setSortIndicator(-1, Qt::AscendingOrder);
+    header->setSortIndicatorShown(true);
+    header->setSectionsClickable(true);
+    connect(header, &QHeaderView::sortIndicatorChanged, this, [this](int column, Qt::SortOrder order) {
+        if (column >= 0) {
+            content_.model->sort(column, order);
+        }
+    });
+    connect(MultiList_, &QTableView::activated, this, &frmListView::Choose);
+    if (content_.model->rowCount() > 0) {
+        MultiList_->setCurrentIndex(content_.model->index(0, 0));
+    }
+}
+
+void frmListView::AddActions() {
+    auto *copy = new QAction(Translate(session_, u"&Copy"_s), MultiList_);
+    copy->setObjectName(u"mCopyToClipboard"_s);
+    copy->setShortcut(QKeySequence::Copy);
+    copy->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    connect(copy, &QAction::triggered, this, [this] { session_.services.clipboard.SetText(SelectedText()); });
+
+    auto *grid_lines = new QAction(Translate(session_, u"&Grid Lines"_s), MultiList_);
+    grid_lines->setObjectName(u"mToogleGridlinesMultiList"_s);
+    grid_lines->setCheckable(true);
+    grid_lines->setChecked(ReadIniSetting(session_, u"GridLines", u"MultiList").compare(u"True", Qt::CaseInsensitive) ==
+                           0);
+    MultiList_->setShowGrid(grid_lines->isChecked());
+    connect(grid_lines, &QAction::toggled, this, &frmListView::SetGridLines);
+
+    MultiList_->addActions({copy, grid_lines});
+    MultiList_->setContextMenuPolicy(Qt::ActionsContextMenu);
+}
+
+void frmListView::SetGridLines(bool on) {
+    MultiList_->setShowGrid(on);
+    WriteIniSetting(session_, u"GridLines", u"MultiList", on ? u"True"_s : u"False"_s);
+}
+
+void frmListView::Choose(const QModelIndex &index) {
+    if (!index.isValid() || !content_.target || !title_chosen) {
+        return;
+    }
+    const auto [key, kind] = content_.target(index.row());
+    if (!key.isEmpty()) {
+        title_chosen(key, kind);
+    }
+}
+
+QString frmListView::SelectedText() const {
+    const QAbstractItemModel &model = *content_.model;
+    QList<int> rows;
+    for (const QModelIndex &index : MultiList_->selectionModel()->selectedRows()) {
+        rows += index.row();
+    }
+    std::sort(rows.begin(), rows.end());
+    if (rows.size() < 2) {
+        rows.resize(model.rowCount());
+        std::iota(rows.begin(), rows.end(), 0);
+    }
+    QString text = Line(model, [&](int column) { return model.headerData(column, Qt::Horizontal); }) + u'\n';
+    for (const int row : rows) {
+        text += Line(model, [&](int column) { return model.index(row, column).data(); }) + u'\n';
+    }
+    return text;
+}
+
+} // namespace ostrand
