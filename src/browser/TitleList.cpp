@@ -17,7 +17,7 @@ int TitleList::columnCount(const QModelIndex &parent) const {
 }
 
 QVariant TitleList::data(const QModelIndex &index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid)) {
+    if (!index.isValid()) {
         return {};
     }
     const TitleRow &row = At(index.row());
