@@ -59,6 +59,7 @@ frmSQLUserInput::frmSQLUserInput(const Translator &translator, const QString &pr
     layout->addWidget(comboVarValues_);
     layout->addStretch();
     AddButtons(translator);
+    textInput_->setFocus();
 }
 
 void frmSQLUserInput::AddButtons(const Translator &translator) {
@@ -80,7 +81,9 @@ void frmSQLUserInput::SetValues(const QStringList &values) {
     comboVarValues_->setCurrentIndex(-1);
     comboVarValues_->setVisible(combo_);
     textInput_->setVisible(!combo_);
-    labelMessage_->setBuddy(combo_ ? static_cast<QWidget *>(comboVarValues_) : textInput_);
+    QWidget *field = combo_ ? static_cast<QWidget *>(comboVarValues_) : textInput_;
+    labelMessage_->setBuddy(field);
+    field->setFocus();
 }
 
 void frmSQLUserInput::SetPreset(const QString &preset) {
