@@ -136,6 +136,25 @@ TEST_F(ProgressWindowTest, AFinishedJobStaysForReading) {
     EXPECT_FALSE(auto_close);
 }
 
+TEST_F(ProgressWindowTest, OtherWindowsTakeNoClicksWhileAJobRuns) {
+    QPushButton other(u"Other"_s);
+    int clicks = 0;
+    QObject::connect(&other, &QPushButton::clicked, [&] { ++clicks; });
+    other.show();
+    const auto click = [&] { QTest::mouseClick(other.windowHandle(), Qt::LeftButton, {}, other.rect().center()); };
+    click();
+    EXPECT_EQ(clicks, 1);
+    job.Load(u"Importing"_s);
+    job.ShowDetails(true);
+    job.AddInfo(u"First film"_s);
+    click();
+    EXPECT_EQ(clicks, 1);
+    job.UnloadForm(true);
+    click();
+    EXPECT_EQ(clicks, 2);
+    job.Close();
+}
+
 TEST_F(ProgressWindowTest, TickedItClosesItselfAndTheNextJobStartsTicked) {
     job.Load(u"Importing"_s);
     job.ShowDetails(true);
