@@ -101,6 +101,8 @@ struct Session {
         std::function<void()> GetLastSelectedItem;
         std::function<void()> ReloadTitles;
         std::function<void()> ShowTitlesDue;
+        /// The settings window stored its entries: tool bar, fonts and tabs follow.
+        std::function<void()> SettingsStored;
         /// Shows a table in a list window of its own.
         std::function<void(std::unique_ptr<ListTable>)> ShowListView;
     };

@@ -81,14 +81,18 @@ int ClampTab(int tab, int count) {
     return tab < 1 || tab > count ? 1 : tab;
 }
 
+void LoadImageFolders(Session &session) {
+    LoadFolders(session);
+    EnsureCoverFolder(session);
+}
+
 void LoadDatabaseSettings(Session &session) {
     Trace(session, QStringLiteral("LoadDatabaseSettings()"), kTraceEntry);
     LoadLanguages(session);
     LoadStep(session, SettingStep::First);
     LoadImdbUrl(session);
     LoadStep(session, SettingStep::Rest);
-    LoadFolders(session);
-    EnsureCoverFolder(session);
+    LoadImageFolders(session);
     Trace(session, QStringLiteral("LoadDatabaseSettings()"), kTraceExit);
 }
 

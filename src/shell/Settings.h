@@ -10,6 +10,8 @@ struct Session;
 /// Reads all settings of the open database into the session and its view state, and makes the image folders. What
 /// windows do with them comes behind it (`Session::window.LoadDatabaseSettings`).
 void LoadDatabaseSettings(Session &session);
+/// Reads the cover and the headshot folder, the defaults where none are set, and makes them.
+void LoadImageFolders(Session &session);
 /// Writes what follows the windows. Does nothing while no database is open, or one of a newer program.
 void SaveDatabaseSettings(Session &session);
 
