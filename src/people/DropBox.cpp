@@ -80,19 +80,15 @@ QString StoreDrop(Session &session, const QString &dropped, DropType type) {
                               .icon = MessageIcon::Warning});
         return {};
     }
-    QString fault;
+    QString fault = FaultOf(session, file);
     QString stored;
     try {
-        QString name = NameOfDrop(file);
-        if (type == DropType::Person) {
-            name = AskForPerson(session, name);
-        }
-        if (SafeFileName(name).trimmed().isEmpty()) {
-            return {};
-        }
-        fault = FaultOf(session, file);
+        const QString proposed = NameOfDrop(file);
         if (fault.isEmpty()) {
-            stored = CopyPicture(session, file, name, fault);
+            const QString name = type == DropType::Person ? AskForPerson(session, proposed) : proposed;
+            if (!SafeFileName(name).trimmed().isEmpty()) {
+                stored = CopyPicture(session, file, name, fault);
+            }
         }
     } catch (const sql::SqlError &error) {
         fault = error.Text();
