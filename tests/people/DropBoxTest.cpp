@@ -28,7 +28,9 @@ protected:
         session.HeadshotPath = WithSeparator(folder / u"heads"_s);
     }
 
-    QStringList Headshots() const { return QDir(session.HeadshotPath).entryList(QDir::Files | QDir::Hidden, QDir::Name); }
+    QStringList Headshots() const {
+        return QDir(session.HeadshotPath).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+    }
     void ExpectPerson(const std::optional<QString> &answer) {
         services.dialogs.ExpectInput(u"Please enter name of person"_s, answer, u"CreditName"_s);
     }

@@ -2,6 +2,7 @@
 
 #include "shell/Session.h"
 #include "shell/ui/Mnemonics.h"
+#include "shell/ui/TextSize.h"
 
 #include <QCheckBox>
 #include <QFontComboBox>
@@ -14,11 +15,7 @@
 
 namespace ostrand {
 
-namespace {
-
 using namespace Qt::StringLiterals;
-
-} // namespace
 
 frmSettings::frmSettings(Session &session, QWidget *parent) : QDialog(parent), session_(session) {
     setObjectName(u"frmSettings"_s);
@@ -38,6 +35,7 @@ frmSettings::frmSettings(Session &session, QWidget *parent) : QDialog(parent), s
     layout->addWidget(buttons);
     connect(buttons, &QDialogButtonBox::accepted, this, &frmSettings::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &frmSettings::reject);
+    ResizeToText(*this, 90, 32);
 }
 
 QString frmSettings::Text(const char16_t *english) {
@@ -168,6 +166,7 @@ QWidget *frmSettings::MakeFolder(const SettingsEntry &entry, QLineEdit *path) {
     button->setAccessibleName(Text(u"Choose") + u": "_s + Text(entry.caption));
     button->setToolTip(Text(u"Choose a folder"));
     button->setAutoDefault(false);
+    MakeNarrow(*button);
     connect(button, &QPushButton::clicked, this, [this, path] {
         form_.SetValue(path->objectName(), path->text());
         form_.Browse(session_, path->objectName());
@@ -185,6 +184,7 @@ QListWidget *frmSettings::MakeList() {
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
         item->setCheckState(type.checked ? Qt::Checked : Qt::Unchecked);
     }
+    list->viewport()->setBackgroundRole(QPalette::Window); // on which an empty check box can be seen in dark looks too
     list->setMinimumHeight(fontMetrics().height() * 4);
     list->setMaximumHeight(fontMetrics().height() * 8);
     return list;
