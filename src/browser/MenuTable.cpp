@@ -144,6 +144,7 @@ constexpr std::array kTools = {
     Entry(u"mManageHeadshots", u"mTools", u"&Manage Headshots...", u"Tidies the folder with pictures of persons",
           u"Ctrl+H"),
     Entry(u"mCheckHeadshots", u"mTools", u"&Update Headshots...", u"Fetches pictures of persons from the data server"),
+    Entry(u"mDropBox", u"mTools", u"&Drop Box for Pictures", u"Stores pictures that are dropped on a small window"),
     Separator(u"mTools"),
     InMovies(Entry(u"mAssignEps", u"mTools", u"Assign &Episodes...", u"Tells which episodes the selected profile holds",
                    u"Ctrl+Shift+E")),

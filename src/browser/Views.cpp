@@ -2,6 +2,7 @@
 
 #include "browser/Browser.h"
 #include "browser/CollectionTabs.h"
+#include "browser/ListFilling.h"
 #include "browser/ProfileInfos.h"
 #include "browser/TitleQueries.h"
 #include "browser/Titles.h"
@@ -91,9 +92,11 @@ void ReloadList(Browser &browser) {
             UpdateSeriesNames(browser);
         } else {
             GetMovieNames(browser);
+            if (browser.listSeries.rowCount() == 0) {
+                GetProfileInfos(browser, {}, false, false);
+            }
         }
     } catch (const sql::SqlError &error) {
-        // The name of a collection type stands in the statement as it is, and some break it.
         Trace(session, u"ReloadList: "_s + error.Text(), kTraceError);
         ForgetTitle(browser);
         ClearAllProfileInfos(browser);
@@ -137,10 +140,12 @@ void UpdateSeriesNames(Browser &browser) {
         row.tool_tip = row.texts[TitleList::Title];
         series.push_back(std::move(row));
     }
-    browser.current_row = -1;
-    browser.listSeries.Unsort();
+    BeginList(browser);
+    ShowSortColumn(browser.listSeries, TitleList::SortTitle);
     browser.listSeries.Assign(std::move(series));
-    ApplyListColors(browser, false);
+    if (view.mcolorlist) {
+        ApplyListColors(browser, false);
+    }
     ShowFilterCount(browser, browser.listSeries.rowCount());
     if (browser.listSeries.rowCount() > 0) {
         UpdateSeriesList(browser, 0);

@@ -47,6 +47,9 @@ void QtOpener::ChooseApplication(const QString &path) {
 }
 
 std::optional<std::pair<int, int>> QtImages::Size(const QString &path) const {
+    if (path.isEmpty()) {
+        return std::nullopt;
+    }
     QImageReader reader(path);
     reader.setDecideFormatFromContent(true);
     const QSize size = reader.size();

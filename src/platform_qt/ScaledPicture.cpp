@@ -17,6 +17,9 @@ QSize SizeInPlace(QSize natural, QSize place, PictureGrowth growth) {
 } // namespace
 
 QPixmap ScaledPicture(const QString &path, QSize place, qreal pixel_ratio, PictureGrowth growth) {
+    if (path.isEmpty()) {
+        return {};
+    }
     const QSize device_place = (QSizeF(place) * pixel_ratio).toSize();
     QImageReader reader(path);
     reader.setDecideFormatFromContent(true);

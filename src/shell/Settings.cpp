@@ -81,17 +81,26 @@ int ClampTab(int tab, int count) {
     return tab < 1 || tab > count ? 1 : tab;
 }
 
+void LoadImageFolders(Session &session) {
+    LoadFolders(session);
+    EnsureCoverFolder(session);
+}
+
 void LoadDatabaseSettings(Session &session) {
     Trace(session, QStringLiteral("LoadDatabaseSettings()"), kTraceEntry);
     LoadLanguages(session);
     LoadStep(session, SettingStep::First);
     LoadImdbUrl(session);
     LoadStep(session, SettingStep::Rest);
+<<<<<<< HEAD
     LoadFolders(session);
     if (session.window.LoadDatabaseSettings) {
         session.window.LoadDatabaseSettings();
     }
     EnsureCoverFolder(session);
+=======
+    LoadImageFolders(session);
+>>>>>>> 934ba51
     Trace(session, QStringLiteral("LoadDatabaseSettings()"), kTraceExit);
 }
 

@@ -10,6 +10,8 @@ struct Session;
 /// Reads all settings of the open database into the session and its view state, lets the window take them over
 /// (`Session::window.LoadDatabaseSettings`), and makes the image folders.
 void LoadDatabaseSettings(Session &session);
+/// Reads the cover and the headshot folder, the defaults where none are set, and makes them.
+void LoadImageFolders(Session &session);
 /// Writes what follows the windows, after they told it (`Session::window.SaveDatabaseSettings`). Does nothing while no
 /// database is open, or one of a newer program.
 void SaveDatabaseSettings(Session &session);

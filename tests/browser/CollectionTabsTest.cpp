@@ -4,8 +4,6 @@
 #include "browser/TitleQueries.h"
 #include "browser/Views.h"
 
-#include <QSignalSpy>
-
 namespace ostrand {
 namespace {
 
@@ -132,20 +130,22 @@ TEST_F(CollectionTabs, ATypeThatBreaksTheStatementLeavesAnEmptyList) {
     EXPECT_EQ(Keys(), QStringList());
     EXPECT_EQ(browser.labelFilterCount, u"Filtered: 0"_s);
     EXPECT_EQ(browser.current_row, -1);
-    EXPECT_TRUE(LogLines().join(u'\n').contains(u"Error:    ReloadList: "_s));
+    EXPECT_TRUE(LogLines().join(u'\n').contains(u"Error:    GetMovieNames: "_s));
 }
 
 TEST_F(CollectionTabs, AMainTabIsRememberedAndShowsTheTitleAgain) {
     LoadTabs(browser);
     ChangeMode(browser, true);
     ASSERT_EQ(session.CurrentProfileID, u"A1"_s);
-    QSignalSpy titles(&browser, &Browser::TitleChanged);
-    QSignalSpy tabs(&browser, &Browser::MainTabChanged);
+    int titles = 0;
+    int tabs = 0;
+    QObject::connect(&browser, &Browser::TitleChanged, [&] { ++titles; });
+    QObject::connect(&browser, &Browser::MainTabChanged, [&] { ++tabs; });
     SelectMainTab(browser, 3);
     EXPECT_EQ(browser.tabMain_selected, 3);
     EXPECT_EQ(session.view.LastTab, 3);
-    EXPECT_EQ(titles.size(), 1);
-    EXPECT_EQ(tabs.size(), 1);
+    EXPECT_EQ(titles, 1);
+    EXPECT_EQ(tabs, 1);
     EXPECT_TRUE(LogLines().last().contains(u"GetProfileInfos(A1, False, True)"_s)) << qPrintable(LogLines().last());
     SelectMainTab(browser, 4);
     EXPECT_EQ(session.view.LastTab, 1) << "there is no such tab";
@@ -181,9 +181,9 @@ TEST(Filters, QualifyByTheTextBeforeTheFirstFrom) {
         {"all columns", u"SELECT "_s + columns + u" FROM Profiles p"_s, true},
         {"in capitals", (u"select "_s + columns + u" from profiles p"_s).toUpper(), true},
         {"more columns and lines", u"SELECT DISTINCT p.Runtime,\r\n"_s + columns + u"\r\nFROM Profiles p"_s, true},
-        {"another alias", (u"SELECT "_s + columns + u" FROM Profiles q"_s).replace(u"p."_s, u"q."_s), false},
+        {"another alias", u"SELECT "_s + QString(columns).replace(u"p."_s, u"q."_s) + u" FROM Profiles q"_s, false},
         {"a title without its alias",
-         (u"SELECT "_s + columns + u" FROM Profiles p"_s).replace(u"p.Title"_s, u"Title"_s), false},
+         u"SELECT "_s + QString(columns).replace(u"p.Title"_s, u"Title"_s) + u" FROM Profiles p"_s, false},
         {"columns behind the table", u"SELECT p.Title FROM Profiles p ORDER BY "_s + columns, false},
         {"no table", u"SELECT "_s + columns, false},
         {"nothing", {}, false},

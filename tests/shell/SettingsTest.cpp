@@ -408,14 +408,42 @@ TEST_F(SettingsTest, SavesTheViewState) {
 
 TEST_F(SettingsTest, SavedSettingsReadBack) {
     session.view.mReverseCredit = true;
-    session.view.mBoxsetView = false;
     session.view.TabColList = 4;
     SaveDatabaseSettings(session);
     session.view = {};
     LoadDatabaseSettings(session);
     EXPECT_TRUE(session.view.mReverseCredit);
-    EXPECT_FALSE(session.view.mBoxsetView);
     EXPECT_EQ(session.view.TabColList, 4);
+}
+
+TEST_F(SettingsTest, TheStateOfTheBoxsetViewIsKeptAndNotItsWish) {
+    for (const bool state : {false, true}) {
+        session.view.mBoxsetView = !state;
+        session.view.BoxsetView = state;
+        SaveDatabaseSettings(session);
+        EXPECT_EQ(Stored(u"BoxsetView"_s), state ? u"True"_s : u"False"_s);
+        session.view = {};
+        session.view.mBoxsetView = session.view.BoxsetView = !state;
+        LoadDatabaseSettings(session);
+        EXPECT_EQ(session.view.mBoxsetView, state);
+        EXPECT_EQ(session.view.BoxsetView, state);
+    }
+}
+
+TEST_F(SettingsTest, TheWindowTakesThemOverBeforeTheCoverFolderIsSettled) {
+    const QString gone = services.folders.dir / u"gone"_s;
+    Store(u"CoverPath"_s, gone);
+    QStringList seen;
+    session.window.LoadDatabaseSettings = [&] { seen << session.CoverPath; };
+    LoadDatabaseSettings(session);
+    EXPECT_EQ(seen, QStringList{gone + u'/'});
+    EXPECT_NE(session.CoverPath, gone + u'/');
+}
+
+TEST_F(SettingsTest, TheWindowTellsWhatIsWritten) {
+    session.window.SaveDatabaseSettings = [&] { session.view.LastSelectedItem = u"Key_7|12"_s; };
+    SaveDatabaseSettings(session);
+    EXPECT_EQ(Stored(u"LastSelectedItem"_s), u"Key_7"_s);
 }
 
 TEST(SettingsWithoutDatabase, SavesNothing) {

@@ -11,8 +11,10 @@
 #include "collection_files/ProfilerImport.h"
 #include "database/TitlesDue.h"
 #include "database/ui/frmSwitchDatabase.h"
+#include "people/ui/frmDropBox.h"
 #include "shell/FileCommands.h"
 #include "shell/ui/frmAbout.h"
+#include "shell/ui/frmSettings.h"
 
 namespace ostrand {
 
@@ -22,6 +24,15 @@ using Order = TitleList::Order;
 
 void SwitchDatabase(frmMain &main) {
     frmSwitchDatabase(main.browser.session, &main).exec();
+}
+
+void ShowDropBox(frmMain &main) {
+    auto *window = main.findChild<frmDropBox *>();
+    if (!window) {
+        window = new frmDropBox(main.browser.session, &main);
+    }
+    window->show();
+    window->raise();
 }
 
 void ToggleGridLines(Browser &browser, bool ViewState::GridLines::*shown) {
@@ -86,6 +97,8 @@ constexpr Handler kHandlers[] = {
     {u"mAddColType", Browse<AddColType>},
     {u"mRenameCollectionType", Browse<RenameCollectionType>},
     {u"mRemoveColType", Browse<RemoveColType>},
+    {u"mDropBox", ShowDropBox},
+    {u"mSettings", [](frmMain &main) { frmSettings(main.browser.session, &main).exec(); }},
     {u"mAbout", [](frmMain &main) { frmAbout(main.browser.session, &main).exec(); }},
 };
 
@@ -95,8 +108,9 @@ constexpr std::array kGridLists = {&ViewState::GridLines::ListCollection, &ViewS
 void HandleGridLines(frmMain &main) {
     for (const MenuEntry &entry : MenuEntries()) {
         if (std::find(kGridLists.begin(), kGridLists.end(), entry.grid_lines) != kGridLists.end()) {
-            main.browser.commands.Handle(QString::fromUtf16(entry.name),
-                                         [&main, lines = entry.grid_lines] { ToggleGridLines(main.browser, lines); });
+            main.browser.commands.Handle(QString::fromUtf16(entry.name), [&main, lines = entry.grid_lines] {
+                ToggleGridLines(main.browser, lines);
+            });
         }
     }
 }

@@ -2,6 +2,7 @@
 
 #include "browser/Attach.h"
 #include "browser/Browser.h"
+#include "browser/CollectionTabs.h"
 #include "browser/MenuStrings.h"
 #include "browser/Navigation.h"
 #include "browser/ui/CoverPanel.h"
@@ -139,9 +140,7 @@ void frmMain::SetWindowHooks() {
         TranslateNames();
     };
     session.window.ShowAuditMenus = [this] {
-        for (const QString &name : {u"mShowAuditTrail"_s, u"mSVNAuditTrailDatabase"_s}) {
-            browser.commands.SetVisible(name, browser.session.audit.menus_shown);
-        }
+        ostrand::ShowAuditMenus(browser.commands, browser.session.audit.menus_shown);
     };
     session.window.ShowSplash = [this] {
         splash_ = std::make_unique<frmSplash>(browser.session);
@@ -160,6 +159,7 @@ void frmMain::SetWindowHooks() {
     session.window.TranslatePanels = [this] { TranslateNames(); };
     session.window.ChooseDatabase = [this] { ChooseDatabase(); };
     session.window.WriteGeometry = [this] { WriteGeometry(); };
+    session.window.SettingsStored = [this] { SettingsStored(); };
     session.window.ShowListView = [this](std::unique_ptr<ListTable> table) { ShowListView(std::move(table)); };
 }
 
@@ -209,6 +209,13 @@ void frmMain::ApplySettings() {
     titles_->ShowDatabasePath(browser.session.DatabaseFile);
     SetFonts();
     ApplyGridLines();
+}
+
+void frmMain::SettingsStored() {
+    if (!browser.session.view.mTVShows) {
+        ReloadColTypeTabs(browser); // the default types may have come or gone
+    }
+    Q_EMIT browser.SettingsChanged();
 }
 
 void frmMain::SetFonts() {

@@ -48,6 +48,7 @@ private:
     void Layout(bool reset);
     void WriteGeometry();
     void ApplySettings();
+    void SettingsStored();
     void SetFonts();
     void ApplyGridLines();
     void ShowView();

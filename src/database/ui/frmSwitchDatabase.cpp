@@ -2,6 +2,7 @@
 
 #include "shell/Session.h"
 #include "shell/ui/Mnemonics.h"
+#include "shell/ui/TextSize.h"
 
 #include <QDir>
 #include <QHBoxLayout>
@@ -43,6 +44,7 @@ frmSwitchDatabase::frmSwitchDatabase(Session &session, QWidget *parent) :
     path_->setText(QDir::toNativeSeparators(manager_.Folder()));
     SelectRow(std::max(0, manager_.RowOf(manager_.PreviousName())));
     list_->setFocus();
+    ResizeToText(*this, 110, 22);
 }
 
 QWidget *frmSwitchDatabase::MakePathRow(Mnemonics &keys) {
@@ -61,6 +63,7 @@ QWidget *frmSwitchDatabase::MakePathRow(Mnemonics &keys) {
     select_path_->setAccessibleName(manager_.Text(u"Choose the folder of the databases"_s));
     select_path_->setToolTip(select_path_->accessibleName());
     select_path_->setAutoDefault(false);
+    MakeNarrow(*select_path_);
     layout->addWidget(label);
     layout->addWidget(path_, 1);
     layout->addWidget(select_path_);
@@ -85,10 +88,10 @@ QTreeView *frmSwitchDatabase::MakeList() {
     header->setMinimumSectionSize(letter * 8);
     header->setSectionResizeMode(DatabaseManager::Name, QHeaderView::Stretch);
     header->setSectionResizeMode(DatabaseManager::Owner, QHeaderView::Interactive);
-    header->resizeSection(DatabaseManager::Owner, letter * 22);
+    header->resizeSection(DatabaseManager::Owner, letter * 18);
     header->setSectionResizeMode(DatabaseManager::Schema, QHeaderView::ResizeToContents);
     header->setSectionResizeMode(DatabaseManager::Size, QHeaderView::ResizeToContents);
-    list_->setMinimumSize(letter * 72, fontMetrics().height() * 14);
+    list_->setMinimumSize(letter * 50, fontMetrics().height() * 8);
     return list_;
 }
 

@@ -16,7 +16,8 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr int kFieldChars = 40;
+constexpr int kWindowChars = 64;
+constexpr int kFieldChars = 24; ///< at least; the values may be much longer
 constexpr int kListedRows = 16;
 
 /// Takes free text; the values offered are those that hold it.
@@ -48,7 +49,6 @@ frmSQLUserInput::frmSQLUserInput(const Translator &translator, const QString &pr
     labelMessage_->setBuddy(textInput_);
     textInput_->setObjectName(u"textInput"_s);
     textInput_->setAccessibleName(prompt);
-    textInput_->setMinimumWidth(fontMetrics().averageCharWidth() * kFieldChars);
     comboVarValues_->setObjectName(u"comboVarValues"_s);
     comboVarValues_->setAccessibleName(prompt);
     PrepareCombo(*comboVarValues_);
@@ -59,6 +59,8 @@ frmSQLUserInput::frmSQLUserInput(const Translator &translator, const QString &pr
     layout->addWidget(comboVarValues_);
     layout->addStretch();
     AddButtons(translator);
+    setMinimumWidth(fontMetrics().averageCharWidth() * kWindowChars);
+    textInput_->setFocus();
 }
 
 void frmSQLUserInput::AddButtons(const Translator &translator) {
@@ -80,7 +82,9 @@ void frmSQLUserInput::SetValues(const QStringList &values) {
     comboVarValues_->setCurrentIndex(-1);
     comboVarValues_->setVisible(combo_);
     textInput_->setVisible(!combo_);
-    labelMessage_->setBuddy(combo_ ? static_cast<QWidget *>(comboVarValues_) : textInput_);
+    QWidget *field = combo_ ? static_cast<QWidget *>(comboVarValues_) : textInput_;
+    labelMessage_->setBuddy(field);
+    field->setFocus();
 }
 
 void frmSQLUserInput::SetPreset(const QString &preset) {

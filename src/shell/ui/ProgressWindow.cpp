@@ -68,7 +68,8 @@ void ProgressWindow::Build() {
     second_line->addWidget(labelDetail_, 1);
     second_line->addWidget(labelCounter_);
     auto *last_line = new QHBoxLayout;
-    last_line->addWidget(chkCloseWhenFinished_, 1);
+    last_line->addWidget(chkCloseWhenFinished_);
+    last_line->addStretch();
     last_line->addWidget(cbClose_);
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(labelProgress_);

@@ -89,7 +89,9 @@ void WriteWindowPlace(const Session &session, const QString &section, const QWid
     }
     const bool changed = window.isMaximized() || window.isFullScreen();
     const QSize size = changed ? window.normalGeometry().size() : window.size();
-    const QPoint corner = changed ? window.normalGeometry().topLeft() : window.pos();
+    // A place is moved to by the corner of its frame, while the normal geometry is that of what lies within.
+    const QPoint frame = window.geometry().topLeft() - window.pos();
+    const QPoint corner = changed ? window.normalGeometry().topLeft() - frame : window.pos();
     const auto write = [&](const QString &key, int pixels) {
         WriteINIString(session, section, key, QString::number(ToTwips(pixels)));
     };

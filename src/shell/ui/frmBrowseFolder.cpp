@@ -118,6 +118,12 @@ void frmBrowseFolder::SetCurrentFolder(const QString &path) {
     treeFolders_->scrollTo(found, QAbstractItemView::PositionAtCenter);
 }
 
+void frmBrowseFolder::showEvent(QShowEvent *event) {
+    QDialog::showEvent(event);
+    // Only now the tree knows how much it can show.
+    treeFolders_->scrollTo(treeFolders_->currentIndex(), QAbstractItemView::PositionAtCenter);
+}
+
 void frmBrowseFolder::NewFolder() {
     const QModelIndex folder = model_.NewFolder(treeFolders_->currentIndex(), dialogs_, translator_);
     if (folder.isValid()) {

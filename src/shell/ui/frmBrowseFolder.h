@@ -24,6 +24,9 @@ public:
 
     void accept() override;
 
+protected:
+    void showEvent(QShowEvent *event) override;
+
 private:
     void BuildButtons();
     void Select(const QModelIndex &index);

@@ -44,7 +44,8 @@ frmListView::frmListView(Session &session, ListViewContent content, QWidget *par
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(MultiList_);
     const QFontMetrics metrics = fontMetrics();
-    new WindowPlace(session_, u"ListViewWindow"_s, this, {metrics.averageCharWidth() * 90, metrics.lineSpacing() * 24});
+    new WindowPlace(session_, u"ListViewWindow"_s, this,
+                    {metrics.averageCharWidth() * 110, metrics.lineSpacing() * 24});
 }
 
 void frmListView::BuildList() {

@@ -70,7 +70,7 @@ void PaintFilmEdge(QPainter &painter, const QRectF &strip, const SplashColors &c
 
 frmSplash::frmSplash(Session &session) :
     QWidget(nullptr, Qt::SplashScreen | Qt::FramelessWindowHint),
-    labelTitle_(AddLabel(u"labelTitle"_s, QString::fromUtf16(kProgramTitle), 3.4, true)),
+    labelTitle_(AddLabel(u"labelTitle"_s, QString::fromUtf16(kProgramTitle), 3.2, true)),
     labelBeta_(AddLabel(u"labelBeta"_s, u"BETA"_s, 1.0, true)),
     labelLoading_(AddLabel(u"labelLoading"_s, Translate(session, u"Loading..."_s), 1.15, false)),
     lblVersion_(AddLabel(u"lblVersion"_s, SplashVersionText(session), 1.0, false)),
@@ -125,7 +125,7 @@ void frmSplash::paintEvent(QPaintEvent *) {
     ground.setColorAt(0, colors.top);
     ground.setColorAt(1, colors.bottom);
     painter.fillRect(area, ground);
-    PaintDisc(painter, {area.width() * 0.86, area.height() * 0.72}, area.height() * 0.52, colors);
+    PaintDisc(painter, {area.width() * 0.93, area.height() * 0.78}, area.height() * 0.5, colors);
     const double strip = fontMetrics().lineSpacing() * 2.0;
     PaintFilmEdge(painter, QRectF(strip / 2, 0, strip, area.height()), colors);
     painter.setPen(QPen(Faint(colors.line, 0.8), 1));

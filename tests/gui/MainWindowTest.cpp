@@ -1,0 +1,390 @@
+#include "MainWindowFixture.h"
+
+#include "browser/ui/PictureView.h"
+#include "shell/StartUp.h"
+#include "shell/ui/SplitPanel.h"
+#include "shell/ui/frmListView.h"
+
+#include <QClipboard>
+#include <QComboBox>
+#include <QDropEvent>
+#include <QHeaderView>
+#include <QLabel>
+#include <QMenu>
+#include <QMimeData>
+#include <QTabBar>
+#include <QTimer>
+#include <QToolButton>
+
+namespace ostrand {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class MainWindow : public test::MainWindowTest {
+protected:
+    QStringList Tabs() {
+        QStringList captions;
+        const auto *tabs = Control<QTabBar>("tabColList");
+        for (int i = 0; i < tabs->count(); ++i) {
+            captions.append(tabs->tabText(i));
+        }
+        return captions;
+    }
+    void Drop(const QString &path) {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(path)});
+        QDragEnterEvent enter(QPoint(50, 50), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(main.get(), &enter);
+        accepted = enter.isAccepted();
+        if (accepted) {
+            QDropEvent drop(QPointF(50, 50), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(main.get(), &drop);
+            QCoreApplication::processEvents();
+        }
+    }
+
+    bool accepted = false;
+};
+
+TEST_F(MainWindow, HoldsItsControlsUnderTheirNames) {
+    Start();
+    for (const char *name :
+         {"Split1", "Split2", "Split3", "Split4", "Split5", "Split6", "Frame1_1", "Frame4_1", "Frame4_2", "tabMain",
+          "tabColList", "comboFilter", "listSeries", "labelFilterCount", "ListCast", "FrameCrew", "Details", "AV",
+          "listAppearences", "FrameAwards", "picCover", "listSeasons", "listEpisodes", "WebSkin", "toolMain"}) {
+        EXPECT_EQ(main->findChildren<QWidget *>(QLatin1String(name)).size(), 1) << name;
+    }
+    const struct {
+        const char *split, *first, *second;
+        bool horizontal;
+    } panes[] = {
+        {"Split1", "Split2", "Split3", false},   {"Split2", "Frame1_1", "Split6", false},
+        {"Split4", "ListCast", "FrameCrew", true}, {"Split5", "listAppearences", "FrameAwards", true},
+        {"Split6", "Frame4_1", "Frame4_2", true},
+    };
+    for (const auto &pane : panes) {
+        const auto *split = Control<SplitPanel>(pane.split);
+        EXPECT_EQ(split->Control1()->objectName(), QLatin1String(pane.first)) << pane.split;
+        EXPECT_EQ(split->Control2()->objectName(), QLatin1String(pane.second)) << pane.split;
+        EXPECT_EQ(split->Horizontal(), pane.horizontal) << pane.split;
+        EXPECT_EQ(split->MinPanelSize(), 0) << pane.split;
+        EXPECT_EQ(split->SnapToEdge(), QByteArray(pane.split) == "Split2") << pane.split;
+    }
+}
+
+TEST_F(MainWindow, EveryControlThatTakesTheFocusHasAName) {
+    Start();
+    for (const QWidget *widget : main->findChildren<QWidget *>()) {
+        const bool inner = widget->objectName().startsWith(u"qt_"_s) || !widget->isVisibleTo(main.get());
+        const bool takes_focus = (widget->focusPolicy() & Qt::TabFocus) && !inner;
+        if (takes_focus && !qobject_cast<const QAbstractScrollArea *>(widget->parentWidget())) {
+            EXPECT_FALSE(widget->accessibleName().isEmpty())
+                << widget->metaObject()->className() << ' ' << qPrintable(widget->objectName());
+        }
+    }
+}
+
+TEST_F(MainWindow, ShowsTheCollectionWithTheFirstTitleSelected) {
+    Start();
+    EXPECT_EQ(Titles().size(), 60);
+    EXPECT_EQ(Control<QLabel>("labelFilterCount")->text(), u"Filtered: 60"_s);
+    EXPECT_EQ(Control<QLabel>("labelFilterCount")->toolTip(), database);
+    EXPECT_EQ(List()->currentIndex().row(), 0);
+    EXPECT_EQ(session.CurrentProfileID, browser.listSeries.At(0).key);
+    EXPECT_TRUE(main->windowTitle().startsWith(Titles().first())) << qPrintable(main->windowTitle());
+    EXPECT_TRUE(Control<PictureView>("picCover")->HasPicture());
+    EXPECT_EQ(Tabs().mid(0, 4), (QStringList{u"All"_s, u"Owned"_s, u"Ordered"_s, u"WishList"_s}));
+}
+
+TEST_F(MainWindow, AClickShowsATitleAndRemembersTheOneLeft) {
+    Start();
+    const QString first = Selected();
+    ClickRow(2);
+    const QString second = Selected();
+    EXPECT_NE(first, second);
+    EXPECT_TRUE(main->windowTitle().startsWith(second));
+    ASSERT_TRUE(Control<QToolButton>("MoveBack")->isEnabled());
+    Control<QToolButton>("MoveBack")->click();
+    EXPECT_EQ(Selected(), first);
+    ASSERT_TRUE(Control<QToolButton>("MoveForward")->isEnabled());
+    Control<QToolButton>("MoveForward")->click();
+    EXPECT_EQ(Selected(), second);
+}
+
+TEST_F(MainWindow, TheKeysMoveAndRemember) {
+    Start();
+    for (const int key : {Qt::Key_Down, Qt::Key_End, Qt::Key_Up, Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home}) {
+        const QString left = session.CurrentProfileID;
+        QTest::keyClick(List(), Qt::Key(key));
+        EXPECT_NE(session.CurrentProfileID, left) << key;
+        EXPECT_EQ(browser.history.Back().value(0).key, left) << key;
+    }
+}
+
+TEST_F(MainWindow, TypingFindsATitle) {
+    Start();
+    QTest::keyClicks(List(), u"birds"_s);
+    EXPECT_EQ(Selected(), u"Birds of the Car Park"_s);
+    EXPECT_TRUE(main->windowTitle().startsWith(u"Birds of the Car Park"_s));
+}
+
+TEST_F(MainWindow, TheClipboardTakesTheList) {
+    Start();
+    QTest::keyClick(List(), Qt::Key_C, Qt::ControlModifier);
+    const QString visible = services.clipboard.Text();
+    EXPECT_TRUE(visible.contains(Titles().at(3)));
+    QTest::keyClick(List(), Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_GT(services.clipboard.Text().count(u'\t'), visible.count(u'\t'));
+    QTest::keyClick(main.get(), Qt::Key_1, Qt::ControlModifier);
+    EXPECT_TRUE(services.clipboard.Text().startsWith(u"[img]"_s));
+}
+
+TEST_F(MainWindow, ATabListsItsCollectionType) {
+    Start();
+    auto *tabs = Control<QTabBar>("tabColList");
+    QTest::mouseClick(tabs, Qt::LeftButton, {}, tabs->tabRect(2).center());
+    const sql::Recordset ordered =
+        session.Database->OpenRecordset(u"SELECT Title FROM Profiles WHERE ColType = 'Ordered'");
+    EXPECT_EQ(Titles().size(), ordered.RecordCount());
+    QTest::keyClick(tabs, Qt::Key_Left);
+    EXPECT_EQ(tabs->currentIndex(), 1);
+    EXPECT_EQ(SelectedColType(browser), u"Owned"_s);
+}
+
+TEST_F(MainWindow, AHeaderSortsAndComesBackToBoxsets) {
+    Start();
+    const QStringList nested = Titles();
+    QHeaderView *header = List()->header();
+    QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, QPoint(10, header->height() / 2));
+    EXPECT_EQ(session.view.ProfilesSortOrder, 1);
+    EXPECT_NE(Titles(), nested);
+    QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, QPoint(10, header->height() / 2));
+    EXPECT_EQ(session.view.ProfilesSortOrder, 0);
+    EXPECT_EQ(Titles(), nested) << "ascending by title, the boxsets are nested again";
+}
+
+TEST_F(MainWindow, TheSortCommandsShowTheirColumn) {
+    Start();
+    const struct {
+        const char *command;
+        int column;
+    } cases[] = {{"mOrderColNoAsc", TitleList::Number},
+                 {"mOrderProdYearDesc", TitleList::Year},
+                 {"mOrderPDateAsc", TitleList::PurchaseDate},
+                 {"mOrderRDateDesc", TitleList::ReleaseDate}};
+    for (const auto &c : cases) {
+        Trigger(c.command);
+        for (int column = 1; column < kTitleColumns; ++column) {
+            EXPECT_EQ(List()->isColumnHidden(column), column != c.column) << c.command << ' ' << column;
+        }
+    }
+    Trigger("mOrderTitleAsc");
+    EXPECT_FALSE(List()->isColumnHidden(0));
+}
+
+TEST_F(MainWindow, GroupsHaveBoldHeaders) {
+    Start();
+    Trigger("mOrderByGenre");
+    ASSERT_FALSE(Titles().isEmpty());
+    EXPECT_TRUE(List()->model()->index(0, 0).data(TitleList::HeaderRole).toBool());
+    EXPECT_GT(Titles().size(), 60) << "a title of two genres stands in both";
+}
+
+TEST_F(MainWindow, TheViewChangesToSeriesAndBack) {
+    Start();
+    ClickRow(3);
+    Trigger("mTVShows");
+    EXPECT_EQ(Titles(), QStringList(u"The Attic"_s));
+    EXPECT_EQ(Tabs(), QStringList(u"TV"_s));
+    EXPECT_TRUE(Action(u"mTVShows"_s)->isChecked());
+    EXPECT_FALSE(Action(u"mMovies"_s)->isChecked());
+    EXPECT_TRUE(browser.history.Back().isEmpty());
+    auto *seasons = Control<QComboBox>("listSeasons");
+    ASSERT_TRUE(seasons->isVisible());
+    ASSERT_EQ(seasons->count(), 2);
+    EXPECT_EQ(browser.listEpisodes.Rows().at(0).title, u"Dust"_s);
+    QTest::keyClick(seasons, Qt::Key_Down);
+    EXPECT_EQ(browser.listEpisodes.Rows().at(0).title, u"More Dust"_s);
+    EXPECT_FALSE(Control<QComboBox>("comboFilter")->isVisible());
+    Trigger("mMovies");
+    EXPECT_EQ(Titles().size(), 60);
+    EXPECT_FALSE(seasons->isVisible());
+    EXPECT_FALSE(Control<QWidget>("Frame4_2")->isVisible());
+}
+
+TEST_F(MainWindow, AFilterListsWhatItsQueryFinds) {
+    Start({u"INSERT INTO SQLQueries (Name, SQLStatement) VALUES ('Old ones', 'SELECT p.Title, p.ProfileID, p.ColNo, "
+           "p.SortTitle, p.OriginalTitle, p.OriginalSortTitle, p.Description, p.CustomTitle, p.CustomSortTitle "
+           "FROM Profiles p WHERE p.ProdYear < 1980')"_s});
+    auto *filter = Control<QComboBox>("comboFilter");
+    ASSERT_TRUE(filter->isVisible());
+    const int entry = filter->findText(u"Old ones"_s);
+    ASSERT_GE(entry, 0);
+    filter->setCurrentIndex(entry);
+    Q_EMIT filter->textActivated(u"Old ones"_s);
+    const int found =
+        session.Database->OpenRecordset(u"SELECT ProfileID FROM Profiles WHERE ProdYear < 1980").RecordCount();
+    EXPECT_EQ(Titles().size(), found);
+    Trigger("mShowFilter");
+    EXPECT_FALSE(filter->isVisible());
+    Trigger("mShowFilter");
+    EXPECT_TRUE(filter->isVisible());
+}
+
+TEST_F(MainWindow, TheCoverTurnsAround) {
+    Start();
+    auto *cover = Control<PictureView>("picCover");
+    const QString front = cover->File();
+    ASSERT_TRUE(front.endsWith(u"f.jpg"_s, Qt::CaseInsensitive));
+    QTest::mouseClick(cover, Qt::LeftButton);
+    EXPECT_FALSE(session.ShowFrontCover);
+    EXPECT_NE(cover->File(), front);
+}
+
+TEST_F(MainWindow, AFileDroppedOnItIsImported) {
+    Start();
+    const QString file = services.folders.dir.Write(
+        u"one.xml"_s, "<?xml version=\"1.0\"?>\r\n<Collection><DVD><ID>new</ID><MediaTypes><DVD>true</DVD></MediaTypes>"
+                      "<Title>Aardvark</Title><SortTitle>Aardvark</SortTitle></DVD></Collection>");
+    Drop(file);
+    EXPECT_TRUE(accepted);
+    EXPECT_EQ(Titles().size(), 61);
+    EXPECT_GE(RowOf(u"Aardvark"_s), 0);
+}
+
+TEST_F(MainWindow, OtherFilesAreNotTaken) {
+    Start();
+    Drop(services.folders.dir.Write(u"one.txt"_s, "text"));
+    EXPECT_FALSE(accepted);
+}
+
+TEST_F(MainWindow, GoingToATitleSelectsItsRow) {
+    Start();
+    services.dialogs.ExpectInput(u"Please enter title:"_s, u"Mice Above: Below"_s, u"Search Title"_s);
+    Trigger("mGotoProfile");
+    EXPECT_EQ(Selected(), u"Mice Above: Below"_s);
+}
+
+TEST_F(MainWindow, ARandomTitleIsShown) {
+    Start();
+    services.random.numbers = {0.5};
+    Trigger("mSelectRandom");
+    EXPECT_EQ(List()->currentIndex().row(), 30);
+}
+
+TEST_F(MainWindow, LoansDueStandInAListWindowFromWhichTheTitleIsReached) {
+    Start({u"INSERT INTO Users (UserID) VALUES ('Borrower One')"_s,
+           u"DELETE FROM LoanInfo"_s,
+           u"INSERT INTO LoanInfo (ProfileID, UserID, LoanedDue) SELECT TOP 1 ProfileID, 'Borrower One', #5/1/2024# FROM "
+           "Profiles WHERE Title = 'Birds of the Car Park'"_s});
+    Trigger("mShowLoanDue");
+    auto *window = main->findChild<frmListView *>();
+    ASSERT_TRUE(window);
+    EXPECT_EQ(window->windowTitle(), u"Titles due to be returned"_s);
+    Trigger("mShowLoanDue");
+    EXPECT_EQ(main->findChildren<frmListView *>().size(), 1) << "one window for one list";
+    window = main->findChild<frmListView *>();
+    auto *list = window->findChild<QAbstractItemView *>(u"MultiList"_s);
+    ASSERT_EQ(list->model()->rowCount(), 1);
+    Q_EMIT list->activated(list->model()->index(0, 0));
+    EXPECT_EQ(Selected(), u"Birds of the Car Park"_s);
+}
+
+TEST_F(MainWindow, TheEndKeepsWhatTheNextStartShows) {
+    Start();
+    ClickRow(RowOf(u"Birds of the Car Park"_s));
+    auto *tabs = Control<QTabBar>("tabColList");
+    tabs->setCurrentIndex(1);
+    ClickRow(RowOf(u"Birds of the Car Park"_s));
+    main->resize(900, 600);
+    const int position = main->Split(1)->Position() + 300;
+    main->Split(1)->SetPosition(position);
+    main->close();
+    main.reset();
+    EXPECT_FALSE(session.Database);
+
+    Session next(services.services);
+    Browser next_browser(next);
+    frmMain next_main(next_browser);
+    ASSERT_TRUE(next_main.Load({}));
+    EXPECT_EQ(next.DatabaseFile, database);
+    EXPECT_EQ(next_main.size(), QSize(900, 600));
+    EXPECT_EQ(next_main.Split(1)->Position(), position);
+    EXPECT_EQ(next_browser.tabColList_selected, 2);
+    EXPECT_TRUE(next_main.windowTitle().startsWith(u"Birds of the Car Park"_s));
+    next_main.close();
+}
+
+TEST_F(MainWindow, CtrlAtTheStartBringsTheFirstLayoutBack) {
+    services.folders.dir.Write(u"documents/OstrandApp/Settings.ini"_s,
+                               "[Window]\r\nHeight=6000\r\nWidth=6000\r\nTop=3000\r\nLeft=3000\r\n"
+                               "[Splitter]\r\nSplitter1=1500\r\n");
+    services.keyboard.ctrl = true;
+    Start();
+    EXPECT_EQ(main->size(), QSize(17000 / 15, 11000 / 15));
+    EXPECT_EQ(main->pos(), QPoint(13, 13));
+    EXPECT_EQ(GetINIString(session, u"Splitter"_s, u"Splitter1"_s, u"(missing)"_s), QString());
+    EXPECT_NEAR(double(main->Split(1)->Position()) / (main->Split(1)->width() * 15), 0.45, 0.01);
+}
+
+TEST_F(MainWindow, FontsOfTheSettingsReachTheLists) {
+    Start({u"INSERT INTO DbInfo (InfoName, InfoValue) VALUES ('FontSize', '14')"_s,
+           u"INSERT INTO DbInfo (InfoName, InfoValue) VALUES ('FontName', 'DejaVu Sans')"_s});
+    EXPECT_EQ(List()->font().pointSizeF(), 14);
+    EXPECT_EQ(List()->font().family(), u"DejaVu Sans"_s);
+}
+
+TEST_F(MainWindow, GridLinesAreToggledAndKept) {
+    Start();
+    ASSERT_TRUE(Action(u"mToogleGridlinesCollection"_s)->isChecked());
+    Trigger("mToogleGridlinesCollection");
+    EXPECT_FALSE(Action(u"mToogleGridlinesCollection"_s)->isChecked());
+    main->close();
+    EXPECT_EQ(GetINIString(session, u"GridLines"_s, u"ListCollection"_s, {}), u"False"_s);
+}
+
+TEST_F(MainWindow, AFaultOfTheDatabaseIsToldAndTheProgramGoesOn) {
+    Start();
+    session.Database->Execute(u"DROP TABLE Genres");
+    services.dialogs.ExpectMessage({}, MessageIcon::Critical);
+    Trigger("mOrderByGenre");
+    Trigger("mOrderTitleAsc");
+    EXPECT_EQ(Titles().size(), 60);
+}
+
+TEST_F(MainWindow, ADatabaseWithoutProfilesIsAnEmptyList) {
+    database = services.folders.dir / u"empty.mdb"_s;
+    {
+        Session other(services.services);
+        CreateCollectionDatabase(other, database);
+    }
+    Start();
+    EXPECT_EQ(Titles(), QStringList());
+    EXPECT_EQ(Control<QLabel>("labelFilterCount")->text(), u"Filtered: 0"_s);
+    EXPECT_EQ(Tabs(), (QStringList{u"All"_s, u"Owned"_s, u"Ordered"_s, u"WishList"_s}));
+    Trigger("mSelectRandom");
+    QTest::keyClick(List(), Qt::Key_Down);
+    QTest::keyClicks(List(), u"a"_s);
+    EXPECT_EQ(main->windowTitle(), browser.base_caption);
+}
+
+TEST_F(MainWindow, ACommandFileThatClosesEndsTheProgram) {
+    const QString file = services.folders.dir.Write(
+        u"go.txt"_s, (u"opendatabase "_s + database + u"\r\nclose\r\n"_s).toUtf8());
+    main = std::make_unique<frmMain>(browser);
+    EXPECT_FALSE(main->Load(file));
+    EXPECT_FALSE(session.Database);
+}
+
+TEST_F(MainWindow, ACommandFileWithoutCloseLeavesTheLastDatabaseOpen) {
+    const QString file =
+        services.folders.dir.Write(u"go.txt"_s, (u"opendatabase "_s + database + u"\r\n"_s).toUtf8());
+    main = std::make_unique<frmMain>(browser);
+    ASSERT_TRUE(main->Load(file));
+    EXPECT_EQ(Titles().size(), 60);
+    EXPECT_TRUE(main->isVisible());
+}
+
+} // namespace
+} // namespace ostrand
