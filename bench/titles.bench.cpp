@@ -1,7 +1,7 @@
 // How long the title list takes beside one plain SELECT of the columns that it shows, read through the same engine in
 // the same run.
 //
-//   plain select    The columns of all titles, without an order, each value read as text.
+//   floor           The columns of all titles, without an order, each value read as text.
 //   boxset view     GetMovieNames with the children of boxsets below their parents.
 //   flat view       GetMovieNames without.
 //   genres          SpecialProfileOrder("Genre"): each title in two of twenty groups.
@@ -22,6 +22,7 @@
 #include <QTemporaryDir>
 
 #include <cstdio>
+#include <functional>
 #include <limits>
 
 namespace ostrand::bench {
@@ -30,9 +31,12 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr int kRounds = 9;
+constexpr int kRounds = 15;
 constexpr int kChildren = 4;
+constexpr int kGenres = 20;
 constexpr double kGoal = 4;
+/// Of the groups: each of them scans the titles anew.
+constexpr double kGoalOfGroups = 8;
 
 QString IdOf(int title) {
     return u"Key_%1.%2"_s.arg(4'000'000'000'000LL + title * 7919LL).arg(title % 20);
@@ -54,7 +58,7 @@ void AddTitle(sql::Database &database, int title, int titles) {
     database.Execute(
         u"INSERT INTO PurchaseInfo (ProfileID, PurchaseDate) VALUES ('%1', '201%2-03-01')"_s.arg(IdOf(title))
             .arg(title % 10));
-    for (const int genre : {place % 20, (place + 7) % 20}) {
+    for (const int genre : {place % kGenres, (place + 7) % kGenres}) {
         database.Execute(
             u"INSERT INTO Genres (ProfileID, Genre) VALUES ('%1', 'Genre %2')"_s.arg(IdOf(title)).arg(genre));
     }
@@ -72,17 +76,11 @@ void Fill(sql::Database &database, int titles) {
     database.Flush();
 }
 
-/// The quickest of some rounds, in milliseconds.
-template <class Work>
-double Quickest(const Work &work) {
-    qint64 best = std::numeric_limits<qint64>::max();
-    for (int i = 0; i < kRounds; ++i) {
-        QElapsedTimer clock;
-        clock.start();
-        work();
-        best = std::min(best, clock.nsecsElapsed());
-    }
-    return double(best) / 1e6;
+double Milliseconds(const std::function<void()> &work) {
+    QElapsedTimer clock;
+    clock.start();
+    work();
+    return double(clock.nsecsElapsed()) / 1e6;
 }
 
 qsizetype ReadPlainly(sql::Database &database) {
@@ -100,12 +98,20 @@ qsizetype ReadPlainly(sql::Database &database) {
     return units;
 }
 
-bool Report(const char *name, double ours, double floor) {
+/// Measures work and floor by turns, so that what else the machine does meets both, and takes the quickest of each.
+/// False where the ratio is worse than twice the goal.
+bool Report(const char *name, sql::Database &database, double goal, const std::function<void()> &work) {
+    double ours = std::numeric_limits<double>::max();
+    double floor = ours;
+    for (int i = 0; i < kRounds; ++i) {
+        floor = std::min(floor, Milliseconds([&] { ReadPlainly(database); }));
+        ours = std::min(ours, Milliseconds(work));
+    }
     const double ratio = ours / floor;
-    std::printf("%-14s ours %8.2f ms  floor %8.2f ms  ratio %5.2f  goal %.2f%s\n", name, ours, floor, ratio, kGoal,
-                ratio > kGoal ? "  MISSED" : "");
+    std::printf("%-14s ours %8.2f ms  floor %8.2f ms  ratio %5.2f  goal %.2f%s\n", name, ours, floor, ratio, goal,
+                ratio > goal ? "  MISSED" : "");
     std::fflush(stdout);
-    return ratio <= 2 * kGoal;
+    return ratio <= 2 * goal;
 }
 
 /// False where the list is not what it should be, so that nothing is measured by its absence.
@@ -128,29 +134,27 @@ int Run(int titles) {
     browser.tabColList_selected = 2;
     ViewState &view = session.view;
 
-    const double floor = Quickest([&] { ReadPlainly(*session.Database); });
-    std::printf("%-14s %8.2f ms, %d titles\n", "plain select", floor, titles);
-    bool good = true;
-    good &= Report("boxset view", Quickest([&] {
-                       view.BoxsetView = true;
-                       GetMovieNames(browser);
-                   }),
-                   floor);
+    sql::Database &database = *session.Database;
+    const auto fill_boxsets = [&] {
+        view.BoxsetView = true;
+        GetMovieNames(browser);
+    };
+    const auto fill_flat = [&] {
+        view.BoxsetView = false;
+        GetMovieNames(browser);
+    };
+    const auto sort_twice = [&] {
+        ReOrderSeriesList(browser, TitleList::Year, TitleList::Order::Descending);
+        ReOrderSeriesList(browser, TitleList::SortTitle, TitleList::Order::Ascending);
+    };
+    bool good = Report("boxset view", database, kGoal, fill_boxsets);
     good &= Expect(browser, titles);
-    good &= Report("localities", Quickest([&] { SpecialProfileOrder(browser, u"Locality"_s); }), floor);
-    good &= Report("genres", Quickest([&] { SpecialProfileOrder(browser, u"Genre"_s); }), floor);
-    good &= Expect(browser, 2 * titles + 20);
-    good &= Report("flat view", Quickest([&] {
-                       view.BoxsetView = false;
-                       GetMovieNames(browser);
-                   }),
-                   floor);
+    good &= Report("localities", database, kGoalOfGroups, [&] { SpecialProfileOrder(browser, u"Locality"_s); });
+    good &= Report("genres", database, kGoalOfGroups, [&] { SpecialProfileOrder(browser, u"Genre"_s); });
+    good &= Expect(browser, 2 * titles + kGenres);
+    good &= Report("flat view", database, kGoal, fill_flat);
     good &= Expect(browser, titles);
-    good &= Report("sort, twice", Quickest([&] {
-                       ReOrderSeriesList(browser, TitleList::Year, TitleList::Order::Descending);
-                       ReOrderSeriesList(browser, TitleList::SortTitle, TitleList::Order::Ascending);
-                   }),
-                   floor);
+    good &= Report("sort, twice", database, kGoal, sort_twice);
     return good ? 0 : 1;
 }
 

@@ -64,13 +64,13 @@ void BoxsetRows::GetBoxsetChilds(const QString &boxset_id, int level, const QStr
             continue;
         }
         TitleRow row = children_[size_t((*siblings.rows)[siblings.next++])];
-        const qsizetype before = added_.size();
-        added_.insert(row.key.toCaseFolded());
-        if (added_.size() == before) {
+        if (!added_.Add(row.key)) {
             continue;
         }
-        row.texts[TitleList::Title].prepend(QString(siblings.level * kBlanksOfLevel, u' '));
-        row.texts[TitleList::SortTitle].prepend(siblings.parent_key + " - "_L1);
+        QString &title = row.texts[TitleList::Title];
+        title = title.rightJustified(title.size() + qsizetype(siblings.level) * kBlanksOfLevel, u' ');
+        QString &sort_title = row.texts[TitleList::SortTitle];
+        sort_title = siblings.parent_key + " - "_L1 + sort_title;
         const std::vector<int> &below = by_boxset_.Find(row.key);
         if (!below.empty()) {
             // Ends the reference to `siblings`.

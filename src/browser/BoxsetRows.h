@@ -1,9 +1,8 @@
 // The children of boxsets, below their parents in the list.
 #pragma once
 
+#include "browser/KeySet.h"
 #include "browser/TitleList.h"
-
-#include <QSet>
 
 namespace ostrand {
 
@@ -35,7 +34,7 @@ public:
 private:
     std::vector<TitleRow> children_;
     RowsByKey by_boxset_;
-    QSet<QString> added_;
+    KeySet added_;
 };
 
 } // namespace ostrand

@@ -1,13 +1,12 @@
 // listSeries by a saved query.
 #include "browser/Browser.h"
+#include "browser/KeySet.h"
 #include "browser/ListFilling.h"
 #include "browser/TitleQueries.h"
 #include "browser/TitleRows.h"
 #include "database/DatabaseFunctions.h"
 #include "queries/QueryVariables.h"
 #include "shell/Session.h"
-
-#include <QSet>
 
 namespace ostrand {
 
@@ -31,12 +30,10 @@ void AddTitles(Session &session, const QString &statement, std::vector<TitleRow>
         return;
     }
     const TitleRowReader reader(session.view, record);
-    QSet<QString> keys;
+    KeySet keys;
     for (; !record.Eof(); record.MoveNext()) {
         TitleRow row = reader.GroupRow(0, 0);
-        const qsizetype before = keys.size();
-        keys.insert(row.key.toCaseFolded());
-        if (keys.size() == before) {
+        if (!keys.Add(row.key)) {
             throw sql::SqlError(sql::ErrorCode::DuplicateKey, u"The title '%1' comes twice."_s.arg(row.key));
         }
         rows.push_back(std::move(row));

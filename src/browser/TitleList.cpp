@@ -1,12 +1,30 @@
 #include "browser/TitleList.h"
 
+#include "browser/KeySet.h"
 #include "sql/Collation.h"
 
-#include <QSet>
+#include <QtEndian>
 
+#include <cstring>
 #include <numeric>
 
 namespace ostrand {
+
+namespace {
+
+/// A row while it is sorted, with the first bytes of its key, which tell most rows apart.
+struct SortEntry {
+    quint64 start;
+    int row;
+};
+
+quint64 StartOf(const QByteArray &key) {
+    quint64 start = 0;
+    std::memcpy(&start, key.constData(), std::min(size_t(key.size()), sizeof start));
+    return qFromBigEndian(start);
+}
+
+} // namespace
 
 int TitleList::rowCount(const QModelIndex &parent) const {
     return parent.isValid() ? 0 : int(rows_.size());
@@ -65,13 +83,9 @@ void TitleList::SetHeaders(const QStringList &headers) {
 }
 
 int TitleList::Assign(std::vector<TitleRow> rows) {
-    QSet<QString> keys;
-    keys.reserve(qsizetype(rows.size()));
-    const size_t clashes = std::erase_if(rows, [&keys](const TitleRow &row) {
-        const qsizetype before = keys.size();
-        keys.insert(row.key.toCaseFolded());
-        return keys.size() == before;
-    });
+    KeySet keys;
+    keys.Reserve(qsizetype(rows.size()));
+    const size_t clashes = std::erase_if(rows, [&keys](const TitleRow &row) { return !keys.Add(row.key); });
     beginResetModel();
     rows_ = std::move(rows);
     if (sorted_) {
@@ -106,24 +120,27 @@ void TitleList::Unsort() {
 }
 
 std::vector<int> TitleList::SortRows() {
-    struct Entry {
-        QByteArray key;
-        int row;
-    };
-    std::vector<Entry> entries;
+    std::vector<QByteArray> keys;
+    keys.reserve(rows_.size());
+    std::vector<SortEntry> entries;
     entries.reserve(rows_.size());
     for (const TitleRow &row : rows_) {
-        entries.push_back({sql::SortKey(row.texts[size_t(sort_column_)]), int(entries.size())});
+        keys.push_back(sql::SortKey(row.texts[size_t(sort_column_)]));
+        entries.push_back({StartOf(keys.back()), int(entries.size())});
     }
+    const auto is_less = [&keys](const SortEntry &a, const SortEntry &b) {
+        return a.start != b.start ? a.start < b.start : keys[size_t(a.row)] < keys[size_t(b.row)];
+    };
     if (sort_order_ == Order::Ascending) {
-        std::stable_sort(entries.begin(), entries.end(), [](const Entry &a, const Entry &b) { return a.key < b.key; });
+        std::stable_sort(entries.begin(), entries.end(), is_less);
     } else {
-        std::stable_sort(entries.begin(), entries.end(), [](const Entry &a, const Entry &b) { return b.key < a.key; });
+        std::stable_sort(entries.begin(), entries.end(),
+                         [&is_less](const SortEntry &a, const SortEntry &b) { return is_less(b, a); });
     }
     std::vector<TitleRow> sorted;
     sorted.reserve(rows_.size());
     std::vector<int> new_places(rows_.size());
-    for (const Entry &entry : entries) {
+    for (const SortEntry &entry : entries) {
         new_places[size_t(entry.row)] = int(sorted.size());
         sorted.push_back(std::move(rows_[size_t(entry.row)]));
     }

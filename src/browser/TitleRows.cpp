@@ -32,7 +32,10 @@ TitleRowReader::TitleRowReader(const ViewState &view, const sql::Recordset &reco
 
 QString TitleRowReader::Date(int ordinal) const {
     const QString text = record_.Text(ordinal);
-    return DayCountFromText(text) ? text.left(kNoDate.size()) : text;
+    if (record_.Get(ordinal).GetType() == sql::Value::Type::Text && !DayCountFromText(text)) {
+        return text;
+    }
+    return text.left(kNoDate.size());
 }
 
 QString TitleRowReader::SortTitleOrEmpty() const {

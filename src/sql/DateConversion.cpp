@@ -294,6 +294,7 @@ void AppendPadded(QString &text, int number, int width) {
 
 QString DayText(const DateParts &parts) {
     QString text;
+    text.reserve(10);
     AppendPadded(text, parts.year, 4);
     text.append(u'-');
     AppendPadded(text, parts.month, 2);
