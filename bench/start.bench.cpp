@@ -19,6 +19,7 @@
 #include <QKeyEvent>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <QTimer>
 
 namespace ostrand::bench {
 
@@ -60,16 +61,16 @@ void MakeCollection(Session &session, const QString &path, int titles) {
     const sql::Database::Bracket bracket(*session.Database);
     for (int i = 0; i < titles; ++i) {
         const QString id = u"Key_%1"_s.arg(i, 6, 10, u'0');
+        const QString sort_title = u"%1 Film of Number %2"_s.arg(QChar(u'A' + i * 7 % 26)).arg(i);
         session.Database->Execute(
             u"INSERT INTO Profiles (ProfileID, Title, SortTitle, ColNo, ColType, ProdYear, Medium) VALUES "
-            u"('%1', 'The %3 Film of Number %2', '%3 Film of Number %2', '%2', 'Owned', %4, 'DVD')"_s.arg(id)
+            u"('%1', 'The %2', '%2', '%3', 'Owned', %4, 'DVD')"_s.arg(id, sort_title)
                 .arg(i)
-                .arg(QChar(u'A' + i * 7 % 26))
                 .arg(1950 + i % 70));
         if (i % kBoxsetEvery > 0 && i % kBoxsetEvery <= kChildren) {
-            session.Database->Execute(u"INSERT INTO BoxSet (BoxSetID, ChildID) VALUES ('Key_%1', '%2')"_s
-                                          .arg(i - i % kBoxsetEvery, 6, 10, u'0')
-                                          .arg(id));
+            const QString parent = u"Key_%1"_s.arg(i - i % kBoxsetEvery, 6, 10, u'0');
+            session.Database->Execute(
+                u"INSERT INTO BoxSet (BoxSetID, ChildID) VALUES ('%1', '%2')"_s.arg(parent, id));
         }
     }
     WriteDbInfo(session, u"ShowLoanDueOnStartUp"_s, u"0"_s);

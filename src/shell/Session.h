@@ -101,7 +101,6 @@ struct Session {
         std::function<void()> GetLastSelectedItem;
         std::function<void()> ReloadTitles;
         std::function<void()> ShowTitlesDue;
-<<<<<<< HEAD
         /// Steps of the start and the end that only a window can do.
         std::function<void()> ShowAuditMenus;
         std::function<void()> ShowSplash;
@@ -115,10 +114,8 @@ struct Session {
         /// Lets the user choose a database; one is open afterwards, or the program ends.
         std::function<void()> ChooseDatabase;
         std::function<void()> WriteGeometry;
-=======
         /// The settings window stored its entries: tool bar, fonts and tabs follow.
         std::function<void()> SettingsStored;
->>>>>>> 934ba51
         /// Shows a table in a list window of its own.
         std::function<void(std::unique_ptr<ListTable>)> ShowListView;
     };

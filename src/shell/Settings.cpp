@@ -92,15 +92,11 @@ void LoadDatabaseSettings(Session &session) {
     LoadStep(session, SettingStep::First);
     LoadImdbUrl(session);
     LoadStep(session, SettingStep::Rest);
-<<<<<<< HEAD
     LoadFolders(session);
     if (session.window.LoadDatabaseSettings) {
         session.window.LoadDatabaseSettings();
     }
     EnsureCoverFolder(session);
-=======
-    LoadImageFolders(session);
->>>>>>> 934ba51
     Trace(session, QStringLiteral("LoadDatabaseSettings()"), kTraceExit);
 }
 
