@@ -60,7 +60,7 @@ void MakeCollection(Session &session, const QString &path, int titles) {
     CreateCollectionDatabase(session, path);
     const sql::Database::Bracket bracket(*session.Database);
     for (int i = 0; i < titles; ++i) {
-        const QString id = u"Key_%1"_s.arg(i, 6, 10, u'0');
+        const QString id = u"Key_%1"_s.arg(i, 6, 10, QChar(u'0'));
         const QString sort_title = u"%1 Film of Number %2"_s.arg(QChar(u'A' + i * 7 % 26)).arg(i);
         session.Database->Execute(
             u"INSERT INTO Profiles (ProfileID, Title, SortTitle, ColNo, ColType, ProdYear, Medium) VALUES "
@@ -68,9 +68,8 @@ void MakeCollection(Session &session, const QString &path, int titles) {
                 .arg(i)
                 .arg(1950 + i % 70));
         if (i % kBoxsetEvery > 0 && i % kBoxsetEvery <= kChildren) {
-            const QString parent = u"Key_%1"_s.arg(i - i % kBoxsetEvery, 6, 10, u'0');
-            session.Database->Execute(
-                u"INSERT INTO BoxSet (BoxSetID, ChildID) VALUES ('%1', '%2')"_s.arg(parent, id));
+            const QString parent = u"Key_%1"_s.arg(i - i % kBoxsetEvery, 6, 10, QChar(u'0'));
+            session.Database->Execute(u"INSERT INTO BoxSet (BoxSetID, ChildID) VALUES ('%1', '%2')"_s.arg(parent, id));
         }
     }
     WriteDbInfo(session, u"ShowLoanDueOnStartUp"_s, u"0"_s);

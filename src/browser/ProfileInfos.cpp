@@ -34,6 +34,16 @@ void Remember(Browser &browser, const QString &id, bool is_episode) {
     browser.session.CurrentIsEpisode = is_episode;
 }
 
+/// listEpisodes holds the episodes on a title's discs.
+void ListAssignedEpisodes(Browser &browser, const QString &id) {
+    sql::Recordset rows = browser.session.Database->OpenRecordset(
+        u"SELECT e.EpisodeTitle, e.EpisodeOriginalTitle, e.SeriesID, e.Season, s.OriginalTitle, e.EpisodeNo, s.Title, "
+        "e.EpisodeID FROM Episodes e, Profile2Episodes p, TVSeries s WHERE p.ProfileID = '"_s +
+        EscapeSql(id) +
+        u"' AND e.EpisodeID = p.EpisodeID AND s.SeriesID = e.SeriesID ORDER BY SortTitle, Season, EpisodeNo"_s);
+    UpdateEpisodeList(browser, rows);
+}
+
 QString FindTitle(const QString &id, bool is_episode) {
     return (is_episode ? u"SELECT * FROM Episodes WHERE EpisodeID = '"_s
                        : u"SELECT * FROM Profiles WHERE ProfileID = '"_s) +
@@ -82,11 +92,17 @@ void GetProfileInfos(Browser &browser, const QString &key, bool is_episode, bool
         return;
     }
     browser.caption = is_episode ? EpisodeCaption(record) : ProfileCaption(record);
+    if (!is_episode && !keep_credits) {
+        ListAssignedEpisodes(browser, id);
+    }
     Q_EMIT browser.TitleChanged();
 }
 
 void ClearAllProfileInfos(Browser &browser) {
     browser.caption = browser.base_caption;
+    if (!browser.session.view.mTVShows) {
+        browser.listEpisodes.Clear();
+    }
     Q_EMIT browser.TitleChanged();
     if (!browser.cover_stem.isEmpty()) {
         browser.cover_stem.clear();

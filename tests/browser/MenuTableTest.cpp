@@ -73,9 +73,9 @@ const std::vector<Prescribed> &MenuBar() {
         {u"mEditSelected"_s,
          {u"mMoveSelected"_s, u"mLockSelectedProfiles"_s, u"mUnlockSelectedProfiles"_s, u"mRemoveSelected"_s}},
         {u"mTools"_s,
-         {u"mSearchIMDb"_s, u"mHeadshotImport"_s, u"mManageHeadshots"_s, u"mCheckHeadshots"_s, u"mAssignEps"_s,
-          u"mAwardBrowser"_s, u"mRemoveUnneededBirthYears"_s, u"mSQLQuery"_s, u"mSVNAuditTrailDatabase"_s,
-          u"mSettings"_s}},
+         {u"mSearchIMDb"_s, u"mHeadshotImport"_s, u"mManageHeadshots"_s, u"mCheckHeadshots"_s, u"mDropBox"_s,
+          u"mAssignEps"_s, u"mAwardBrowser"_s, u"mRemoveUnneededBirthYears"_s, u"mSQLQuery"_s,
+          u"mSVNAuditTrailDatabase"_s, u"mSettings"_s}},
         {u"mInfo"_s, {u"mAbout"_s}},
     };
     return menus;

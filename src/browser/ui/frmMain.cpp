@@ -115,7 +115,7 @@ void frmMain::Compose() {
 }
 
 void frmMain::ConnectBrowser() {
-    connect(&browser, &Browser::TitleChanged, this, [this] { setWindowTitle(browser.caption); });
+    connect(&browser, &Browser::TitleChanged, this, &frmMain::ShowView);
     connect(&browser, &Browser::SettingsChanged, this, &frmMain::ApplySettings);
     connect(&browser, &Browser::ModeChanged, this, &frmMain::ShowView);
     connect(titles_, &TitleListPanel::TabMenuWanted, this, [this](const QPoint &place) {
