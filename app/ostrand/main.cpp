@@ -4,6 +4,7 @@
 #include "browser/Navigation.h"
 #include "browser/ui/Guarded.h"
 #include "browser/ui/frmMain.h"
+#include "platform_qt/DesktopColours.h"
 #include "platform_qt/QtDesktop.h"
 #include "platform_qt/ThemedIcon.h"
 #include "services/QtProcessRunner.h"
@@ -90,6 +91,7 @@ int main(int argc, char **argv) {
     QApplication::setWindowIcon(ProgramIcon());
     QApplication::setQuitOnLastWindowClosed(false);
 
+    const DesktopColours colours;
     const StopSignals signals_noted;
     Desktop desktop;
     Session session(desktop.services);

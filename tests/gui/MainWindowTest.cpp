@@ -50,16 +50,17 @@ protected:
 TEST_F(MainWindow, HoldsItsControlsUnderTheirNames) {
     Start();
     for (const char *name :
-         {"Split1", "Split2", "Split3", "Split4", "Split5", "Split6", "Frame1_1", "Frame4_1", "Frame4_2", "tabMain",
-          "tabColList", "comboFilter", "listSeries", "labelFilterCount", "ListCast", "FrameCrew", "Details", "AV",
-          "listAppearences", "FrameAwards", "picCover", "listSeasons", "listEpisodes", "WebSkin", "toolMain"}) {
+         {"Split1",      "Split2",       "Split3",  "Split4",     "Split5",          "Split6",      "Frame1_1",
+          "Frame4_1",    "Frame4_2",     "tabMain", "tabColList", "comboFilter",     "listSeries",  "labelFilterCount",
+          "ListCast",    "FrameCrew",    "Details", "AV",         "listAppearences", "FrameAwards", "picCover",
+          "listSeasons", "listEpisodes", "WebSkin", "toolMain"}) {
         EXPECT_EQ(main->findChildren<QWidget *>(QLatin1String(name)).size(), 1) << name;
     }
     const struct {
         const char *split, *first, *second;
         bool horizontal;
     } panes[] = {
-        {"Split1", "Split2", "Split3", false},   {"Split2", "Frame1_1", "Split6", false},
+        {"Split1", "Split2", "Split3", false},     {"Split2", "Frame1_1", "Split6", false},
         {"Split4", "ListCast", "FrameCrew", true}, {"Split5", "listAppearences", "FrameAwards", true},
         {"Split6", "Frame4_1", "Frame4_2", true},
     };
@@ -274,10 +275,10 @@ TEST_F(MainWindow, ARandomTitleIsShown) {
 }
 
 TEST_F(MainWindow, LoansDueStandInAListWindowFromWhichTheTitleIsReached) {
-    Start({u"INSERT INTO Users (UserID) VALUES ('Borrower One')"_s,
-           u"DELETE FROM LoanInfo"_s,
-           u"INSERT INTO LoanInfo (ProfileID, UserID, LoanedDue) SELECT TOP 1 ProfileID, 'Borrower One', #5/1/2024# FROM "
-           "Profiles WHERE Title = 'Birds of the Car Park'"_s});
+    Start(
+        {u"INSERT INTO Users (UserID) VALUES ('Borrower One')"_s, u"DELETE FROM LoanInfo"_s,
+         u"INSERT INTO LoanInfo (ProfileID, UserID, LoanedDue) SELECT TOP 1 ProfileID, 'Borrower One', #5/1/2024# FROM "
+         "Profiles WHERE Title = 'Birds of the Car Park'"_s});
     Trigger("mShowLoanDue");
     auto *window = main->findChild<frmListView *>();
     ASSERT_TRUE(window);
@@ -370,16 +371,15 @@ TEST_F(MainWindow, ADatabaseWithoutProfilesIsAnEmptyList) {
 }
 
 TEST_F(MainWindow, ACommandFileThatClosesEndsTheProgram) {
-    const QString file = services.folders.dir.Write(
-        u"go.txt"_s, (u"opendatabase "_s + database + u"\r\nclose\r\n"_s).toUtf8());
+    const QString file =
+        services.folders.dir.Write(u"go.txt"_s, (u"opendatabase "_s + database + u"\r\nclose\r\n"_s).toUtf8());
     main = std::make_unique<frmMain>(browser);
     EXPECT_FALSE(main->Load(file));
     EXPECT_FALSE(session.Database);
 }
 
 TEST_F(MainWindow, ACommandFileWithoutCloseLeavesTheLastDatabaseOpen) {
-    const QString file =
-        services.folders.dir.Write(u"go.txt"_s, (u"opendatabase "_s + database + u"\r\n"_s).toUtf8());
+    const QString file = services.folders.dir.Write(u"go.txt"_s, (u"opendatabase "_s + database + u"\r\n"_s).toUtf8());
     main = std::make_unique<frmMain>(browser);
     ASSERT_TRUE(main->Load(file));
     EXPECT_EQ(Titles().size(), 60);
