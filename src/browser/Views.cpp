@@ -43,8 +43,8 @@ void EnterView(Browser &browser, bool movies, int tab) {
     ViewState &view = session.view;
     view.mTVShows = !movies;
     browser.commands.FollowView(movies);
+    ForgetTitle(browser); // so that who hears of the mode finds no row of the other one
     Q_EMIT browser.ModeChanged();
-    ForgetTitle(browser);
     ClearAllProfileInfos(browser);
     browser.history.Clear();
     Q_EMIT browser.HistoryChanged();

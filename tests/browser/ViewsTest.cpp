@@ -56,6 +56,17 @@ TEST_F(ViewsTest, TheModeIsToldWhereItIsSeen) {
     EXPECT_EQ(Traced(u"ChangeMode(False)"_s), 1);
 }
 
+TEST_F(ViewsTest, WhoHearsOfTheModeFindsNoRowOfTheOtherOne) {
+    ChangeMode(browser, false);
+    MoveToRow(browser, 1);
+    ASSERT_GT(browser.listEpisodes.rowCount(), 0);
+    int rows = -1;
+    QObject::connect(&browser, &Browser::ModeChanged,
+                     [&] { rows = browser.listSeries.rowCount() + browser.listEpisodes.rowCount(); });
+    ChangeMode(browser, true);
+    EXPECT_EQ(rows, 0);
+}
+
 TEST_F(ViewsTest, EntriesFollowTheView) {
     const QStringList movies = {u"mProfileInfoContext"_s, u"mAssignEpisodes"_s,      u"mAssignEps"_s,
                                 u"mSpecialSorting"_s,     u"mShowFilter"_s,          u"mNewProfile"_s,
