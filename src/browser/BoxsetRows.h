@@ -14,7 +14,6 @@ public:
     void Add(const QString &key, int row);
     /// Empty for a key without rows.
     const std::vector<int> &Find(const QString &key) const;
-    bool IsEmpty() const { return rows_.isEmpty(); }
 
 private:
     QHash<QByteArray, std::vector<int>> rows_;

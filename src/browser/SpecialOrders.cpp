@@ -236,6 +236,7 @@ void SpecialProfileOrder(Browser &browser, const QString &category) {
         }
     } catch (const sql::SqlError &) {
         browser.listSeries.Assign(std::move(rows.Rows()));
+        Q_EMIT browser.CurrentRowChanged();
         throw;
     }
     ShowSpecialOrder(browser, std::move(rows.Rows()));

@@ -61,7 +61,7 @@ public:
     void SetWidth(int column, double fraction);
     double Width(int column) const { return widths_[size_t(column)]; }
 
-    /// The row of a key, before or behind its "|"; -1 when there is none.
+    /// The row with this whole key, whatever its case; -1 when there is none.
     int RowOfKey(const QString &key) const;
     /// The first row of a profile or series, whatever stands behind "|" in its key; -1 when there is none.
     int RowOfTitle(const QString &id) const;

@@ -225,6 +225,22 @@ TEST_F(TitleQueriesTest, DeepNestingDoesNotOverflow) {
     EXPECT_EQ(browser.listSeries.At(kDepth).texts[TitleList::Title].size(), kDepth * 5 + 4);
 }
 
+TEST_F(TitleQueriesTest, StatementsDoNotGrowWithTheTitles) {
+    AddBoxset();
+    int statements = 0;
+    session.Database->SetObserver([&statements](QStringView) { ++statements; });
+    GetMovieNames(browser);
+    const int before = statements;
+    for (int i = 0; i < 20; ++i) {
+        AddProfile(u"T%1"_s.arg(i));
+    }
+    statements = 0;
+    GetMovieNames(browser);
+    EXPECT_EQ(browser.listSeries.rowCount(), 25);
+    EXPECT_EQ(statements, before);
+    session.Database->SetObserver({});
+}
+
 TEST_F(TitleQueriesTest, OwnedIncludesOtherTypes) {
     AddProfile(u"Mill"_s);
     AddProfile(u"Arc"_s, u"ColType = 'Lent'"_s);
