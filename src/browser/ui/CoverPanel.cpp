@@ -8,6 +8,7 @@
 #include "shell/Session.h"
 
 #include <QHeaderView>
+#include <QScopedValueRollback>
 #include <QSignalBlocker>
 
 namespace ostrand {
@@ -64,10 +65,14 @@ EpisodePanel::EpisodePanel(Browser &browser, QWidget *parent) :
 
     connect(listEpisodes_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex &current) {
-                if (current.isValid()) {
+                if (!following_ && current.isValid()) {
                     LoadEpisode(browser_, current.data(EpisodeList::KeyRole).toString());
                 }
             });
+    connect(&browser_, &Browser::CurrentEpisodeChanged, this, [this] {
+        const QScopedValueRollback<bool> follow(following_, true);
+        listEpisodes_->setCurrentIndex(browser_.listEpisodes.index(browser_.current_episode, 0));
+    });
     TranslateNames();
 }
 

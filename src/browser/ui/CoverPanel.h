@@ -37,6 +37,7 @@ private:
     Browser &browser_;
     QTreeView *listEpisodes_;
     GridDelegate *delegate_;
+    bool following_ = false;
 };
 
 } // namespace ostrand
