@@ -1,0 +1,42 @@
+#!/usr/bin/env bash
+# Runs the desktop program on a virtual screen: a command file that makes a collection and ends the program, then a
+# start on that collection which is asked to end. Usage: check_desktop.sh FOLDER-OF-PROGRAMS
+set -euo pipefail
+programs=$(cd "$1" && pwd)
+samples=$(cd "$(dirname "$0")/../resources/samples" && pwd)
+home=$(mktemp -d)
+trap 'rm -rf "$home"' EXIT
+export HOME=$home XDG_RUNTIME_DIR=$home/run LC_ALL=C.UTF-8
+mkdir -m 700 "$XDG_RUNTIME_DIR"
+
+# Questions and messages wait for a person, so that the collection's own start is told beforehand.
+cat >"$home/make.txt" <<COMMANDS
+createdatabase $home/sample.mdb
+importprofilerdatabase $samples/collection.xml
+close
+COMMANDS
+"$programs/ostrand-batch" --yes --quiet "$home/make.txt" >/dev/null
+"$programs/ostrand-batch" --sql "$home/sample.mdb" >/dev/null \
+    <<<"INSERT INTO DbInfo (InfoName, InfoValue) VALUES ('ShowLoanDueOnStartUp', '0');"
+cat >"$home/again.txt" <<COMMANDS
+opendatabase $home/sample.mdb
+exportadditionalinfos $home/infos.xml
+close
+COMMANDS
+
+on_screen() {
+    timeout 60 xvfb-run -a "$@"
+}
+
+on_screen "$programs/ostrand" "$home/again.txt"
+[ -s "$home/infos.xml" ] || { echo "the command file wrote nothing"; exit 1; }
+echo "a command file ended the program"
+
+status=0
+timeout --signal=TERM 8 xvfb-run -a bash -c "timeout --preserve-status --signal=TERM 4 '$programs/ostrand' '$home/sample.mdb'" || status=$?
+[ "$status" -eq 0 ] || { echo "the program ended with status $status"; exit 1; }
+settings=$(find "$home" -name Settings.ini)
+grep -q '^Splitter1=[0-9]' "$settings" || { echo "the window's splitters were not kept"; exit 1; }
+profiles=$("$programs/ostrand-batch" --sql "$home/sample.mdb" --format csv <<<"SELECT COUNT(*) FROM Profiles;" | tail -n 1 | tr -d '\r')
+[ "$profiles" = 60 ] || { echo "$profiles profiles instead of 60"; exit 1; }
+echo "a window opened, was asked to end and kept its state"
