@@ -1,0 +1,150 @@
+#include "skin/Template.h"
+
+#include <cmath>
+
+namespace ostrand {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr qsizetype kNone = -1;
+
+bool IsWordCharacter(QChar c) {
+    return c == u'_' || (c >= u'0' && c <= u'9') || (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z');
+}
+
+bool IsWhite(QChar c) {
+    return c == u' ' || (c >= u'\t' && c <= u'\r');
+}
+
+/// ASCII only: a letter of another alphabet that folds to one of these is not one of these.
+bool MatchesAt(QStringView text, qsizetype at, QLatin1String word) {
+    if (at + word.size() > text.size()) {
+        return false;
+    }
+    for (qsizetype i = 0; i < word.size(); ++i) {
+        const char16_t c = text[at + i].unicode();
+        const char16_t lower = c >= u'A' && c <= u'Z' ? char16_t(c + 32) : c;
+        const char16_t wanted = word[i].unicode();
+        if (lower != (wanted >= u'A' && wanted <= u'Z' ? char16_t(wanted + 32) : wanted)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+/// Behind `<DP Name="`, where one begins at `at`; kNone elsewhere.
+qsizetype BehindOpening(QStringView page, qsizetype at) {
+    for (const QLatin1String opening : {"<OSV Name=\""_L1, "<DP Name=\""_L1}) {
+        if (MatchesAt(page, at, opening)) {
+            return at + opening.size();
+        }
+    }
+    return kNone;
+}
+
+/// The quotes that can end a tag, with the place behind their ">".
+struct TagEnd {
+    qsizetype quote;
+    qsizetype behind;
+};
+
+std::vector<TagEnd> TagEnds(QStringView page) {
+    // From the end to the front, so that the white space behind a quote is walked through once.
+    std::vector<TagEnd> ends;
+    qsizetype next_solid = page.size();
+    for (qsizetype i = page.size() - 1; i >= 0; --i) {
+        if (page[i] == u'"') {
+            qsizetype at = next_solid;
+            if (at < page.size() && page[at] == u'/') {
+                ++at;
+            }
+            if (at < page.size() && page[at] == u'>') {
+                ends.push_back({i, at + 1});
+            }
+        }
+        if (!IsWhite(page[i])) {
+            next_solid = i;
+        }
+    }
+    std::reverse(ends.begin(), ends.end());
+    return ends;
+}
+
+QString ByRules(QString value) {
+    const QString lower = value.toLower();
+    if (lower == "yes"_L1) {
+        value = u"true"_s;
+    } else if (lower == "no"_L1) {
+        value = u"false"_s;
+    }
+    return value.toUpper() == "BREAK"_L1 ? u"<br/>"_s : value;
+}
+
+/// The attribute as it stands; empty without one.
+QStringView RawAttribute(QStringView tag, QStringView name) {
+    for (qsizetype at = tag.indexOf(name, 0, Qt::CaseInsensitive); at >= 0;
+         at = tag.indexOf(name, at + 1, Qt::CaseInsensitive)) {
+        const qsizetype begin = at + name.size() + 2;
+        const bool at_border = at == 0 || !IsWordCharacter(tag[at - 1]);
+        if (!at_border || begin > tag.size() || tag[begin - 2] != u'=' || tag[begin - 1] != u'"') {
+            continue;
+        }
+        const qsizetype end = tag.indexOf(u'"', begin);
+        if (end > begin) {
+            return tag.mid(begin, end - begin);
+        }
+    }
+    return {};
+}
+
+} // namespace
+
+QStringList FindSkinTags(const QString &page) {
+    QStringList tags;
+    const std::vector<TagEnd> ends = TagEnds(page);
+    auto end = ends.begin();
+    for (qsizetype at = page.indexOf(u'<'); at >= 0;) {
+        qsizetype next = at + 1;
+        if (const qsizetype inside = BehindOpening(page, at); inside != kNone) {
+            end = std::lower_bound(end, ends.end(), inside,
+                                   [](const TagEnd &a, qsizetype place) { return a.quote < place; });
+            const qsizetype line_end = page.indexOf(u'\n', inside);
+            if (end != ends.end() && (line_end < 0 || end->quote < line_end)) {
+                tags.append(page.mid(at, end->behind - at));
+                next = end->behind;
+            }
+        }
+        at = page.indexOf(u'<', next);
+    }
+    return tags;
+}
+
+QString GetTagAttribute(const QString &tag, QStringView name, const QString &preset) {
+    const QStringView raw = RawAttribute(tag, name);
+    return ByRules(raw.isEmpty() ? preset : raw.toString());
+}
+
+bool GetTagFlag(const QString &tag, QStringView name, bool preset) {
+    const QString value = GetTagAttribute(tag, name, preset ? u"true"_s : u"false"_s);
+    const QString trimmed = value.trimmed().toLower();
+    if (trimmed == "true"_L1 || trimmed == "false"_L1) {
+        return trimmed == "true"_L1;
+    }
+    bool numeric = false;
+    const double number = trimmed.toDouble(&numeric);
+    if (!numeric) {
+        throw SkinFailure(u"Type mismatch: %1=\"%2\""_s.arg(name, value));
+    }
+    return number != 0;
+}
+
+int GetTagNumber(const QString &tag, QStringView name, int preset) {
+    bool numeric = false;
+    const double number = GetTagAttribute(tag, name, {}).trimmed().toDouble(&numeric);
+    constexpr double kMost = 2147483647.0;
+    return numeric && std::abs(number) <= kMost ? int(std::nearbyint(number)) : preset;
+}
+
+} // namespace ostrand
