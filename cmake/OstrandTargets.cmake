@@ -1,11 +1,13 @@
 # Compiler settings that every target of ours shares, and one function per kind of target.
 
+include(GNUInstallDirs)
 add_library(ostrand_settings INTERFACE)
 target_compile_definitions(ostrand_settings INTERFACE
   QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_FOREACH QT_NO_KEYWORDS
   OSTRAND_VERSION_MAJOR=${PROJECT_VERSION_MAJOR}
   OSTRAND_VERSION_MINOR=${PROJECT_VERSION_MINOR}
-  OSTRAND_VERSION_PATCH=${PROJECT_VERSION_PATCH})
+  OSTRAND_VERSION_PATCH=${PROJECT_VERSION_PATCH}
+  OSTRAND_LIBRARY_FOLDER="${CMAKE_INSTALL_FULL_LIBDIR}/ostrand")
 target_compile_options(ostrand_settings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Werror)
 target_include_directories(ostrand_settings INTERFACE ${CMAKE_SOURCE_DIR}/src)
 if(CMAKE_CXX_COMPILER_ID MATCHES Clang)
