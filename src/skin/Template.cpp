@@ -105,13 +105,17 @@ QStringList FindSkinTags(const QString &page) {
     QStringList tags;
     const std::vector<TagEnd> ends = TagEnds(page);
     auto end = ends.begin();
+    qsizetype line_end = kNone; // the first one behind the last opening, looked for anew once it is passed
     for (qsizetype at = page.indexOf(u'<'); at >= 0;) {
         qsizetype next = at + 1;
         if (const qsizetype inside = BehindOpening(page, at); inside != kNone) {
             end = std::lower_bound(end, ends.end(), inside,
                                    [](const TagEnd &a, qsizetype place) { return a.quote < place; });
-            const qsizetype line_end = page.indexOf(u'\n', inside);
-            if (end != ends.end() && (line_end < 0 || end->quote < line_end)) {
+            if (line_end < inside) {
+                line_end = page.indexOf(u'\n', inside);
+                line_end = line_end < 0 ? page.size() : line_end;
+            }
+            if (end != ends.end() && end->quote < line_end) {
                 tags.append(page.mid(at, end->behind - at));
                 next = end->behind;
             }
