@@ -105,7 +105,7 @@ QStringList FindSkinTags(const QString &page) {
     QStringList tags;
     const std::vector<TagEnd> ends = TagEnds(page);
     auto end = ends.begin();
-    qsizetype line_end = -1; // of the line that was looked at last; the page's end for its last line
+    qsizetype line_end = kNone; // the first one behind the last opening, looked for anew once it is passed
     for (qsizetype at = page.indexOf(u'<'); at >= 0;) {
         qsizetype next = at + 1;
         if (const qsizetype inside = BehindOpening(page, at); inside != kNone) {

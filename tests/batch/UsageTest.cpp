@@ -26,6 +26,28 @@ TEST(BatchUsage, WrongUsageIsTold) {
         {"unknown format", {u"--sql"_s, u"a.mdb"_s, u"--format"_s, u"xml"_s}, "There is no format \"xml\"."},
         {"create without sql", {u"--create"_s, u"c.txt"_s}, "--create and --format need --sql."},
         {"format without sql", {u"--format"_s, u"csv"_s, u"c.txt"_s}, "--create and --format need --sql."},
+        {"render without a title",
+         {u"--render"_s, u"Plain"_s, u"--database"_s, u"a.mdb"_s, u"-o"_s, u"o.html"_s},
+         "--render needs the key of a profile or an episode."},
+        {"render without a database",
+         {u"--render"_s, u"Plain"_s, u"Key_1"_s, u"-o"_s, u"o.html"_s},
+         "--render needs --database and -o."},
+        {"render without a file",
+         {u"--render"_s, u"Plain"_s, u"Key_1"_s, u"--database"_s, u"a.mdb"_s},
+         "--render needs --database and -o."},
+        {"render and sql",
+         {u"--render"_s, u"Plain"_s, u"Key_1"_s, u"--sql"_s, u"a.mdb"_s},
+         "--sql and --render exclude each other."},
+        {"render without a skin", {u"Key_1"_s, u"--render"_s}, "--render needs a value."},
+        {"two titles",
+         {u"--render"_s, u"Plain"_s, u"Key_1"_s, u"Key_2"_s, u"--database"_s, u"a.mdb"_s, u"-o"_s, u"o.html"_s},
+         "More than one file is named."},
+        {"database without render",
+         {u"--database"_s, u"a.mdb"_s, u"c.txt"_s},
+         "--database, --offline and -o need --render."},
+        {"offline without render", {u"--offline"_s, u"c.txt"_s}, "--database, --offline and -o need --render."},
+        {"a page without render", {u"c.txt"_s, u"-o"_s, u"o.html"_s}, "--database, --offline and -o need --render."},
+        {"a page without a name", {u"c.txt"_s, u"-o"_s}, "-o needs a value."},
         {"yes and no", {u"--yes"_s, u"--no"_s, u"c.txt"_s}, "--yes and --no exclude each other."},
         {"value for a switch", {u"--quiet=yes"_s, u"c.txt"_s}, "--quiet takes no value."},
         {"unknown locale", {u"--locale"_s, u"nowhere"_s, u"c.txt"_s}, "There is no locale \"nowhere\"."},
@@ -45,8 +67,8 @@ TEST(BatchUsage, HelpAndVersion) {
     const BatchResult help = program.Run({u"--help"_s});
     EXPECT_EQ(help.status, 0);
     EXPECT_TRUE(help.output.startsWith("Usage: ostrand-batch "));
-    for (const char *option :
-         {"--help", "--version", "--sql", "--create", "--format", "--yes", "--no", "--locale", "--quiet"}) {
+    for (const char *option : {"--help", "--version", "--sql", "--create", "--format", "--render", "--database",
+                               "--offline", "-o", "--yes", "--no", "--locale", "--quiet"}) {
         EXPECT_TRUE(help.output.contains(QByteArray("  ") + option + ' ')) << option;
     }
     const BatchResult version = program.Run({u"--version"_s});

@@ -73,6 +73,7 @@ TEST(SkinTags, AgreeWithTheExpressionOnRandomPages) {
 TEST(SkinTags, OfAHostilePageTakeNoTimeToSpeakOf) {
     const QString openings = u"<DP Name=\""_s.repeated(200000);
     EXPECT_EQ(FindSkinTags(openings), QStringList());
+    EXPECT_EQ(FindSkinTags(openings + u"\n\">"_s), QStringList());
     EXPECT_EQ(FindSkinTags(u"\""_s.repeated(1000000) + u" "_s.repeated(1000000)), QStringList());
     EXPECT_EQ(FindSkinTags(u"<DP Name=\"A\">"_s.repeated(50000)).size(), 50000);
 }

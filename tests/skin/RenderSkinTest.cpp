@@ -1,0 +1,110 @@
+#include "SkinFixture.h"
+
+namespace ostrand {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class RenderSkin : public SkinTest {
+protected:
+    void SetUp() override {
+        SkinTest::SetUp();
+        skin.ActiveSkin = u"Plain"_s;
+    }
+};
+
+TEST_F(RenderSkin, FillsEveryTag) {
+    const struct {
+        const char *name;
+        QString page, result;
+    } cases[] = {
+        {"one", u"a<DP NAME=\"PRODYEAR\">b"_s, u"a1999b"_s},
+        {"any case, both prefixes, closed or not",
+         u"<dp name=\"prodyear\" ><OSV NAME=\"ProdYear\"/><Dp NAME=\"PRODYEAR\"\t/>"_s, u"199919991999"_s},
+        {"the same twice", u"<DP NAME=\"PRODYEAR\">-<DP NAME=\"PRODYEAR\">"_s, u"1999-1999"_s},
+        {"unknown ones vanish", u"[<DP NAME=\"NONE\">][<DP NAME=\"CREDITS_OTHER\">][<DP NAME=\"AWARDS_LIST\">]"_s,
+         u"[][][]"_s},
+        {"in comments and scripts", u"<!-- <DP NAME=\"MEDIUM\"> --><script>'<DP NAME=\"COLLNUM\">'</script>"_s,
+         u"<!-- DVD --><script>'7'</script>"_s},
+        {"what is no tag stays", u"<DP  NAME=\"TITLE\"><DP NAME='TITLE'><DP NAME=\"MEDIUM\">"_s,
+         u"<DP  NAME=\"TITLE\"><DP NAME='TITLE'>DVD"_s},
+        {"markup passes through", u"<html>\r\n&amp;%20\t<DP NAME=\"MEDIUM\">\n</html>"_s,
+         u"<html>\r\n&amp;%20\tDVD\n</html>"_s},
+        {"values are not decoded", u"<DP NAME=\"TRANSLATION\" Original=\"<i>&lt;</i>\">"_s, u"<i>&lt;</i>"_s},
+        {"a no is false for texts too", u"<DP NAME=\"TRANSLATION\" Original=\"No\">"_s, u"false"_s},
+        {"a break is one for texts too", u"<DP NAME=\"TRANSLATION\" Original=\"Break\">"_s, u"<br/>"_s},
+        {"an empty value is none", u"[<DP NAME=\"TRANSLATION\" Original=\"\">]"_s, u"[]"_s},
+    };
+    for (const auto &c : cases) {
+        EXPECT_EQ(Page(c.page), c.result) << c.name;
+    }
+}
+
+TEST_F(RenderSkin, TagsInTextsOfTheDatabaseAreInert) {
+    SetColumn(u"Key_1"_s, u"Overview"_s, u"<DP NAME=\"COLLNUM\">"_s);
+    EXPECT_EQ(Page(u"<DP NAME=\"OVERVIEW\">"_s), u"<DP NAME=\"COLLNUM\">"_s);
+    EXPECT_EQ(Page(u"<DP NAME=\"COLLNUM\">|<DP NAME=\"OVERVIEW\">"_s), u"7|<DP NAME=\"COLLNUM\">"_s);
+    EXPECT_EQ(Page(u"<DP NAME=\"OVERVIEW\">|<DP NAME=\"COLLNUM\">"_s), u"7|7"_s)
+        << "unless the page holds the very same tag further down";
+    EXPECT_EQ(Page(u"<DP NAME=\"OVERVIEW\">|<dp NAME=\"COLLNUM\">"_s), u"<DP NAME=\"COLLNUM\">|7"_s)
+        << "another spelling is another text";
+}
+
+TEST_F(RenderSkin, ReplacesTheExactTextOnly) {
+    EXPECT_EQ(Page(u"<DP NAME=\"MEDIUM\"> <DP NAME=\"medium\"> <!<DP NAME=\"MEDIUM\">>"_s), u"DVD DVD <!DVD>"_s);
+}
+
+TEST_F(RenderSkin, EvaluatesATagThatStandsTwiceTwice) {
+    // The first evaluation fills both places; the second finds what a producer's text brought in.
+    SetColumn(u"Key_1"_s, u"Overview"_s, u"[<DP NAME=\"OVERVIEW\">]"_s);
+    EXPECT_EQ(Page(u"<DP NAME=\"OVERVIEW\">"_s), u"[<DP NAME=\"OVERVIEW\">]"_s);
+    EXPECT_EQ(Page(u"<DP NAME=\"OVERVIEW\"> <DP NAME=\"OVERVIEW\">"_s),
+              u"[[<DP NAME=\"OVERVIEW\">]] [[<DP NAME=\"OVERVIEW\">]]"_s);
+}
+
+TEST_F(RenderSkin, ABackButtonStandsInAFrameAbove) {
+    TranslateAs(u"Back"_s, u"Zur\u00FCck"_s);
+    EXPECT_EQ(Page(u"x<DP NAME=\"MEDIUM\">y"_s, u"Key_1"_s, false, u"Key_2"_s),
+              u"<HTML><BODY>\r\n<frameset rows='20,*' border='0'>\r\n<frame><INPUT TYPE='button' "
+              "onClick=\"self.location.href='blank.html?profileid=Key_2'\" VALUE=' < Zur\u00FCck '><BR></frame>\r\n"
+              "<frame>xDVDy</frame> </frameset>"_s);
+}
+
+TEST_F(RenderSkin, AnEpisodeHasNoFieldsOfProfiles) {
+    EXPECT_EQ(Page(u"[<DP NAME=\"SORTTITLE\">][<DP NAME=\"OVERVIEW\">][<DP NAME=\"PRODYEAR\">]"_s, u"E1"_s, true),
+              u"[][Rain][]"_s);
+}
+
+TEST_F(RenderSkin, FailsWithoutATag) {
+    for (const QString &page : {u"<html>plain</html>"_s, u"<DP NAME='TITLE'>"_s, QString()}) {
+        EXPECT_THROW(Page(page), SkinFailure) << qPrintable(page);
+        EXPECT_THROW(Page(page, u"Key_1"_s, false, u"Key_2"_s), SkinFailure) << qPrintable(page);
+    }
+}
+
+TEST_F(RenderSkin, FailsWithATagThatIsNotGuarded) {
+    EXPECT_THROW(Page(u"<DP NAME=\"CASETYPE\" Translate=\"maybe\">"_s), SkinFailure);
+    EXPECT_THROW(Page(u"<DP NAME=\"MEDIUM\">"_s, u"Key_none"_s), sql::SqlError) << "there is no such row";
+    EXPECT_EQ(Page(u"<DP NAME=\"SKIN_NAME\">"_s, u"Key_none"_s), u"Plain"_s) << "and this one needs none";
+}
+
+TEST_F(RenderSkin, APageDoesNotGrowWithoutEnd) {
+    // Each tag multiplies what the one before it wrote.
+    const QString tag = u"<DP NAME=\"OVERVIEW\">"_s;
+    SetColumn(u"Key_1"_s, u"Overview"_s, tag + tag);
+    EXPECT_EQ(Page(tag.repeated(3)), tag.repeated(24));
+    SetColumn(u"Key_1"_s, u"Overview"_s, tag.repeated(4000));
+    EXPECT_THROW(Page(tag.repeated(60)), SkinFailure);
+}
+
+TEST_F(RenderSkin, ManyTagsTakeNoTimeToSpeakOf) {
+    QString page;
+    for (int i = 0; i < 2000; ++i) {
+        page += u"<DP NAME=\"MEDIUM\" No%1=\"x\">"_s.arg(i);
+    }
+    EXPECT_EQ(Page(page), u"DVD"_s.repeated(2000));
+    EXPECT_EQ(Page(u"<DP NAME=\"MEDIUM\">"_s + u"<DP NAME=\"NONE\">"_s.repeated(20000)), u"DVD"_s);
+}
+
+} // namespace
+} // namespace ostrand
