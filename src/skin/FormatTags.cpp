@@ -3,6 +3,8 @@
 #include "skin/EntryList.h"
 #include "skin/SkinTags.h"
 
+#include <span>
+
 namespace ostrand {
 
 using namespace Qt::StringLiterals;
