@@ -43,9 +43,9 @@ struct ProfileEntries {
             call.options.offline ? page.remove(u"Key_"_s) + ".html"_L1 : "blank.html?profileid="_L1 + key;
         return "<A HREF=\""_L1 + target + "\">"_L1 + title + "</A>"_L1;
     }
-    QString Cover(const TagCall &call, const QString &key) const {
+    static QString Cover(const TagCall &call, const QString &key) {
         QString image;
-        Guard(call, u"GetDPImage"_s, u"IMAGE"_s, [&] { WriteCoverImage(call, key, CoverLink::Profile, image); });
+        WriteCoverImage(call, key, CoverLink::Profile, image);
         return image;
     }
     void Write(const TagCall &call, sql::Recordset rows, QString &text) const {
