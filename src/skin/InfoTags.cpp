@@ -1,6 +1,7 @@
 #include "database/DatabaseFunctions.h"
 #include "shell/Session.h"
 #include "skin/SkinTags.h"
+#include "skin/TextConversion.h"
 
 namespace ostrand {
 
@@ -12,7 +13,7 @@ QString NamedInfo(const TagCall &call, const QString &from, const QString &name)
     QString text;
     for (sql::Recordset infos = call.Rows(from + u" AND InfoName = '"_s + EscapeSql(name) + u'\''); !infos.Eof();
          infos.MoveNext()) {
-        text += infos.Text(u"InfoValue").replace("\r\n"_L1, "<br/>"_L1);
+        text += WithBreaks(infos.Text(u"InfoValue"));
     }
     return text;
 }
