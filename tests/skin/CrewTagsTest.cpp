@@ -2,6 +2,8 @@
 #include "ProducerFixture.h"
 #include "skin/TextConversion.h"
 
+#include <QDir>
+
 namespace ostrand {
 namespace {
 
