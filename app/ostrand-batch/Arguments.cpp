@@ -47,6 +47,13 @@ constexpr Option kOptions[] = {
     {"--create", nullptr, "with --sql: makes the database, which must not exist",
      [](A &a, const QString &) { a.create = true; }},
     {"--format", "text|csv|json", "with --sql: form of the results, text by default", SetFormat},
+    {"--render", "SKIN", "writes the page of a profile or an episode, whose key stands beside",
+     [](A &a, const QString &value) { a.render = value; }},
+    {"--database", "FILE.mdb", "with --render: the collection that holds it",
+     [](A &a, const QString &value) { a.database = value; }},
+    {"--offline", nullptr, "with --render: the page as the site has it, with links of its own",
+     [](A &a, const QString &) { a.offline = true; }},
+    {"-o", "FILE.html", "with --render: the file to write", [](A &a, const QString &value) { a.page_file = value; }},
     {"--yes", nullptr, "answers questions with Yes or OK", [](A &a, const QString &) { SetAnswer(a, true); }},
     {"--no", nullptr, "answers questions with No or Cancel", [](A &a, const QString &) { SetAnswer(a, false); }},
     {"--locale", "NAME", "takes the decimal mark and the date pattern of that locale, such as de_DE", SetLocale},
@@ -91,12 +98,31 @@ void TakeOption(Arguments &parsed, const QStringList &arguments, qsizetype &inde
     }
 }
 
+QString FindRenderFault(const Arguments &parsed) {
+    if (parsed.sql) {
+        return QStringLiteral("--sql and --render exclude each other.");
+    }
+    if (parsed.target.isEmpty()) {
+        return QStringLiteral("--render needs the key of a profile or an episode.");
+    }
+    if (parsed.database.isEmpty() || parsed.page_file.isEmpty()) {
+        return QStringLiteral("--render needs --database and -o.");
+    }
+    return {};
+}
+
 QString FindContradiction(const Arguments &parsed) {
-    if (parsed.sql && !parsed.target.isEmpty()) {
+    if (parsed.sql && parsed.render.isEmpty() && !parsed.target.isEmpty()) {
         return QStringLiteral("--sql takes no further file.");
     }
     if (!parsed.sql && (parsed.create || parsed.format)) {
         return QStringLiteral("--create and --format need --sql.");
+    }
+    if (!parsed.render.isEmpty()) {
+        return FindRenderFault(parsed);
+    }
+    if (parsed.offline || !parsed.database.isEmpty() || !parsed.page_file.isEmpty()) {
+        return QStringLiteral("--database, --offline and -o need --render.");
     }
     if (!parsed.sql && parsed.target.isEmpty()) {
         return QStringLiteral("No command file is named.");
@@ -110,9 +136,10 @@ Arguments ParseArguments(const QStringList &arguments) {
     Arguments parsed;
     bool options_over = false;
     for (qsizetype i = 0; i < arguments.size() && parsed.fault.isEmpty(); ++i) {
-        if (options_over || !arguments[i].startsWith(QStringLiteral("--"))) {
+        const bool option = arguments[i].startsWith(QStringLiteral("--")) || arguments[i] == QStringLiteral("-o");
+        if (options_over || !option) {
             TakeTarget(parsed, arguments[i]);
-        } else if (arguments[i].size() == 2) {
+        } else if (arguments[i] == QStringLiteral("--")) {
             options_over = true;
         } else {
             TakeOption(parsed, arguments, i);
@@ -125,11 +152,15 @@ Arguments ParseArguments(const QStringList &arguments) {
 }
 
 QString HelpText() {
-    QString text = QStringLiteral("Usage: ostrand-batch [options] COMMANDFILE\n"
-                                  "       ostrand-batch [options] DATABASE.mdb\n"
-                                  "       ostrand-batch --sql FILE.mdb [--create] [--format text|csv|json]\n\n"
-                                  "Runs a command file, opens a database (which brings it up to date), or runs SQL\n"
-                                  "statements, each ended by ; at the end of a line.\n\n");
+    QString text =
+        QStringLiteral("Usage: ostrand-batch [options] COMMANDFILE\n"
+                       "       ostrand-batch [options] DATABASE.mdb\n"
+                       "       ostrand-batch --sql FILE.mdb [--create] [--format text|csv|json]\n"
+                       "       ostrand-batch --render SKIN KEY --database FILE.mdb [--offline] -o FILE.html\n"
+                       "\n"
+                       "Runs a command file, opens a database (which brings it up to date), runs SQL\n"
+                       "statements, each ended by ; at the end of a line, or writes the page of a title.\n"
+                       "SKIN is the name of a skin or a folder that holds a Skin.html.\n\n");
     for (const Option &option : kOptions) {
         QString name = QLatin1String(option.name);
         if (option.value) {

@@ -23,7 +23,12 @@ struct Arguments {
     std::optional<bool> answer; ///< what questions are answered with; the neutral answer without one
     QString locale;             ///< name such as "de_DE"; the system's without one
     bool quiet = false;
-    /// What is left: a database or a command file.
+    /// The skin that a page is rendered through; empty for no page.
+    QString render;
+    QString database; ///< where the page's title is taken from
+    bool offline = false;
+    QString page_file; ///< where the page is written to
+    /// What is left: a database or a command file, or the key of the page's title.
     QString target;
     /// Says what is wrong with the command line; empty when nothing is.
     QString fault;

@@ -2,6 +2,7 @@
 
 #include "Arguments.h"
 #include "CommandMode.h"
+#include "RenderMode.h"
 #include "SqlMode.h"
 #include "services/StandardStreams.h"
 #include "services/SystemServices.h"
@@ -46,5 +47,8 @@ int main(int argc, char **argv) {
         WriteStream(stdout, arguments.help ? HelpText().toUtf8() : VersionText());
         return kDone;
     }
-    return arguments.sql ? Sql(arguments) : RunCommandMode(arguments);
+    if (arguments.sql) {
+        return Sql(arguments);
+    }
+    return arguments.render.isEmpty() ? RunCommandMode(arguments) : RunRenderMode(arguments);
 }

@@ -91,7 +91,7 @@ void GetProfileInfos(Browser &browser, const QString &key, bool is_episode, bool
         ClearAllProfileInfos(browser);
         return;
     }
-    browser.caption = is_episode ? EpisodeCaption(record) : ProfileCaption(record);
+    browser.caption = is_episode ? EpisodeCaption(record) : MakeWindowCaption(record);
     if (!is_episode && !keep_credits) {
         ListAssignedEpisodes(browser, id);
     }
@@ -110,10 +110,14 @@ void ClearAllProfileInfos(Browser &browser) {
     }
 }
 
-QString ProfileCaption(const sql::Recordset &record) {
-    QString text = JoinTitles(record.Text(u"Title"), record.Text(u"OriginalTitle"), record.Text(u"CustomTitle"));
-    text = WithYear(text, record.Text(u"ProdYear"));
-    const QString medium = record.Text(u"Medium");
+QString MakeWindowCaption(const sql::Recordset &record) {
+    const auto field = [&record](QStringView name) {
+        const int ordinal = record.FindOrdinal(name);
+        return ordinal < 0 ? QString() : record.Text(ordinal);
+    };
+    QString text = JoinTitles(field(u"Title"), field(u"OriginalTitle"), field(u"CustomTitle"));
+    text = WithYear(text, field(u"ProdYear"));
+    const QString medium = field(u"Medium");
     return medium.isEmpty() ? text : text + " - "_L1 + medium;
 }
 

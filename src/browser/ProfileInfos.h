@@ -16,8 +16,10 @@ void UpdateSeriesList(Browser &browser, int row);
 void GetProfileInfos(Browser &browser, const QString &id, bool is_episode, bool keep_credits);
 /// Shows no title.
 void ClearAllProfileInfos(Browser &browser);
-/// What the window's caption tells of a record of `Profiles`, or of `Episodes`.
-QString ProfileCaption(const sql::Recordset &record);
+/// What the window's caption tells of a record of `Profiles`, or of one with columns named like those; a column that
+/// it does not have counts as empty.
+QString MakeWindowCaption(const sql::Recordset &record);
+/// The same of a record of `Episodes`.
 QString EpisodeCaption(const sql::Recordset &record);
 /// Takes the cover of a key as the current one.
 void ShowCover(Browser &browser, const QString &key);

@@ -22,7 +22,7 @@ protected:
     }
     QString Caption() {
         sql::Recordset record = session.Database->OpenRecordset(u"SELECT * FROM Profiles");
-        return ProfileCaption(record);
+        return MakeWindowCaption(record);
     }
 
     Browser browser{session};

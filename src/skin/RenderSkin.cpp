@@ -1,0 +1,69 @@
+// From a template to the finished text of a page.
+
+#include "shell/Session.h"
+#include "skin/SkinPage.h"
+#include "skin/TagTable.h"
+
+namespace ostrand {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+/// 256 MB of text. Texts of the database that hold tags of the page could otherwise make it grow without end.
+constexpr qsizetype kLargestPage = 256 * 1024 * 1024 / sizeof(char16_t);
+
+QString WithBackFrame(Session &session, const QString &page, const QString &back_profile_id) {
+    return u"<HTML><BODY>\r\n<frameset rows='20,*' border='0'>\r\n<frame><INPUT TYPE='button' "
+           "onClick=\"self.location.href='blank.html?profileid="_s +
+           back_profile_id + u"'\" VALUE=' < "_s + Translate(session, u"Back"_s) + u" '><BR></frame>\r\n<frame>"_s +
+           page + u"</frame> </frameset>"_s;
+}
+
+/// Every occurrence of `tag` replaced, in one walk.
+void ReplaceAll(QString &page, const QString &tag, const QString &text) {
+    const qsizetype count = page.count(tag);
+    if (count == 0) {
+        return;
+    }
+    const qsizetype size = page.size() - count * tag.size();
+    if (size > kLargestPage || text.size() > (kLargestPage - size) / count) {
+        throw SkinFailure(u"The page is too large."_s);
+    }
+    QString replaced;
+    replaced.reserve(size + count * text.size());
+    qsizetype from = 0;
+    for (qsizetype at = page.indexOf(tag); at >= 0; at = page.indexOf(tag, from)) {
+        replaced += QStringView(page).mid(from, at - from);
+        replaced += text;
+        from = at + tag.size();
+    }
+    replaced += QStringView(page).mid(from);
+    page = std::move(replaced);
+}
+
+QString KeyOf(const sql::Recordset &row, bool is_episode) {
+    return row.Eof() ? QString() : row.Text(is_episode ? u"EpisodeID" : u"ProfileID");
+}
+
+} // namespace
+
+QString RenderSkinText(Session &session, SkinState &skin, const QString &page, const sql::Recordset &row,
+                       bool is_episode, const QString &back_profile_id, const RenderOptions &options) {
+    QString text = back_profile_id.isEmpty() ? page : WithBackFrame(session, page, back_profile_id);
+    // Listed once: a tag in a producer's text is none, unless the page holds the very same one further down.
+    const QStringList tags = FindSkinTags(text);
+    if (tags.isEmpty()) {
+        throw SkinFailure(u"The skin has no tag."_s);
+    }
+    TagCall call{session, skin, options, row, KeyOf(row, is_episode), is_episode, {}};
+    for (const QString &tag : tags) {
+        call.tag = tag;
+        // A tag that stands twice is evaluated twice, though the first time fills both places: what it tells the user
+        // it tells twice.
+        ReplaceAll(text, tag, EvaluateSkinTag(GetTagAttribute(tag, u"NAME", {}).toUpper(), call));
+    }
+    return text;
+}
+
+} // namespace ostrand
