@@ -28,7 +28,7 @@ constexpr const char16_t *kRight[] = {u"1110010", u"1100110", u"1101100", u"1000
 
 QString Bars(QChar parity, QChar digit) {
     const int value = digit.digitValue();
-    return QString(parity == u'L' ? kLeft[value] : parity == u'G' ? kLeftEven[value] : kRight[value]);
+    return QString::fromUtf16(parity == u'L' ? kLeft[value] : parity == u'G' ? kLeftEven[value] : kRight[value]);
 }
 
 /// A digit with the parity that it is drawn in: L, G or R.
@@ -79,7 +79,7 @@ QString GetBarcodeParity(const QString &digits) {
         return u"LLLLLL"_s;
     case 13: {
         const int first = digits.at(0).digitValue();
-        return first < 0 ? QString() : QString(kParities[first]);
+        return first < 0 ? QString() : QString::fromUtf16(kParities[first]);
     }
     default:
         return {};

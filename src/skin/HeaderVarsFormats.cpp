@@ -74,13 +74,13 @@ void WriteFeatures(const TagCall &call, ScriptWriter &script) {
     script.Section(u"Features"_s);
     for (const FeatureFlag &flag : kFeatures) {
         if (!flag.only_when_true) {
-            script.Flag(QString(flag.variable), false);
+            script.Flag(QString::fromUtf16(flag.variable), false);
         }
     }
     QStringList others;
     for (const QString &feature : KeyTexts(call, u"Features"_s, u"Feature"_s)) {
         if (const FeatureFlag *flag = FindFeature(feature)) {
-            script.Flag(QString(flag->variable), true);
+            script.Flag(QString::fromUtf16(flag->variable), true);
         } else if (!feature.isEmpty()) {
             others.append(feature);
         }

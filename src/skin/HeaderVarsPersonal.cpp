@@ -59,7 +59,7 @@ void WriteCollectionType(const TagCall &call, ScriptWriter &script) {
 
 void WriteWish(const TagCall &call, ScriptWriter &script) {
     const qint64 priority = RowValue(call, u"WishListPriority").Integer();
-    const QString wish = priority >= 1 && priority <= 5 ? QString(kWishes[priority]) : QString();
+    const QString wish = priority >= 1 && priority <= 5 ? QString::fromUtf16(kWishes[priority]) : QString();
     script.Text(u"DP_WishPriority"_s, wish);
     script.Text(u"DP_WishPriority_Translated"_s, call.Translated(wish));
 }
@@ -116,7 +116,7 @@ void WriteLocks(const TagCall &call, ScriptWriter &script) {
     }
     script.Section(u"Locks"_s);
     for (const LockFlag &flag : kLocks) {
-        script.Flag(QString(flag.variable), locks.contains(QString(flag.lock).toCaseFolded()));
+        script.Flag(QString::fromUtf16(flag.variable), locks.contains(QString::fromUtf16(flag.lock).toCaseFolded()));
     }
     script.Text(u"DP_Notes"_s, RowText(call, u"Notes"));
 }

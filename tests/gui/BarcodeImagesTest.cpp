@@ -7,6 +7,8 @@
 #include <QRegularExpression>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace ostrand {
 namespace {
 
@@ -79,7 +81,8 @@ QString ReadStripes(const QList<int> &stripes, QString *parities) {
         for (qsizetype stripe = at; stripe < at + 4; ++stripe) {
             widths += QString::number(stripes.value(stripe) / kModule);
         }
-        QString reversed(widths.crbegin(), widths.size());
+        QString reversed = widths;
+        std::reverse(reversed.begin(), reversed.end());
         const bool odd = digits.contains(widths);
         const int digit = odd ? digits.value(widths) : digits.value(reversed, -1);
         number += digit < 0 ? u"?"_s : QString::number(digit);

@@ -2,6 +2,8 @@
 
 #include "Digits.h"
 
+#include <algorithm>
+
 namespace ostrand::barcodes {
 
 namespace {
@@ -32,7 +34,9 @@ QString Inverted(const QString &modules) {
 }
 
 QString Reversed(const QString &modules) {
-    return {modules.crbegin(), modules.size()};
+    QString reversed = modules;
+    std::reverse(reversed.begin(), reversed.end());
+    return reversed;
 }
 
 } // namespace
