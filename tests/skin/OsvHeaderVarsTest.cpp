@@ -1,6 +1,7 @@
 // The variables that the program adds of its own.
 #include "HeaderVarsFixture.h"
 
+#include "skin/ScriptWriter.h"
 #include "skin/Template.h"
 
 namespace ostrand {
