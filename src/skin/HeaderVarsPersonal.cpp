@@ -1,7 +1,5 @@
 #include "skin/HeaderVars.h"
 
-#include "database/DatabaseFunctions.h"
-
 #include <QSet>
 
 namespace ostrand {

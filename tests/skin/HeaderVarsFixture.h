@@ -7,7 +7,6 @@
 #include "skin/SkinTags.h"
 #include "support/Scripted.h"
 
-#include <QFileInfo>
 #include <gtest/gtest.h>
 
 namespace ostrand::test {
