@@ -1,0 +1,143 @@
+#include "skin/OsvHeaderVars.h"
+
+#include "database/CrewRoleMaps.h"
+#include "database/DatabaseFunctions.h"
+#include "skin/HeaderVars.h"
+
+namespace ostrand {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+/// The value of a column as script.
+QString Quoted(const sql::Recordset &row, QStringView column) {
+    return ScriptString(row.Text(column));
+}
+
+QString QuotedSql(const QString &text) {
+    return u'\'' + EscapeSql(text) + u'\'';
+}
+
+/// The title of the series that the row of an episode belongs to.
+QString SeriesTitle(const TagCall &call) {
+    const sql::Recordset series =
+        call.Rows(u"SELECT * FROM TVSeries WHERE SeriesID = "_s + QuotedSql(RowText(call, u"SeriesID")));
+    if (series.Eof()) {
+        return {};
+    }
+    const QString original = series.Text(u"OriginalTitle");
+    return original.isEmpty() ? series.Text(u"Title") : original;
+}
+
+/// The condition that finds the awards of the row; empty for a row without a title.
+QString AwardCondition(const TagCall &call) {
+    const QString original = RowText(call, call.is_episode ? u"EpisodeOriginalTitle" : u"OriginalTitle");
+    const QString title = original.isEmpty() ? RowText(call, u"Title") : original;
+    if (title.isEmpty()) {
+        return {};
+    }
+    if (call.is_episode) {
+        return u"MovieTitle = "_s + QuotedSql(SeriesTitle(call)) + u" AND Nominee LIKE "_s +
+               QuotedSql(u'*' + title + u'*');
+    }
+    const qint64 year = RowValue(call, u"ProdYear").Integer();
+    const QString years = year == 0 ? QString() : u" AND (Year BETWEEN %1 AND %2)"_s.arg(year - 1).arg(year + 2);
+    return u"MovieTitle = "_s + QuotedSql(title) + years;
+}
+
+QString CastEntry(const ScriptCredit &credit) {
+    // The caption stands as the name and as the credited name.
+    const QString name = ScriptString(credit.is_divider ? credit.credited_name : credit.common_name);
+    const QString role = ScriptString(credit.is_divider ? QString() : credit.role);
+    return ScriptNew(u"OSV_CastEntry"_s, {name, role, ScriptFlag(credit.is_voice), ScriptFlag(credit.is_uncredited),
+                                          ScriptFlag(credit.is_credit_only), ScriptString(credit.credited_name),
+                                          ScriptFlag(credit.has_image), QString::number(credit.birth_year)});
+}
+
+QString CrewEntry(const ScriptCredit &credit) {
+    const QString name = ScriptString(credit.is_divider ? credit.credited_name : credit.common_name);
+    const QString known_type = CrewRoleMaps::CreditType(credit.role);
+    const QString type = credit.is_divider ? QString() : known_type.isEmpty() ? u"Other"_s : known_type;
+    const QString subtype = credit.is_divider ? QString() : credit.role;
+    return ScriptNew(u"OSV_CrewEntry"_s,
+                     {name, ScriptString(type), ScriptString(subtype), ScriptString(credit.credited_name),
+                      ScriptFlag(credit.has_image), QString::number(credit.birth_year)});
+}
+
+} // namespace
+
+QStringList OsvCast(const TagCall &call) {
+    QStringList entries;
+    for (const ScriptCredit &credit : ReadScriptCredits(call, true)) {
+        entries.append(CastEntry(credit));
+    }
+    return entries;
+}
+
+QStringList OsvCrew(const TagCall &call) {
+    QStringList entries;
+    for (const ScriptCredit &credit : ReadScriptCredits(call, false)) {
+        entries.append(CrewEntry(credit));
+    }
+    return entries;
+}
+
+QStringList OsvAwards(const TagCall &call) {
+    const QString condition = AwardCondition(call);
+    if (condition.isEmpty()) {
+        return {};
+    }
+    QStringList entries;
+    for (sql::Recordset rows =
+             call.Rows(u"SELECT * FROM Awards WHERE "_s + condition + u" ORDER BY Award, Category, Year"_s);
+         !rows.Eof(); rows.MoveNext()) {
+        entries.append(ScriptNew(u"OSV_AwardEntry"_s, {Quoted(rows, u"Award"), QString::number(rows.Integer(u"Year")),
+                                                       Quoted(rows, u"Category"), Quoted(rows, u"MovieTitle"),
+                                                       ScriptFlag(rows.Boolean(u"Won")), Quoted(rows, u"Nominee")}));
+    }
+    return entries;
+}
+
+QStringList OsvAudioTracks(const TagCall &call) {
+    QStringList entries;
+    for (sql::Recordset rows = KeyRows(call, u"AudioFormats"_s, u" ORDER BY OrderPos"_s); !rows.Eof();
+         rows.MoveNext()) {
+        const QString translated = ScriptString(call.Translated(rows.Text(u"Language")));
+        entries.append(ScriptNew(u"OSV_AudioTrack"_s, {Quoted(rows, u"Language"), translated,
+                                                       Quoted(rows, u"Compression"), Quoted(rows, u"Channels")}));
+    }
+    return entries;
+}
+
+QStringList OsvAdditionalInfos(const TagCall &call) {
+    QStringList entries;
+    for (sql::Recordset rows = KeyRows(call, u"AdditionalInfo"_s); !rows.Eof(); rows.MoveNext()) {
+        entries.append(ScriptNew(u"OSV_AdditionalInfo"_s,
+                                 {Quoted(rows, u"InfoName"), Quoted(rows, u"InfoValue"), Quoted(rows, u"InfoType")}));
+    }
+    return entries;
+}
+
+QStringList OsvLinks(const TagCall &call) {
+    QStringList entries;
+    for (sql::Recordset rows = KeyRows(call, u"AdditionalInfo"_s, u" AND InfoType = 'Link'"_s); !rows.Eof();
+         rows.MoveNext()) {
+        entries.append(ScriptNew(u"OSV_Link"_s, {Quoted(rows, u"InfoName"), Quoted(rows, u"InfoValue")}));
+    }
+    return entries;
+}
+
+QStringList OsvEvents(const TagCall &call) {
+    QStringList entries;
+    for (sql::Recordset rows = KeyRows(call, u"Events"_s, u" ORDER BY EventTimeStamp, UserID"_s); !rows.Eof();
+         rows.MoveNext()) {
+        // The user stands in front of the date, unlike in the type's parameters: deliberate, skins count on it.
+        entries.append(
+            ScriptNew(u"OSV_Event"_s, {Quoted(rows, u"EventType"), Quoted(rows, u"UserID"),
+                                       ScriptDateTime(rows.Get(u"EventTimestamp")), Quoted(rows, u"Comment")}));
+    }
+    return entries;
+}
+
+} // namespace ostrand
