@@ -256,6 +256,7 @@ bool Open(Session &session, const QString &path) {
     } catch (const sql::SqlError &fault) {
         if (opened) {
             session.Database.reset(); // nobody works on a file that is not in order
+            Call(session.window.EnableDBMenues, false);
         }
         SayFault(session, fault);
         return false;
