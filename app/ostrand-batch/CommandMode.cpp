@@ -108,7 +108,9 @@ bool Run(Session &session, const QString &target) {
         session.Database->SetProgress([] { return StopSignals::Received() != 0; });
     };
     const bool opened = OpenOrRun(session, PrepareStartUp(session, target));
-    FinishStartUp(session);
+    if (!session.EndProgram) {
+        FinishStartUp(session);
+    }
     if (session.Database) {
         session.Database->SetProgress({}); // the settings are saved even when a signal ended the run
     }

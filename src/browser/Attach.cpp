@@ -67,6 +67,7 @@ void FollowBrowser(Browser &browser) {
 }
 
 void RestoreSelection(Browser &browser) {
+    Q_EMIT browser.DatabaseOpened();
     GetLastSelectedItem(browser);
     // The cover folder may have been settled after the first row was shown.
     const int row = browser.current_row;

@@ -69,6 +69,8 @@ public:
     Hooks hooks;
 
 Q_SIGNALS:
+    /// Another database is open; its path and name are known.
+    void DatabaseOpened();
     /// `current_row` is to be selected and scrolled to.
     void CurrentRowChanged();
     /// `current_episode` is to be selected and scrolled to.

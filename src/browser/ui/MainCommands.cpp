@@ -6,13 +6,13 @@
 #include "browser/Navigation.h"
 #include "browser/TitleQueries.h"
 #include "browser/Views.h"
-#include "browser/ui/Guarded.h"
 #include "browser/ui/frmMain.h"
 #include "collection_files/ProfilerImport.h"
 #include "database/TitlesDue.h"
 #include "database/ui/frmSwitchDatabase.h"
 #include "people/ui/frmDropBox.h"
 #include "shell/FileCommands.h"
+#include "shell/Session.h"
 #include "shell/ui/frmAbout.h"
 #include "shell/ui/frmSettings.h"
 
@@ -120,10 +120,8 @@ void HandleGridLines(frmMain &main) {
 void HandleCommands(frmMain &main) {
     HandleGridLines(main);
     for (const Handler &handler : kHandlers) {
-        main.browser.commands.Handle(QString::fromUtf16(handler.name), [&main, run = handler.run] {
-            Guarded(main.browser.session, [&] { run(main); });
-            main.EndIfAsked();
-        });
+        main.browser.commands.Handle(QString::fromUtf16(handler.name),
+                                     [&main, run = handler.run] { main.Perform([&] { run(main); }); });
     }
 }
 

@@ -117,6 +117,8 @@ void frmMain::Compose() {
 void frmMain::ConnectBrowser() {
     connect(&browser, &Browser::TitleChanged, this, &frmMain::ShowView);
     connect(&browser, &Browser::SettingsChanged, this, &frmMain::ApplySettings);
+    connect(&browser, &Browser::DatabaseOpened, this,
+            [this] { titles_->ShowDatabasePath(browser.session.DatabaseFile); });
     connect(&browser, &Browser::ModeChanged, this, &frmMain::ShowView);
     connect(titles_, &TitleListPanel::TabMenuWanted, this, [this](const QPoint &place) {
         if (!browser.session.view.mTVShows) {
@@ -167,7 +169,9 @@ bool frmMain::Load(const QString &command_line) {
     Session &session = browser.session;
     const CommandLine line = PrepareStartUp(session, command_line);
     bool opened = false;
+    ++running_;
     Guarded(session, [&] { opened = OpenOrRun(session, line); });
+    --running_;
     if (!opened && line.command_file.isEmpty()) {
         splash_.reset();
         if (session.instance) {
@@ -175,13 +179,15 @@ bool frmMain::Load(const QString &command_line) {
         }
         return false;
     }
-    ApplySettings();
-    FinishStartUp(session);
     if (session.EndProgram) {
+        splash_.reset();
         close();
         return false;
     }
-    show();
+    ApplySettings();
+    ShowView();
+    show(); // before the titles due, which are to lie above it
+    FinishStartUp(session);
     titles_->List()->setFocus();
     return true;
 }
@@ -206,7 +212,6 @@ void frmMain::WriteGeometry() {
 }
 
 void frmMain::ApplySettings() {
-    titles_->ShowDatabasePath(browser.session.DatabaseFile);
     SetFonts();
     ApplyGridLines();
 }
@@ -260,15 +265,27 @@ void frmMain::ShowListView(std::unique_ptr<ListTable> table) {
     window->raise();
 }
 
-void frmMain::EndIfAsked() {
-    if (browser.session.EndProgram) {
+void frmMain::Perform(const std::function<void()> &action) {
+    ++running_;
+    Guarded(browser.session, action);
+    --running_;
+    if (running_ == 0 && browser.session.EndProgram) {
         close();
     }
 }
 
+void frmMain::AskToEnd() {
+    if (QWidget *modal = QApplication::activeModalWidget()) {
+        browser.session.EndProgram = true;
+        modal->close(); // the routine that waits for it goes on, and ends
+        return;
+    }
+    close();
+}
+
 void frmMain::closeEvent(QCloseEvent *event) {
     Session &session = browser.session;
-    if (session.progress.IsLoaded() || session.commands.depth > 0) {
+    if (running_ > 0 || session.progress.IsLoaded()) {
         // The routine that runs still holds the database: it is told to end, and the window goes when it has.
         session.EndProgram = true;
         session.progress.Close();
@@ -284,7 +301,7 @@ void frmMain::closeEvent(QCloseEvent *event) {
 }
 
 void frmMain::dragEnterEvent(QDragEnterEvent *event) {
-    if (browser.session.Database && !CollectionFilesIn(*event->mimeData()).isEmpty()) {
+    if (running_ == 0 && browser.session.Database && !CollectionFilesIn(*event->mimeData()).isEmpty()) {
         event->acceptProposedAction();
     }
 }
@@ -295,9 +312,10 @@ void frmMain::dropEvent(QDropEvent *event) {
     // The program that the files come from waits for the drop to end, and an import takes its time.
     QTimer::singleShot(0, this, [this, files] {
         for (const QString &file : files) {
-            Guarded(browser.session, [&] { ImportProfilerData(browser.session, file); });
+            if (!closed_) {
+                Perform([&] { ImportProfilerData(browser.session, file); });
+            }
         }
-        EndIfAsked();
     });
 }
 
