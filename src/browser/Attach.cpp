@@ -93,6 +93,26 @@ void ReloadTitles(Browser &browser) {
 
 } // namespace
 
+void ShowNoCollection(Browser &browser) {
+    Session &session = browser.session;
+    session.CurrentProfileID.clear();
+    session.CurrentSeriesID.clear();
+    session.CurrentIsEpisode = false;
+    browser.current_row = -1;
+    browser.current_episode = -1;
+    browser.current_season = -1;
+    browser.listSeries.Clear();
+    browser.listEpisodes.Clear();
+    browser.listSeasons.clear();
+    browser.history.Clear();
+    Q_EMIT browser.HistoryChanged();
+    Q_EMIT browser.SeasonsChanged();
+    ReloadColTypeTabs(browser);
+    UpdateFilters(browser);
+    ShowFilterCount(browser, 0);
+    ClearAllProfileInfos(browser);
+}
+
 void AttachBrowser(Browser &browser) {
     Session &session = browser.session;
     session.window.LoadDatabaseSettings = [&browser] { LoadWindowSettings(browser); };

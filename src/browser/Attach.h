@@ -8,4 +8,7 @@ class Browser;
 /// Sets the hooks of `Session::window` that the browser answers. The browser must live as long as they are called.
 void AttachBrowser(Browser &browser);
 
+/// Empties all lists: no database is open any more.
+void ShowNoCollection(Browser &browser);
+
 } // namespace ostrand

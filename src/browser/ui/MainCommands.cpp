@@ -1,5 +1,6 @@
 #include "browser/ui/MainCommands.h"
 
+#include "browser/Attach.h"
 #include "browser/Browser.h"
 #include "browser/CollectionTabs.h"
 #include "browser/CollectionTypes.h"
@@ -24,6 +25,10 @@ using Order = TitleList::Order;
 
 void SwitchDatabase(frmMain &main) {
     frmSwitchDatabase(main.browser.session, &main).exec();
+    if (!main.browser.session.Database) {
+        ShowNoCollection(main.browser); // the database of before is gone
+    }
+    main.activateWindow(); // the focus may have gone with a message of that window
 }
 
 void ShowDropBox(frmMain &main) {
@@ -33,6 +38,7 @@ void ShowDropBox(frmMain &main) {
     }
     window->show();
     window->raise();
+    window->activateWindow(); // desktops give a tool window no focus of their own
 }
 
 void ToggleGridLines(Browser &browser, bool ViewState::GridLines::*shown) {
@@ -108,9 +114,8 @@ constexpr std::array kGridLists = {&ViewState::GridLines::ListCollection, &ViewS
 void HandleGridLines(frmMain &main) {
     for (const MenuEntry &entry : MenuEntries()) {
         if (std::find(kGridLists.begin(), kGridLists.end(), entry.grid_lines) != kGridLists.end()) {
-            main.browser.commands.Handle(QString::fromUtf16(entry.name), [&main, lines = entry.grid_lines] {
-                ToggleGridLines(main.browser, lines);
-            });
+            main.browser.commands.Handle(QString::fromUtf16(entry.name),
+                                         [&main, lines = entry.grid_lines] { ToggleGridLines(main.browser, lines); });
         }
     }
 }
