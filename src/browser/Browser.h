@@ -46,6 +46,10 @@ public:
     /// comboFilter is shown.
     bool filter_shown = false;
     QString labelFilterCount;
+    int filter_count = 0;
+
+    /// The tabs and filters stand in the user's language, and not in English.
+    bool translated = false;
 
     History history;
 
@@ -92,7 +96,7 @@ Q_SIGNALS:
 
 /// The English caption of the selected tab of tabColList.
 QString SelectedColType(Browser &browser);
-/// Sets labelFilterCount.
+/// Sets labelFilterCount and what it counts.
 void ShowFilterCount(Browser &browser, int count);
 
 } // namespace ostrand

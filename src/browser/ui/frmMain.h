@@ -49,15 +49,19 @@ protected:
 
 private:
     void Compose();
+    void OrderTabs();
     void ConnectBrowser();
+    void ConnectContextMenus();
+    void AddKeys();
     void SetWindowHooks();
     void Layout(bool reset);
     void WriteGeometry();
     void ApplySettings();
-    void SettingsStored();
     void SetFonts();
     void ApplyGridLines();
     void ShowView();
+    /// Opens a context menu, unless there is no database that its entries could work on.
+    void OpenContextMenu(const QString &name, const QPoint &place);
     void ChooseDatabase();
     void TranslateNames();
 
