@@ -16,7 +16,9 @@ namespace {
 bool Run(Session &session, const QString &target) {
     InterruptByStopSignals(session);
     const bool opened = OpenOrRun(session, PrepareStartUp(session, target));
-    FinishStartUp(session);
+    if (!session.EndProgram) {
+        FinishStartUp(session);
+    }
     EndSession(session);
     return opened;
 }

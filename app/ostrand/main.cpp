@@ -13,6 +13,7 @@
 #include "services/SystemFolders.h"
 #include "services/SystemServices.h"
 #include "shell/ui/ProgressWindow.h"
+#include "shell/ui/SessionPump.h"
 #include "shell/ui/WindowDialogs.h"
 
 #include <QTimer>
@@ -26,7 +27,7 @@ using namespace Qt::StringLiterals;
 struct Desktop {
     WindowDialogs dialogs;
     ProgressWindow progress;
-    QtEventPump pump;
+    SessionPump pump;
     SystemClock clock;
     SystemRandom random;
     QtProcessRunner processes;
@@ -93,9 +94,11 @@ int main(int argc, char **argv) {
 
     const DesktopColours colours;
     const StopSignals signals_noted;
+    LetWritesFail();
     Desktop desktop;
     Session session(desktop.services);
     application.session = &session;
+    desktop.pump.session = &session;
     desktop.dialogs.translate = [&session](const QString &text) { return Translate(session, text); };
     desktop.progress.Attach(session.progress, desktop.dialogs.translate);
     Browser browser(session);
@@ -105,7 +108,7 @@ int main(int argc, char **argv) {
     QTimer stop;
     QObject::connect(&stop, &QTimer::timeout, &main, [&main] {
         if (StopSignals::Received() != 0) {
-            main.close();
+            main.AskToEnd();
         }
     });
     stop.start(250);

@@ -25,18 +25,29 @@ QStringList Translated(Session &session, std::initializer_list<const char16_t *>
     return translated;
 }
 
-void BuildColumns(Browser &browser) {
+void ShowHeaders(Browser &browser) {
     Session &session = browser.session;
-    browser.listSeries.Clear();
     browser.listSeries.SetHeaders(Translated(session, {u"Title", u"#", u"SortTitle", u"Year", u"P.Date", u"Released"}));
+    browser.listEpisodes.SetHeaders(Translated(session, {u"#", u"Episode Title"}));
+}
+
+void BuildColumns(Browser &browser) {
+    browser.listSeries.Clear();
+    ShowHeaders(browser);
     for (int column = 1; column < kTitleColumns; ++column) {
         browser.listSeries.SetWidth(column, 0);
     }
-    browser.listEpisodes.SetHeaders(Translated(session, {u"#", u"Episode Title"}));
+}
+
+/// A caption that was made before the language changed, in the new one.
+QString InPresentLanguage(Browser &browser, const QString &caption) {
+    Session &session = browser.session;
+    return Translate(session, browser.translated ? ReverseTranslate(session, caption, true) : caption);
 }
 
 void LoadWindowSettings(Browser &browser) {
     ViewState &view = browser.session.view;
+    browser.translated = browser.session.UseUserDefinedStrings;
     Q_EMIT browser.SettingsChanged();
     browser.current_row = -1;
     BuildColumns(browser);
@@ -66,13 +77,18 @@ void FollowBrowser(Browser &browser) {
     view.LastSelectedItem = selected ? browser.listSeries.At(row).key : QString();
 }
 
-void RestoreSelection(Browser &browser) {
-    GetLastSelectedItem(browser);
-    // The cover folder may have been settled after the first row was shown.
+/// The cover folder may have been settled after the current row was shown.
+void ShowCoverAgain(Browser &browser) {
     const int row = browser.current_row;
     if (!browser.session.view.mTVShows && row >= 0 && row < browser.listSeries.rowCount()) {
         ShowCover(browser, browser.listSeries.At(row).key);
     }
+}
+
+void RestoreSelection(Browser &browser) {
+    Q_EMIT browser.DatabaseOpened();
+    GetLastSelectedItem(browser);
+    ShowCoverAgain(browser);
     browser.listSeries.SetWidth(TitleList::Title, kTitleWidth);
 }
 
@@ -90,7 +106,60 @@ void ReloadTitles(Browser &browser) {
     }
 }
 
+void TakeSettings(Browser &browser) {
+    if (!browser.session.view.mTVShows) {
+        // The default types may have come or gone, and the one that was selected with them.
+        const QString type = SelectedColType(browser);
+        ReloadColTypeTabs(browser);
+        if (SelectedColType(browser) != type) {
+            ReloadList(browser);
+        }
+    }
+    ShowCoverAgain(browser);
+    Q_EMIT browser.SettingsChanged();
+}
+
 } // namespace
+
+void ShowNoCollection(Browser &browser) {
+    Session &session = browser.session;
+    session.CurrentProfileID.clear();
+    session.CurrentSeriesID.clear();
+    session.CurrentIsEpisode = false;
+    browser.current_row = -1;
+    browser.current_episode = -1;
+    browser.current_season = -1;
+    browser.listSeries.Clear();
+    browser.listEpisodes.Clear();
+    browser.listSeasons.clear();
+    browser.history.Clear();
+    Q_EMIT browser.HistoryChanged();
+    Q_EMIT browser.SeasonsChanged();
+    ReloadColTypeTabs(browser);
+    UpdateFilters(browser);
+    ShowFilterCount(browser, 0);
+    ClearAllProfileInfos(browser);
+}
+
+void TranslateBrowser(Browser &browser) {
+    Session &session = browser.session;
+    ShowHeaders(browser);
+    for (QStringList *captions : {&browser.tabMain, &browser.tabColList}) {
+        for (QString &caption : *captions) {
+            caption = InPresentLanguage(browser, caption);
+        }
+    }
+    const QString filter = InPresentLanguage(browser, browser.comboFilter_text);
+    UpdateFilters(browser);
+    if (browser.comboFilter.contains(filter)) {
+        browser.comboFilter_text = filter;
+    }
+    browser.translated = session.UseUserDefinedStrings;
+    Q_EMIT browser.MainTabChanged();
+    Q_EMIT browser.TabsChanged();
+    Q_EMIT browser.FilterChanged();
+    ShowFilterCount(browser, browser.filter_count);
+}
 
 void AttachBrowser(Browser &browser) {
     Session &session = browser.session;
@@ -98,6 +167,7 @@ void AttachBrowser(Browser &browser) {
     session.window.SaveDatabaseSettings = [&browser] { FollowBrowser(browser); };
     session.window.GetLastSelectedItem = [&browser] { RestoreSelection(browser); };
     session.window.ReloadTitles = [&browser] { ReloadTitles(browser); };
+    session.window.SettingsStored = [&browser] { TakeSettings(browser); };
     session.window.ShowTitlesDue = [&session] { ShowTitlesDue(session); };
 }
 

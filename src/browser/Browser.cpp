@@ -11,6 +11,7 @@ QString SelectedColType(Browser &browser) {
 }
 
 void ShowFilterCount(Browser &browser, int count) {
+    browser.filter_count = count;
     browser.labelFilterCount = Translate(browser.session, QStringLiteral("Filtered:")) + u' ' + QString::number(count);
     Q_EMIT browser.FilterCountChanged();
 }

@@ -46,6 +46,10 @@ public:
     /// comboFilter is shown.
     bool filter_shown = false;
     QString labelFilterCount;
+    int filter_count = 0;
+
+    /// The tabs and filters stand in the user's language, and not in English.
+    bool translated = false;
 
     History history;
 
@@ -69,6 +73,8 @@ public:
     Hooks hooks;
 
 Q_SIGNALS:
+    /// Another database is open; its path and name are known.
+    void DatabaseOpened();
     /// `current_row` is to be selected and scrolled to.
     void CurrentRowChanged();
     /// `current_episode` is to be selected and scrolled to.
@@ -90,7 +96,7 @@ Q_SIGNALS:
 
 /// The English caption of the selected tab of tabColList.
 QString SelectedColType(Browser &browser);
-/// Sets labelFilterCount.
+/// Sets labelFilterCount and what it counts.
 void ShowFilterCount(Browser &browser, int count);
 
 } // namespace ostrand

@@ -6,7 +6,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-/// The menus and the entry that make no sense without a database.
+/// The menus and the entry that make no sense without a database, besides the context menus.
 constexpr std::array kDatabaseMenus = {u"mEdit", u"mTools", u"mSettings", u"mUpdate", u"mImport", u"mExport", u"mView"};
 
 QString OfTable(const char16_t *text) {
@@ -168,6 +168,11 @@ void EnableDBMenues(Commands &commands, bool enabled) {
     commands.Together([&] {
         for (const char16_t *menu : kDatabaseMenus) {
             commands.SetEnabled(OfTable(menu), enabled);
+        }
+        for (const MenuEntry &entry : MenuEntries()) {
+            if (entry.is_context_menu) {
+                commands.SetEnabled(OfTable(entry.name), enabled);
+            }
         }
     });
 }

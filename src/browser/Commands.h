@@ -119,7 +119,7 @@ private:
     bool texts_changed_ = false;
 };
 
-/// Sets the enabled state of the menus that need a database.
+/// Sets the enabled state of the menus that need a database, and of all context menus, which stand on its titles.
 void EnableDBMenues(Commands &commands, bool enabled);
 /// Shows or hides the entries of the audit trail.
 void ShowAuditMenus(Commands &commands, bool shown);

@@ -21,8 +21,8 @@ int SortColumnOf(int sort_key) {
 
 void BeginList(Browser &browser) {
     browser.listSeries.Unsort();
-    browser.listSeries.SetStriping(TitleList::Striping::None);
     browser.listSeries.Clear();
+    browser.listSeries.SetStriping(TitleList::Striping::None);
     browser.current_row = -1;
 }
 
@@ -42,15 +42,12 @@ void ShowSortColumn(TitleList &list, int sort_column) {
 
 void SortList(Browser &browser, int sort_key, TitleList::Order order) {
     TitleList &list = browser.listSeries;
-    const QString current = browser.current_row >= 0 && browser.current_row < list.rowCount()
-                                ? list.At(browser.current_row).key
-                                : QString();
+    const QPersistentModelIndex current = list.index(browser.current_row, TitleList::Title);
     const int column = SortColumnOf(sort_key);
     ShowSortColumn(list, column);
     list.SortBy(column, order);
-    const int row = current.isEmpty() ? browser.current_row : list.RowOfKey(current);
-    if (row != browser.current_row) {
-        browser.current_row = row;
+    if (current.isValid() && current.row() != browser.current_row) {
+        browser.current_row = current.row();
         Q_EMIT browser.CurrentRowChanged();
     }
 }

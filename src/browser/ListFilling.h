@@ -6,6 +6,7 @@
 namespace ostrand {
 
 class Browser;
+struct Session;
 
 /// Empties the list and turns its automatic sort off.
 void BeginList(Browser &browser);
@@ -15,6 +16,8 @@ void ShowFirstTitle(Browser &browser);
 void ShowSortColumn(TitleList &list, int sort_column);
 /// Sorts by one of the columns that sort; any other one stands for the sort key. The current title stays current.
 void SortList(Browser &browser, int sort_key, TitleList::Order order);
+/// Keeps the sort for the next run.
+void StoreSort(Session &session, int sort_column, TitleList::Order order);
 /// The column and order that are kept for the next run.
 int StoredSortColumn(const Browser &browser);
 TitleList::Order StoredSortOrder(const Browser &browser);

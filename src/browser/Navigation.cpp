@@ -130,6 +130,7 @@ void MoveToRow(Browser &browser, int row) {
 }
 
 void ShowMovie(Browser &browser, const QString &key) {
+    Trace(browser.session, u"ShowMovie("_s + key + u')', kTraceEntry);
     const QString id = ProfileOfKey(key);
     if (id.isEmpty()) {
         return;

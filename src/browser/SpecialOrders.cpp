@@ -152,7 +152,9 @@ void SpecialOrderRows::AddLocalityTitles(const QString &value, const QString &or
     }
     // The brackets keep the children of boxsets with a locality apart from all titles without one.
     sql::Recordset child =
-        session_.Database->OpenRecordset(kGroupFields + "Locality, b.BoxSetID FROM Profiles p, Boxset b WHERE ("_L1 +
+        session_.Database->OpenRecordset(kGroupFields +
+                                         "Locality, b.BoxSetID, CustomTitle, CustomSortTitle FROM Profiles p, Boxset b "
+                                         "WHERE ("_L1 +
                                          condition + ") AND b.ChildID = p.ProfileID ORDER BY "_L1 + order_);
     const TitleRowReader child_reader(session_.view, child);
     const int boxset = child.Ordinal(u"BoxSetID");

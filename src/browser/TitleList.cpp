@@ -88,6 +88,7 @@ int TitleList::Assign(std::vector<TitleRow> rows) {
     const size_t clashes = std::erase_if(rows, [&keys](const TitleRow &row) { return !keys.Add(row.key); });
     beginResetModel();
     rows_ = std::move(rows);
+    keyed_column_ = -1;
     if (sorted_) {
         SortRows();
     }
@@ -119,14 +120,24 @@ void TitleList::Unsort() {
     sorted_ = false;
 }
 
+const std::vector<QByteArray> &TitleList::SortKeys() {
+    if (keyed_column_ != sort_column_) {
+        keyed_column_ = sort_column_;
+        sort_keys_.clear();
+        sort_keys_.reserve(rows_.size());
+        for (const TitleRow &row : rows_) {
+            sort_keys_.push_back(sql::SortKey(row.texts[size_t(sort_column_)]));
+        }
+    }
+    return sort_keys_;
+}
+
 std::vector<int> TitleList::SortRows() {
-    std::vector<QByteArray> keys;
-    keys.reserve(rows_.size());
+    const std::vector<QByteArray> &keys = SortKeys();
     std::vector<SortEntry> entries;
     entries.reserve(rows_.size());
-    for (const TitleRow &row : rows_) {
-        keys.push_back(sql::SortKey(row.texts[size_t(sort_column_)]));
-        entries.push_back({StartOf(keys.back()), int(entries.size())});
+    for (const QByteArray &key : keys) {
+        entries.push_back({StartOf(key), int(entries.size())});
     }
     const auto is_less = [&keys](const SortEntry &a, const SortEntry &b) {
         return a.start != b.start ? a.start < b.start : keys[size_t(a.row)] < keys[size_t(b.row)];
@@ -139,18 +150,22 @@ std::vector<int> TitleList::SortRows() {
     }
     std::vector<TitleRow> sorted;
     sorted.reserve(rows_.size());
+    std::vector<QByteArray> sorted_keys;
+    sorted_keys.reserve(rows_.size());
     std::vector<int> new_places(rows_.size());
     for (const SortEntry &entry : entries) {
         new_places[size_t(entry.row)] = int(sorted.size());
         sorted.push_back(std::move(rows_[size_t(entry.row)]));
+        sorted_keys.push_back(std::move(sort_keys_[size_t(entry.row)]));
     }
     rows_ = std::move(sorted);
+    sort_keys_ = std::move(sorted_keys);
     return new_places;
 }
 
 void TitleList::SetStriping(Striping striping) {
-    striping_ = striping;
-    if (!rows_.empty()) {
+    // A view looks at every row for this.
+    if (std::exchange(striping_, striping) != striping && !rows_.empty()) {
         Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, kTitleColumns - 1), {ColourRole});
     }
 }

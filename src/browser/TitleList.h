@@ -72,10 +72,14 @@ Q_SIGNALS:
 
 private:
     Colour ColourOf(int row) const;
+    /// The sort keys of the rows by the column that sorts, in their order.
+    const std::vector<QByteArray> &SortKeys();
     /// Orders the rows; returns where each one went.
     std::vector<int> SortRows();
 
     std::vector<TitleRow> rows_;
+    std::vector<QByteArray> sort_keys_; ///< of `keyed_column_`, kept since a list is often sorted again the other way
+    int keyed_column_ = -1;
     QStringList headers_;
     std::array<double, kTitleColumns> widths_ = {0.78, 0, 0, 0, 0, 0};
     bool sorted_ = false;

@@ -67,6 +67,16 @@ std::vector<TitleRow> ReadTitles(Session &session, const QString &tab) {
     return rows;
 }
 
+/// A stored sort that there is none of gives way to the one that it was taken for; boxsets could never show else.
+void KeepValidSort(Browser &browser) {
+    const ViewState &view = browser.session.view;
+    const int column = browser.listSeries.SortColumn();
+    const TitleList::Order order = browser.listSeries.SortOrder();
+    if (!view.mTVShows && (view.ProfilesSortKey != column || view.ProfilesSortOrder != int(order))) {
+        StoreSort(browser.session, column, order);
+    }
+}
+
 } // namespace
 
 void GetMovieNames(Browser &browser) {
@@ -90,6 +100,7 @@ void GetMovieNames(Browser &browser) {
     ShowFilterCount(browser, browser.listSeries.rowCount());
     // Children stay behind their parents, since their sort keys begin with those of the parents.
     SortList(browser, StoredSortColumn(browser), StoredSortOrder(browser));
+    KeepValidSort(browser);
     if (session.view.mcolorlist) {
         ApplyListColors(browser, false);
     }

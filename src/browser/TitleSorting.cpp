@@ -13,15 +13,6 @@ namespace {
 using namespace Qt::StringLiterals;
 using Order = TitleList::Order;
 
-void StoreSort(Session &session, int sort_column, Order order) {
-    session.view.ProfilesSortKey = sort_column;
-    session.view.ProfilesSortOrder = int(order);
-    if (session.Database && !session.DatabaseTooNew) {
-        WriteDbInfo(session, u"ProfilesSortKey"_s, QString::number(sort_column));
-        WriteDbInfo(session, u"ProfilesSortOrder"_s, QString::number(int(order)));
-    }
-}
-
 /// The column that a click on a header sorts by; -1 for one that sorts nothing.
 int SortColumnOfHeader(int column) {
     if (column == TitleList::Title) {
@@ -31,6 +22,15 @@ int SortColumnOfHeader(int column) {
 }
 
 } // namespace
+
+void StoreSort(Session &session, int sort_column, Order order) {
+    session.view.ProfilesSortKey = sort_column;
+    session.view.ProfilesSortOrder = int(order);
+    if (session.Database && !session.DatabaseTooNew) {
+        WriteDbInfo(session, u"ProfilesSortKey"_s, QString::number(sort_column));
+        WriteDbInfo(session, u"ProfilesSortOrder"_s, QString::number(int(order)));
+    }
+}
 
 void ReOrderSeriesList(Browser &browser, int sort_key, Order order) {
     Session &session = browser.session;

@@ -41,6 +41,8 @@ void ShowMainTab(Browser &browser, int index) {
 void EnterView(Browser &browser, bool movies, int tab) {
     Session &session = browser.session;
     ViewState &view = session.view;
+    const QString call = u"ChangeMode("_s + (movies ? u"True"_s : u"False"_s) + u')';
+    Trace(session, call, kTraceEntry);
     view.mTVShows = !movies;
     browser.commands.FollowView(movies);
     ForgetTitle(browser); // so that who hears of the mode finds no row of the other one
@@ -61,11 +63,20 @@ void EnterView(Browser &browser, bool movies, int tab) {
         GetProfileInfos(browser, {}, false, false);
     }
     ReloadList(browser);
+    Trace(session, call, kTraceExit);
 }
 
 void SetEpisode(Browser &browser, int row) {
     browser.current_episode = row;
     Q_EMIT browser.CurrentEpisodeChanged();
+}
+
+void ReadSeasons(Browser &browser, const QString &series_id) {
+    sql::Recordset rows = browser.session.Database->OpenRecordset(
+        u"SELECT DISTINCT Season FROM Episodes WHERE SeriesID = '"_s + EscapeSql(series_id) + u'\'');
+    for (; !rows.Eof(); rows.MoveNext()) {
+        browser.listSeasons += rows.Text(0);
+    }
 }
 
 /// "3+4" stands as the third episode.
@@ -76,10 +87,7 @@ QString EpisodeNumber(const QString &number) {
 } // namespace
 
 void ChangeMode(Browser &browser, bool movies) {
-    const QString call = u"ChangeMode("_s + (movies ? u"True"_s : u"False"_s) + u')';
-    Trace(browser.session, call, kTraceEntry);
     EnterView(browser, movies, 0);
-    Trace(browser.session, call, kTraceExit);
 }
 
 void ReloadList(Browser &browser) {
@@ -127,6 +135,9 @@ void UpdateSeriesNames(Browser &browser) {
     Session &session = browser.session;
     const ViewState &view = session.view;
     Trace(session, u"UpdateSeriesNames()"_s, kTraceEntry);
+    if (!session.Database) {
+        return;
+    }
     std::vector<TitleRow> series;
     sql::Recordset rows = session.Database->OpenRecordset(
         u"SELECT * FROM TVSeries ORDER BY "_s + (view.mUseOriginalTitle ? u"OriginalSortTitle"_s : u"SortTitle"_s));
@@ -163,10 +174,8 @@ void UpdateSeasons(Browser &browser, const QString &series_id) {
     browser.listEpisodes.Clear();
     browser.listSeasons.clear();
     SetEpisode(browser, -1);
-    sql::Recordset rows = session.Database->OpenRecordset(u"SELECT DISTINCT Season FROM Episodes WHERE SeriesID = '"_s +
-                                                          EscapeSql(series_id) + u'\'');
-    for (; !rows.Eof(); rows.MoveNext()) {
-        browser.listSeasons += rows.Text(0);
+    if (session.Database) {
+        ReadSeasons(browser, series_id);
     }
     browser.current_season = browser.listSeasons.isEmpty() ? -1 : 0;
     Q_EMIT browser.SeasonsChanged();
@@ -188,6 +197,10 @@ void SelectSeason(Browser &browser, int index) {
 
 void UpdateEpisodes(Browser &browser, const QString &series_id, const QString &season) {
     Session &session = browser.session;
+    Trace(session, u"UpdateEpisodes("_s + series_id + u", "_s + season + u')', kTraceEntry);
+    if (!session.Database) {
+        return;
+    }
     sql::Recordset rows =
         session.Database->OpenRecordset(u"SELECT DISTINCT * FROM Episodes WHERE SeriesID = '"_s + EscapeSql(series_id) +
                                         u"' AND Season = '"_s + EscapeSql(season) + u"' ORDER BY EpisodeNo"_s);
@@ -221,6 +234,26 @@ void LoadEpisode(Browser &browser, const QString &episode_id) {
     Trace(browser.session, u"LoadEpisode("_s + episode_id + u')', kTraceEntry);
     SetEpisode(browser, browser.listEpisodes.RowOfKey(episode_id));
     GetProfileInfos(browser, episode_id, true, false);
+}
+
+void SortEpisodes(Browser &browser, int column, Qt::SortOrder order) {
+    const auto &episodes = browser.listEpisodes.Rows();
+    const int row = browser.current_episode;
+    const QString key = row >= 0 && row < int(episodes.size()) ? episodes[size_t(row)].key : QString();
+    browser.listEpisodes.sort(column, order);
+    SetEpisode(browser, key.isEmpty() ? -1 : browser.listEpisodes.RowOfKey(key));
+}
+
+bool IsEpisodeLocked(Browser &browser) {
+    const auto &episodes = browser.listEpisodes.Rows();
+    const int row = browser.current_episode;
+    if (!browser.session.Database || row < 0 || row >= int(episodes.size())) {
+        return false;
+    }
+    const sql::Recordset lock =
+        browser.session.Database->OpenRecordset(u"SELECT * FROM Locks WHERE LockName = 'Entire' AND ProfileID = '"_s +
+                                                EscapeSql(episodes[size_t(row)].key) + u'\'');
+    return !lock.Eof();
 }
 
 } // namespace ostrand

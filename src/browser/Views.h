@@ -28,6 +28,10 @@ void UpdateEpisodes(Browser &browser, const QString &series_id, const QString &s
 void UpdateEpisodeList(Browser &browser, sql::Recordset &rows);
 /// An episode's row became current.
 void LoadEpisode(Browser &browser, const QString &episode_id);
+/// The lock "Entire" of the episode that is selected in listEpisodes.
+bool IsEpisodeLocked(Browser &browser);
+/// Sorts the rows of listEpisodes; the selected one stays so.
+void SortEpisodes(Browser &browser, int column, Qt::SortOrder order);
 void SelectSeason(Browser &browser, int index);
 
 } // namespace ostrand

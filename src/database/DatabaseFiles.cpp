@@ -112,6 +112,13 @@ Standing BringToPresentVersionOrLeave(Session &session) {
     return standing;
 }
 
+template <typename Hook, typename... Arguments>
+void Call(const Hook &hook, Arguments... arguments) {
+    if (hook) {
+        hook(arguments...);
+    }
+}
+
 /// True when the open database stands at the present version.
 bool Prepare(Session &session) {
     switch (BringToPresentVersionOrLeave(session)) {
@@ -119,6 +126,7 @@ bool Prepare(Session &session) {
         return true;
     case Standing::Newer:
         session.DatabaseTooNew = true;
+        Call(session.window.EnableDBMenues, false);
         Say(session, MessageIcon::Critical,
             Translate(session, u"Database version too high!"_s) + "\r\n"_L1 +
                 Translate(session, u"Please update the program with the latest version."_s));
@@ -137,13 +145,6 @@ void LoadCrewRoles(Session &session) {
         WriteDbInfo(session, u"CrewMapping"_s, mapping, u"Crew role mapping table for crew tree"_s);
     }
     session.CrewRoles.Load(mapping);
-}
-
-template <typename Hook, typename... Arguments>
-void Call(const Hook &hook, Arguments... arguments) {
-    if (hook) {
-        hook(arguments...);
-    }
 }
 
 void HandOver(Session &session, const QFileInfo &file) {
@@ -256,6 +257,7 @@ bool Open(Session &session, const QString &path) {
     } catch (const sql::SqlError &fault) {
         if (opened) {
             session.Database.reset(); // nobody works on a file that is not in order
+            Call(session.window.EnableDBMenues, false);
         }
         SayFault(session, fault);
         return false;

@@ -18,9 +18,6 @@ QStringList FirstFields(Session &session, const QString &statement) {
 }
 
 QStringList ListedValues(Session &session, const QString &list) {
-    if (list.isEmpty()) {
-        return {};
-    }
     if (!list.contains(QStringLiteral("select"))) {
         return list.split(u'|');
     }
@@ -44,6 +41,9 @@ QString Answer(const std::optional<QString> &answer, bool &cancelled) {
 
 QString InputCombo(Session &session, const QString &prompt, const QString &title, bool &cancelled, const QString &list,
                    const QString &preset) {
+    if (list.isEmpty()) {
+        return InputText(session, prompt, title, cancelled, preset);
+    }
     const QStringList values = ListedValues(session, list);
     return Answer(session.services.dialogs.InputCombo(prompt, title, values, preset), cancelled);
 }

@@ -10,7 +10,8 @@ struct Session;
 
 /// Asks for a value with values to choose from. `list` holds the values, separated by "|", or a statement (when it
 /// holds "select" in lower case) whose first field gives them. Empty, with `cancelled` set, when the user closed
-/// without OK. A faulty statement shows a message, and the dialog opens without values.
+/// without OK. A faulty statement shows a message, and the dialog opens with an empty list. Without a list it is that
+/// of InputText.
 QString InputCombo(Session &session, const QString &prompt, const QString &title, bool &cancelled, const QString &list,
                    const QString &preset);
 /// The same without values.

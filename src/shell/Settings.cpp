@@ -101,6 +101,7 @@ void LoadDatabaseSettings(Session &session) {
 }
 
 void SaveDatabaseSettings(Session &session) {
+    Trace(session, QStringLiteral("SaveDatabaseSettings()"), kTraceEntry);
     if (!session.Database || session.DatabaseTooNew) {
         return;
     }
@@ -125,6 +126,7 @@ void SaveDatabaseSettings(Session &session) {
         }
         WriteDbInfo(session, setting->Key(), value, QString::fromUtf16(setting->comment));
     }
+    Trace(session, QStringLiteral("SaveDatabaseSettings()"), kTraceExit);
 }
 
 } // namespace ostrand

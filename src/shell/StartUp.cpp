@@ -219,6 +219,7 @@ void FinishStartUp(Session &session) {
 }
 
 void CloseViewer(Session &session) {
+    Trace(session, QStringLiteral("CloseViewer()"), kTraceEntry);
     session.progress.Close();
     if (!session.SettingsPath.isEmpty()) {
         WriteInstallationSettings(session);

@@ -180,6 +180,23 @@ void PutPlace(QByteArray &key, std::uint32_t place, std::uint32_t character) {
     PutNumber(key, character + 1);
 }
 
+/// The key of a text of letters, digits and signs of ASCII alone, which have neither accents nor places; empty for any
+/// other text.
+QByteArray AsciiSortKey(QStringView text) {
+    QByteArray key(text.size() + 2, Qt::Uninitialized);
+    char *next = key.data();
+    for (const QChar unit : text) {
+        const std::uint8_t weight = unit.unicode() < 0x80 ? weights::kAscii[unit.unicode()] : std::uint8_t(0);
+        if (weight == 0) {
+            return {};
+        }
+        *next++ = char(weight);
+    }
+    *next++ = 0;
+    *next = 0;
+    return key;
+}
+
 /// Runs over what weighs the same in both texts. True when `result` is known; else `place` is where the slow
 /// comparison may begin.
 template <class Unit>
@@ -254,6 +271,9 @@ int Compare(QStringView left, QStringView right) {
 QByteArray SortKey(QStringView text) {
     while (text.endsWith(u' ')) {
         text.chop(1);
+    }
+    if (const QByteArray key = AsciiSortKey(text); !key.isEmpty()) {
+        return key;
     }
     QByteArray letters;
     letters.reserve(text.size() + 2);

@@ -66,7 +66,8 @@ void RequireDatabase(const QString &path) {
 Connection OpenHandle(const QString &path, const Registration &registration) {
     sqlite3 *handle = nullptr;
     const QByteArray name = QFile::encodeName(QFileInfo(path).absoluteFilePath());
-    const int result = sqlite3_open_v2(name.constData(), &handle, SQLITE_OPEN_READWRITE, nullptr);
+    // A connection belongs to one thread, and what another one may call takes no lock of SQLite.
+    const int result = sqlite3_open_v2(name.constData(), &handle, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
     Connection connection(handle);
     if (result != SQLITE_OK) {
         RaiseSqliteError(handle);

@@ -58,6 +58,58 @@ TEST_F(AttachTest, HeadersAreTranslated) {
     EXPECT_EQ(Headers(browser.listEpisodes)[1], u"Folge"_s);
 }
 
+TEST_F(AttachTest, CaptionsFollowTheLanguageBothWays) {
+    TranslateAs(u"All"_s, u"Alle"_s);
+    TranslateAs(u"Ordered"_s, u"Bestellt"_s);
+    TranslateAs(u"Details"_s, u"Einzelheiten"_s);
+    TranslateAs(u"Year"_s, u"Jahr"_s);
+    TranslateAs(u"Filtered:"_s, u"Gefiltert:"_s);
+    TranslateAs(u"Clear Filter"_s, u"Ohne Filter"_s);
+    TranslateAs(u"Television"_s, u"WishList"_s); // no reason to touch a tab of that name
+    ASSERT_TRUE(Reopen());
+    SelectColTypeTab(browser, 3);
+    ChooseFilter(browser, u"Clear Filter"_s);
+    for (const bool translated : {true, false, false, true, true, false}) {
+        session.UseUserDefinedStrings = translated;
+        TranslateBrowser(browser);
+        session.window.SettingsStored();
+        const auto shown = [translated](const QString &english, const QString &other) {
+            return translated ? other : english;
+        };
+        EXPECT_EQ(browser.tabColList.mid(0, 4), (QStringList{shown(u"All"_s, u"Alle"_s), u"Owned"_s,
+                                                             shown(u"Ordered"_s, u"Bestellt"_s), u"WishList"_s}));
+        EXPECT_EQ(browser.tabColList_selected, 3);
+        EXPECT_EQ(Keys(), QStringList{u"C1"_s});
+        EXPECT_EQ(browser.tabMain[1], shown(u"Details"_s, u"Einzelheiten"_s));
+        EXPECT_EQ(Headers(browser.listSeries)[3], shown(u"Year"_s, u"Jahr"_s));
+        EXPECT_EQ(browser.labelFilterCount, shown(u"Filtered: 1"_s, u"Gefiltert: 1"_s));
+        EXPECT_EQ(browser.comboFilter_text, shown(u"Clear Filter"_s, u"Ohne Filter"_s));
+        EXPECT_EQ(browser.comboFilter.front(), browser.comboFilter_text);
+    }
+    ChangeMode(browser, false);
+    EXPECT_EQ(browser.tabColList, QStringList{u"TV"_s});
+}
+
+TEST_F(AttachTest, ATabThatTheSettingsTakeAwayGivesItsPlaceToAllTitles) {
+    ASSERT_TRUE(Reopen());
+    SelectColTypeTab(browser, 4);
+    ASSERT_EQ(Keys(), QStringList());
+    session.view.UseProfilerColTypes = false;
+    session.window.SettingsStored();
+    EXPECT_EQ(browser.tabColList_selected, 1);
+    EXPECT_EQ(Keys().size(), 5);
+    MoveToRow(browser, 2);
+    session.window.SettingsStored();
+    EXPECT_EQ(CurrentKey(), u"C1"_s) << "the list is filled anew only where its tab went";
+}
+
+TEST_F(AttachTest, AnotherCoverFolderShowsTheCoverFromThere) {
+    ASSERT_TRUE(Reopen());
+    session.CoverPath = Path(u"a/much/longer/folder/for/covers/"_s);
+    session.window.SettingsStored();
+    EXPECT_EQ(browser.cover_stem, session.CoverPath + u"A1"_s);
+}
+
 TEST_F(AttachTest, TheTabsOfTheLastRunComeBack) {
     const struct {
         QString main, collection;

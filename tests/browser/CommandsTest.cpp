@@ -78,6 +78,11 @@ TEST_F(CommandsTest, WithoutADatabaseItsMenusAreDisabledAndTheOthersAreNot) {
          {u"mFile"_s, u"mInfo"_s, u"mExit"_s, u"mAbout"_s, u"mSwitchDatabase"_s, u"mCommandFile"_s}) {
         EXPECT_TRUE(commands.IsEnabled(name)) << qPrintable(name);
     }
+    for (const MenuEntry &entry : MenuEntries()) {
+        if (entry.is_context_menu || (entry.parent != nullptr && FindMenuEntry(entry.parent)->is_context_menu)) {
+            EXPECT_TRUE(entry.IsSeparator() || !commands.IsEnabled(Name(entry))) << qPrintable(Name(entry));
+        }
+    }
     EnableDBMenues(commands, true);
     for (const MenuEntry &entry : MenuEntries()) {
         if (!entry.IsSeparator() && entry.view != InView::TV &&

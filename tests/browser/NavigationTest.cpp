@@ -132,6 +132,20 @@ TEST_F(NavigationTest, ShowMovieTakesTheRowOfTheList) {
     ExpectShown(u"A1"_s);
 }
 
+TEST_F(NavigationTest, AClickOnTheCurrentRowShowsItsTitleAgain) {
+    LoadEpisode(browser, u"H11"_s);
+    ASSERT_TRUE(session.CurrentIsEpisode);
+    MoveToRow(browser, 0);
+    ExpectShown(u"A1"_s);
+    EXPECT_FALSE(session.CurrentIsEpisode);
+    EXPECT_EQ(BackKeys(), QStringList()) << "no row was left";
+}
+
+TEST_F(NavigationTest, GoingToATitleIsTraced) {
+    ShowMovie(browser, u"B1"_s);
+    EXPECT_TRUE(LogLines().contains(u"Enter:    ShowMovie(B1)"_s));
+}
+
 TEST_F(NavigationTest, ShowMovieLooksOnTheTabOfAllTitles) {
     SelectColTypeTab(browser, 2);
     ShowMovie(browser, u"Key_D1"_s);

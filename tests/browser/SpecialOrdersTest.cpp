@@ -138,6 +138,18 @@ TEST_F(SpecialOrdersTest, LocalityPutsChildrenWithTheSameValueBelow) {
               QStringList({u"Chile"_s, u"     Other"_s, u"Norway"_s, u"     Box"_s, u"     One"_s, u"     Two"_s}));
 }
 
+TEST_F(SpecialOrdersTest, ChildrenOfALocalitySortByTheirCustomTitles) {
+    AddProfile(u"Box"_s, u"Locality = 'Norway'"_s);
+    AddProfile(u"One"_s, u"Locality = 'Norway', CustomTitle = 'Zebra'"_s);
+    AddProfile(u"Two"_s, u"Locality = 'Norway', CustomSortTitle = 'Antelope'"_s);
+    AddChild(u"One"_s, u"Box"_s);
+    AddChild(u"Two"_s, u"Box"_s);
+    session.view.mUseCustomTitle = true;
+    const QStringList plain = {u"Norway"_s, u"     Box"_s, u"          One"_s, u"          Two"_s};
+    EXPECT_EQ(Groups(u"Locality"_s), plain);
+    EXPECT_EQ(Column(TitleList::SortTitle), QStringList({{}, u"Box"_s, u"Zebra"_s, u"Antelope"_s}));
+}
+
 TEST_F(SpecialOrdersTest, LocalityWithAQuoteFailsAndLeavesAPartOfTheList) {
     AddProfile(u"Arc"_s, u"Locality = 'Chile'"_s);
     AddProfile(u"Mill"_s, u"Locality = 'O''Higgins'"_s);

@@ -102,6 +102,28 @@ TEST(TitleList, SortsByText) {
     EXPECT_EQ(list.SortOrder(), Order::Descending);
 }
 
+TEST(TitleList, SortsAnewByEachColumnAndAfterNewRows) {
+    TitleList list;
+    std::vector<TitleRow> rows = {Row(u"1"_s, u"b"_s), Row(u"2"_s, u"a"_s), Row(u"3"_s, u"c"_s)};
+    for (size_t i = 0; i < rows.size(); ++i) {
+        rows[i].texts[TitleList::Year] = QString::number(2000 - i);
+    }
+    list.Assign(rows);
+    const std::tuple<TitleList::Column, Order, QString> steps[] = {
+        {TitleList::SortTitle, Order::Ascending, u"2 1 3"_s}, {TitleList::SortTitle, Order::Descending, u"3 1 2"_s},
+        {TitleList::Year, Order::Descending, u"1 2 3"_s},     {TitleList::Year, Order::Ascending, u"3 2 1"_s},
+        {TitleList::SortTitle, Order::Ascending, u"2 1 3"_s}, {TitleList::SortTitle, Order::Ascending, u"2 1 3"_s},
+    };
+    for (const auto &[column, order, keys] : steps) {
+        list.SortBy(column, order);
+        EXPECT_EQ(Keys(list).join(u' '), keys) << column << ' ' << int(order);
+    }
+    list.Assign({Row(u"4"_s, u"z"_s), Row(u"5"_s, u"y"_s), Row(u"6"_s, u"x"_s)});
+    EXPECT_EQ(Keys(list).join(u' '), u"6 5 4"_s);
+    list.SortBy(TitleList::SortTitle, Order::Descending);
+    EXPECT_EQ(Keys(list).join(u' '), u"4 5 6"_s);
+}
+
 TEST(TitleList, AutomaticSortAppliesToNewRowsUntilItIsTurnedOff) {
     TitleList list;
     list.SortBy(TitleList::SortTitle, Order::Ascending);
@@ -139,6 +161,8 @@ TEST(TitleList, ColoursOfRows) {
     list.SetStriping(Striping::KeepBold);
     EXPECT_EQ(Colours(list), std::vector({kHeader, kAlternate, kText, kHeader, kText}));
     EXPECT_EQ(changes, 1);
+    list.SetStriping(Striping::KeepBold);
+    EXPECT_EQ(changes, 1) << "what is as it was, is not told";
 }
 
 TEST(TitleList, WidthsTellTheirChange) {

@@ -128,6 +128,19 @@ TEST_F(TitleSortingTest, StoredYearHasNoNestingUntilTheTitleAscends) {
     EXPECT_EQ(Titles(), u"Arc      Cup Bay"_s);
 }
 
+TEST_F(TitleSortingTest, StoredSortThatThereIsNoneOfGivesWay) {
+    const std::tuple<int, int, int, int> rows[] = {{0, 0, 2, 0}, {9, 1, 2, 1}, {3, 7, 3, 0}};
+    for (const auto &[key, order, kept_key, kept_order] : rows) {
+        session.view.ProfilesSortKey = key;
+        session.view.ProfilesSortOrder = order;
+        GetMovieNames(browser);
+        EXPECT_EQ(session.view.ProfilesSortKey, kept_key);
+        EXPECT_EQ(session.view.ProfilesSortOrder, kept_order);
+        EXPECT_EQ(ReadDbInfo(session, u"ProfilesSortKey"_s, {}), QString::number(kept_key));
+        EXPECT_EQ(ReadDbInfo(session, u"ProfilesSortOrder"_s, {}), QString::number(kept_order));
+    }
+}
+
 TEST_F(TitleSortingTest, SortOfTheSeriesIsNotStored) {
     Run(u"INSERT INTO TVSeries (SeriesID, Title, OriginalTitle, SortTitle) VALUES ('s1', 'Harbour', '', 'Harbour')");
     Run(u"INSERT INTO TVSeries (SeriesID, Title, OriginalTitle, SortTitle) VALUES ('s2', 'Lights', '', 'Lights')");

@@ -54,6 +54,11 @@ TEST_F(ViewsTest, TheModeIsToldWhereItIsSeen) {
     EXPECT_TRUE(browser.filter_shown);
     EXPECT_EQ(browser.tabColList.front(), u"All"_s);
     EXPECT_EQ(Traced(u"ChangeMode(False)"_s), 1);
+    EXPECT_EQ(Traced(u"ChangeMode(True)"_s), 2) << "the first one made the list";
+    ShowTVShows(browser);
+    ShowMovies(browser);
+    EXPECT_EQ(Traced(u"ChangeMode(False)"_s), 2);
+    EXPECT_EQ(Traced(u"ChangeMode(True)"_s), 3) << "the menu entries change the mode too";
 }
 
 TEST_F(ViewsTest, WhoHearsOfTheModeFindsNoRowOfTheOtherOne) {
@@ -277,6 +282,58 @@ TEST_F(ViewsTest, AnEpisodeBecomesTheCurrentTitle) {
     EXPECT_TRUE(session.CurrentIsEpisode);
     EXPECT_EQ(browser.current_episode, 2);
     EXPECT_EQ(LogLines().last(), u"Enter:    GetProfileInfos(H13, True, False)"_s);
+}
+
+TEST_F(ViewsTest, EpisodesAreSortedWithTheSelectedOneKept) {
+    ChangeMode(browser, false);
+    MoveToRow(browser, 1);
+    SelectSeason(browser, int(browser.listSeasons.indexOf(u"One"_s)));
+    LoadEpisode(browser, u"H110"_s);
+    const auto keys = [this] {
+        QStringList found;
+        for (const EpisodeRow &row : browser.listEpisodes.Rows()) {
+            found << row.key;
+        }
+        return found;
+    };
+    SortEpisodes(browser, EpisodeList::Number, Qt::AscendingOrder);
+    EXPECT_EQ(keys(), (QStringList{u"H11"_s, u"H13"_s, u"H110"_s}));
+    EXPECT_EQ(browser.current_episode, 2);
+    SortEpisodes(browser, EpisodeList::Title, Qt::DescendingOrder);
+    EXPECT_EQ(keys(), (QStringList{u"H110"_s, u"H11"_s, u"H13"_s}));
+    EXPECT_EQ(browser.current_episode, 0);
+    EXPECT_EQ(session.CurrentProfileID, u"H110"_s);
+    SelectSeason(browser, browser.current_season);
+    EXPECT_EQ(keys(), (QStringList{u"H11"_s, u"H110"_s, u"H13"_s})) << "other rows stand in the order of their query";
+}
+
+TEST_F(ViewsTest, TheLockOfTheSelectedEpisodeIsFound) {
+    Run(u"INSERT INTO Locks (ProfileID, LockName) VALUES ('H13', 'entire')");
+    Run(u"INSERT INTO Locks (ProfileID, LockName) VALUES ('H11', 'Title')");
+    EXPECT_FALSE(IsEpisodeLocked(browser));
+    ChangeMode(browser, false);
+    MoveToRow(browser, 1);
+    SelectSeason(browser, int(browser.listSeasons.indexOf(u"One"_s)));
+    EXPECT_FALSE(IsEpisodeLocked(browser)) << "only a part of it is";
+    LoadEpisode(browser, u"H13"_s);
+    EXPECT_TRUE(IsEpisodeLocked(browser));
+}
+
+TEST_F(ViewsTest, RowsThatOutliveTheirDatabaseDoNoHarm) {
+    ChangeMode(browser, false);
+    MoveToRow(browser, 1);
+    session.Database.reset();
+    SelectSeason(browser, 1);
+    LoadEpisode(browser, u"H11"_s);
+    SortByHeader(browser, TitleList::Title);
+    MoveToRow(browser, 0);
+    EXPECT_TRUE(browser.listSeasons.isEmpty());
+    EXPECT_EQ(browser.caption, browser.base_caption);
+    ToggleOriginalTitle(browser);
+    session.view.mTVShows = false;
+    MoveToRow(browser, 1);
+    SortByHeader(browser, TitleList::Title);
+    EXPECT_EQ(browser.listSeries.rowCount(), 0);
 }
 
 TEST_F(ViewsTest, MovieViewFillsEpisodesWithoutChoosingOne) {

@@ -66,6 +66,34 @@ TEST_F(FilesTest, ANewerVersionIsToldAndTheFileStaysOpenAndUnchanged) {
     }
 }
 
+TEST_F(FilesTest, TheMenusWorkOnlyOnADatabaseThatOpened) {
+    Create(u"Newer.mdb"_s);
+    WriteDbInfo(session, u"Schema"_s, u"91"_s);
+    Create(u"Faulty.mdb"_s);
+    session.Database->Execute(u"DROP TABLE DbInfo");
+    session.Database->Execute(u"CREATE TABLE DbInfo (InfoName varchar PRIMARY KEY, InfoValue memo)");
+    session.Database->Execute(u"INSERT INTO DbInfo (InfoName, InfoValue) VALUES ('Schema', '90')");
+    Create(u"Good.mdb"_s);
+    session.Database.reset();
+    std::optional<bool> enabled;
+    session.window.EnableDBMenues = [&enabled](bool on) { enabled = on; };
+    const struct {
+        QString name;
+        std::optional<bool> enabled;
+        bool told;
+    } cases[] = {
+        {u"Missing.mdb"_s, std::nullopt, true}, {u"Good.mdb"_s, true, false},   {u"Newer.mdb"_s, false, true},
+        {u"Good.mdb"_s, true, false},           {u"Faulty.mdb"_s, false, true},
+    };
+    for (const auto &c : cases) {
+        if (c.told) {
+            Expect({}, {}, MessageIcon::Critical);
+        }
+        Open(c.name);
+        EXPECT_EQ(enabled, c.enabled) << qPrintable(c.name);
+    }
+}
+
 TEST_F(FilesTest, ANewerFileGetsNoSettingsOfTheOneBefore) {
     Create(u"Newer.mdb"_s);
     WriteDbInfo(session, u"Schema"_s, u"91"_s);

@@ -450,6 +450,17 @@ TEST_F(ManagerTest, DeleteOfAFileThatIsGoneMeanwhileRemovesItsRow) {
     EXPECT_EQ(manager.rowCount(), 0);
 }
 
+TEST_F(ManagerTest, DeleteThatTheDiskRefusesIsToldAndTheRowStays) {
+    Make(u"a"_s);
+    DatabaseManager manager(session);
+    QFile::remove(Path(u"a.mdb"_s));
+    QDir(folder_.Path()).mkdir(u"a.mdb"_s); // no file any more, so not to be removed as one
+    ExpectDelete(u"a"_s, MessageAnswer::Yes);
+    Expect(u"The database file cannot be deleted."_s, u"Cannot open database"_s, MessageIcon::Critical);
+    manager.Delete(0);
+    EXPECT_EQ(manager.rowCount(), 1);
+}
+
 TEST_F(ManagerTest, CancelAfterDeletingTheDatabaseOfBeforeTellsThatItIsGone) {
     OpenBefore(u"films"_s);
     DatabaseManager manager(session);

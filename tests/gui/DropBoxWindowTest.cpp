@@ -121,8 +121,10 @@ TEST_F(DropBoxWindow, TheZoneLightsUpWhileSomethingHangsOverIt) {
 TEST_F(DropBoxWindow, CtrlVAndTheButtonTakeWhatTheClipboardNames) {
     services.clipboard.SetText(Picture().toString() + u"\r\n"_s);
     QTest::keyClick(&window, Qt::Key_V, Qt::ControlModifier);
-    QTest::mouseClick(window.findChild<QPushButton *>(u"cbPaste"_s), Qt::LeftButton);
-    EXPECT_EQ(Headshots(), (QStringList{u"Ann Lee.jpg"_s, u"Ann Lee_1.jpg"_s}));
+    auto *paste = window.findChild<QPushButton *>(u"cbPaste"_s);
+    QTest::mouseClick(paste, Qt::LeftButton);
+    QTest::keyClick(paste, Qt::Key_Return);
+    EXPECT_EQ(Headshots(), (QStringList{u"Ann Lee.jpg"_s, u"Ann Lee_1.jpg"_s, u"Ann Lee_2.jpg"_s}));
 }
 
 TEST_F(DropBoxWindow, AFileCanBeChosen) {

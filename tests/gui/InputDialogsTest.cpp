@@ -80,10 +80,14 @@ TEST(InputDialogTest, AListOffersItsValuesAndTakesFreeText) {
     EXPECT_EQ(dialogs.InputCombo(u"?"_s, {}, {u"Ann"_s, u"Zoe"_s}, {}), u"An"_s);
 }
 
-TEST(InputDialogTest, WithoutValuesItIsPlain) {
+TEST(InputDialogTest, AnEmptyListIsAListToo) {
     WindowDialogs dialogs;
     WithModal<frmSQLUserInput>([](frmSQLUserInput &window) {
-        EXPECT_TRUE(FindControl<QLineEdit>(window, "textInput")->isVisible());
+        EXPECT_FALSE(FindControl<QLineEdit>(window, "textInput")->isVisible());
+        auto *combo = FindControl<QComboBox>(window, "comboVarValues");
+        EXPECT_TRUE(combo->isVisible());
+        EXPECT_EQ(combo->count(), 0);
+        EXPECT_TRUE(window.focusWidget() == combo || window.focusWidget() == combo->lineEdit());
         QTest::keyClick(&window, Qt::Key_Return);
     });
     EXPECT_EQ(dialogs.InputCombo(u"?"_s, {}, {}, u"p"_s), u"p"_s);

@@ -15,6 +15,7 @@
 #include <QTabBar>
 #include <QTimer>
 #include <QToolButton>
+#include <QWindow>
 
 namespace ostrand {
 namespace {
@@ -378,12 +379,147 @@ TEST_F(MainWindow, ACommandFileThatClosesEndsTheProgram) {
     EXPECT_FALSE(session.Database);
 }
 
+TEST_F(MainWindow, ACommandFileThatOpensNothingLeavesAnEmptyWindow) {
+    main = std::make_unique<frmMain>(browser);
+    ASSERT_TRUE(main->Load(services.folders.dir.Write(u"go.txt"_s, "setskin Blue\r\n")));
+    EXPECT_TRUE(main->isVisible());
+    EXPECT_EQ(main->windowTitle(), browser.base_caption);
+    EXPECT_FALSE(Control<QWidget>("Frame4_2")->isVisible()) << "no episodes";
+    EXPECT_EQ(Control<QLabel>("labelFilterCount")->toolTip(), QString());
+    EXPECT_FALSE(browser.commands.IsEnabled(u"mView"_s));
+    main->close();
+    EXPECT_EQ(GetINIString(session, u"Main"_s, u"LastDatabase"_s, {}), u"Database"_s);
+}
+
 TEST_F(MainWindow, ACommandFileWithoutCloseLeavesTheLastDatabaseOpen) {
     const QString file = services.folders.dir.Write(u"go.txt"_s, (u"opendatabase "_s + database + u"\r\n"_s).toUtf8());
     main = std::make_unique<frmMain>(browser);
     ASSERT_TRUE(main->Load(file));
     EXPECT_EQ(Titles().size(), 60);
     EXPECT_TRUE(main->isVisible());
+}
+
+/// A title that should have been back long ago, told at the start.
+const QStringList kOverdue = {
+    u"UPDATE DbInfo SET InfoValue = '1' WHERE InfoName = 'ShowLoanDueOnStartUp'"_s, u"DELETE FROM LoanInfo"_s,
+    u"INSERT INTO Users (UserID) VALUES ('Borrower One')"_s,
+    u"INSERT INTO LoanInfo (ProfileID, UserID, LoanedDue) SELECT TOP 1 ProfileID, 'Borrower One', #5/1/2024# FROM "
+    "Profiles"_s};
+
+TEST_F(MainWindow, NothingOfTheStartFollowsACommandFileThatCloses) {
+    {
+        const auto file = sql::Database::Open(database);
+        for (const QString &statement : kOverdue) {
+            file->Execute(statement);
+        }
+    }
+    services.folders.dir.Write(u"documents/OstrandApp/Settings.ini"_s, "[Main]\r\nDebug=0x6\r\n");
+    const QString file =
+        services.folders.dir.Write(u"go.txt"_s, (u"opendatabase "_s + database + u"\r\nclose\r\n"_s).toUtf8());
+    main = std::make_unique<frmMain>(browser);
+    EXPECT_FALSE(main->Load(file));
+    EXPECT_FALSE(session.Database);
+    EXPECT_FALSE(main->isVisible());
+    const QString log = QString::fromUtf8(services.folders.dir.Read(u"documents/OstrandApp/Debug.log"_s));
+    EXPECT_FALSE(log.contains(u"frmMain_Load()"_s));
+    EXPECT_TRUE(log.endsWith(u"Exit:     CloseViewer()\r\n"_s)) << qPrintable(log.right(200));
+}
+
+TEST_F(MainWindow, TheTitlesDueAtTheStartLieAboveIt) {
+    Start(kOverdue);
+    const QList<frmListView *> windows = main->findChildren<frmListView *>();
+    ASSERT_EQ(windows.size(), 1);
+    EXPECT_TRUE(windows.first()->isVisible());
+    EXPECT_EQ(windows.first()->windowHandle()->transientParent(), main->windowHandle());
+}
+
+TEST_F(MainWindow, TheCountTellsThePathOfTheOpenDatabase) {
+    Start();
+    const QString other = services.folders.dir / u"other.mdb"_s;
+    ASSERT_TRUE(QFile::copy(test::SampleDatabase(), other));
+    ASSERT_TRUE(OpenCollectionDatabase(session, other));
+    EXPECT_EQ(Control<QLabel>("labelFilterCount")->toolTip(), other);
+}
+
+TEST_F(MainWindow, ComesUpInTheStateItWasClosedIn) {
+    const struct {
+        const char *state;
+        bool minimised, maximised;
+    } cases[] = {{"0", false, false}, {"1", true, false}, {"2", false, true}, {"nonsense", false, false}};
+    for (const auto &c : cases) {
+        services.folders.dir.Write(u"documents/OstrandApp/Settings.ini"_s,
+                                   QByteArray("[Window]\r\nWindowState=") + c.state + "\r\n");
+        Session one_session(services.services);
+        Browser one(one_session);
+        frmMain window(one);
+        ASSERT_TRUE(window.Load(database));
+        EXPECT_EQ(window.isMinimized(), c.minimised) << c.state;
+        EXPECT_EQ(window.isMaximized(), c.maximised) << c.state;
+        window.close();
+    }
+}
+
+TEST_F(MainWindow, ClosedInTheMiddleOfAnActionItEndsBehindIt) {
+    Start();
+    main->Perform([this] {
+        main->Perform([this] { EXPECT_FALSE(main->close()); });
+        EXPECT_TRUE(session.Database) << "the action still works on it";
+        EXPECT_TRUE(main->isVisible());
+    });
+    EXPECT_FALSE(session.Database);
+    EXPECT_FALSE(main->isVisible());
+}
+
+TEST_F(MainWindow, AskedToEndItClosesTheDialogThatWaitsFirst) {
+    for (const char *command : {"mSettings", "mSwitchDatabase", "mAbout"}) {
+        Start();
+        QTimer::singleShot(0, main.get(), [this] {
+            ASSERT_TRUE(QApplication::activeModalWidget());
+            main->AskToEnd();
+            EXPECT_TRUE(main->isVisible());
+        });
+        Trigger(command);
+        EXPECT_FALSE(session.Database) << command;
+        EXPECT_FALSE(main->isVisible()) << command;
+        main.reset();
+        session.EndProgram = false;
+    }
+}
+
+TEST_F(MainWindow, AskedToEndWhileNothingWaitsItCloses) {
+    Start();
+    main->AskToEnd();
+    EXPECT_FALSE(session.Database);
+    EXPECT_FALSE(main->isVisible());
+}
+
+TEST_F(MainWindow, ADatabaseThatDoesNotOpenLeavesAWindowWithoutOne) {
+    Start();
+    const QString faulty = services.folders.dir / u"faulty.mdb"_s;
+    {
+        const auto file = sql::Database::Create(faulty);
+        file->Execute(u"CREATE TABLE DbInfo (InfoName varchar PRIMARY KEY, InfoValue memo, Comment varchar)");
+        file->Execute(u"INSERT INTO DbInfo (InfoName, InfoValue) VALUES ('Schema', '90')");
+    }
+    services.dialogs.ExpectMessage({}, MessageIcon::Critical);
+    EXPECT_FALSE(OpenCollectionDatabase(session, faulty));
+    EXPECT_FALSE(session.Database);
+    for (const char *menu : {"mEdit", "mTools", "mView", "mSettings"}) {
+        EXPECT_FALSE(browser.commands.IsEnabled(QString::fromLatin1(menu))) << menu;
+    }
+    ClickRow(2);
+    QTest::keyClick(List(), Qt::Key_Down);
+    QTest::keyClicks(List(), u"birds"_s);
+    auto *tabs = Control<QTabBar>("tabColList");
+    tabs->setCurrentIndex(1);
+    auto *filter = Control<QComboBox>("comboFilter");
+    Q_EMIT filter->textActivated(filter->itemText(0));
+    QTest::mouseClick(List()->header()->viewport(), Qt::LeftButton, {}, QPoint(10, 5));
+    QTest::mouseClick(Control<PictureView>("picCover"), Qt::LeftButton);
+    for (const char *button : {"MoveBack", "MoveForward"}) {
+        Control<QToolButton>(button)->click();
+    }
+    EXPECT_TRUE(browser.commands.IsEnabled(u"mSwitchDatabase"_s)) << "the way out";
 }
 
 } // namespace

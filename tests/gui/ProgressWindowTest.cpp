@@ -6,6 +6,7 @@
 
 #include <QCheckBox>
 #include <QProgressBar>
+#include <QScreen>
 #include <QTest>
 #include <QTreeWidget>
 
@@ -195,6 +196,44 @@ TEST_F(ProgressWindowTest, TheNextJobTakesTheWindowThatIsStillOpen) {
     EXPECT_TRUE(window.isVisible());
     EXPECT_EQ(tree->topLevelItemCount(), 0);
     EXPECT_FALSE(close->isEnabled());
+    job.UnloadForm(false);
+}
+
+TEST_F(ProgressWindowTest, EnterClosesOnlyFromItsButton) {
+    QStringList chosen;
+    window.title_chosen = [&](const QString &key) { chosen += key; };
+    job.Load(u"Importing"_s);
+    job.ShowDetails(true);
+    job.AddInfo(u"Film"_s, u"Key_1"_s);
+    for (int i = 0; i < 100; ++i) {
+        job.AddInfo(QString::number(i));
+    }
+    job.UnloadForm(true);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    tree->setFocus();
+    QTest::keyClick(tree, Qt::Key_Home);
+    EXPECT_TRUE(tree->viewport()->rect().contains(tree->visualItemRect(Item(u"Film"_s)).center()));
+    QTest::keyClick(tree, Qt::Key_Return);
+    EXPECT_EQ(chosen, QStringList(u"Key_1"_s));
+    EXPECT_TRUE(window.isVisible());
+    close->setFocus();
+    QTest::keyClick(close, Qt::Key_Return);
+    EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(ProgressWindowTest, ItGrowsOnTheScreen) {
+    const QRect screen = window.screen()->availableGeometry();
+    job.Load(u"Importing"_s);
+    for (const int bottom : {screen.center().y(), screen.bottom()}) {
+        window.resize(window.width(), 100);
+        window.move(screen.left(), bottom - 99);
+        job.ShowDetails(true);
+        job.AddInfo(u"First film"_s);
+        EXPECT_GT(window.height(), 100);
+        EXPECT_LE(window.frameGeometry().bottom(), screen.bottom());
+        EXPECT_GE(window.frameGeometry().top(), screen.top());
+        job.Load(u"Importing"_s);
+    }
     job.UnloadForm(false);
 }
 

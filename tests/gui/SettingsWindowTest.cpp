@@ -7,7 +7,9 @@
 
 #include <QCheckBox>
 #include <QFontComboBox>
+#include <QLabel>
 #include <QListWidget>
+#include <QRegularExpression>
 #include <QScrollArea>
 #include <QTabWidget>
 #include <QTest>
@@ -43,6 +45,8 @@ protected:
     }
     void Press(const QString &button) { QTest::mouseClick(Find<QPushButton>(button), Qt::LeftButton); }
 
+    static QString WithoutKey(QString text) { return text.remove(QRegularExpression(u"&(?!&)"_s)); }
+
     test::TestServices services;
     Session session{services.services};
     std::unique_ptr<frmSettings> window;
@@ -58,7 +62,7 @@ TEST_F(SettingsWindow, HasEachControlOnceWithItsNameAndCaption) {
         ASSERT_EQ(controls.size(), 1) << qPrintable(entry.Control());
         EXPECT_EQ(controls.first()->accessibleName(), entry.Caption());
         if (const auto *box = qobject_cast<QCheckBox *>(controls.first())) {
-            EXPECT_EQ(box->text(), entry.Caption());
+            EXPECT_EQ(WithoutKey(box->text()), entry.Caption());
         }
         if (entry.button) {
             const auto *button = Find<QPushButton>(QString::fromUtf16(entry.button));
@@ -68,6 +72,43 @@ TEST_F(SettingsWindow, HasEachControlOnceWithItsNameAndCaption) {
     }
     EXPECT_TRUE(Find<QFontComboBox>(u"comboFont"_s));
     EXPECT_EQ(Find<QTabWidget>(u"tabSettings"_s)->count(), 4);
+}
+
+TEST_F(SettingsWindow, EachControlOfAPageHasItsKey) {
+    Show();
+    auto *tabs = Find<QTabWidget>(u"tabSettings"_s);
+    for (int page = 0; page < tabs->count(); ++page) {
+        QStringList keys;
+        const auto take = [&](const QString &text) {
+            const QString key = QKeySequence::mnemonic(text).toString();
+            EXPECT_FALSE(key.isEmpty()) << qPrintable(text);
+            EXPECT_FALSE(keys.contains(key)) << qPrintable(text);
+            keys << key;
+        };
+        for (int i = 0; i < tabs->count(); ++i) {
+            take(tabs->tabText(i));
+        }
+        for (const auto *box : tabs->widget(page)->findChildren<QCheckBox *>()) {
+            take(box->text());
+        }
+        for (const auto *label : tabs->widget(page)->findChildren<QLabel *>()) {
+            take(label->text());
+            EXPECT_TRUE(label->buddy()) << qPrintable(label->text());
+        }
+    }
+    QTest::keyClick(window.get(), Qt::Key_E, Qt::AltModifier);
+    EXPECT_EQ(tabs->currentIndex(), 3);
+}
+
+TEST_F(SettingsWindow, EnterOnAFolderButtonChoosesTheFolder) {
+    Show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    Find<QTabWidget>(u"tabSettings"_s)->setCurrentIndex(1);
+    services.dialogs.ExpectBrowseFolder(services.folders.dir / u"covers"_s, u"Cover Path"_s);
+    Find<QPushButton>(u"cbSetCoverPath"_s)->setFocus();
+    QTest::keyClick(Find<QPushButton>(u"cbSetCoverPath"_s), Qt::Key_Return);
+    EXPECT_TRUE(Find<QLineEdit>(u"textCoverPath"_s)->text().startsWith(services.folders.dir / u"covers"_s));
+    EXPECT_TRUE(window->isVisible());
 }
 
 TEST_F(SettingsWindow, OkStoresEachControl) {
@@ -169,7 +210,7 @@ TEST_F(SettingsWindow, TextsAreTranslated) {
     session.Database->Execute(
         u"INSERT INTO Translation (OriginalString, UserString) VALUES ('Show Toolbar', 'Leiste & Knöpfe')");
     Show();
-    EXPECT_EQ(Find<QCheckBox>(u"chkShowToolbar"_s)->text(), u"Leiste && Knöpfe"_s);
+    EXPECT_EQ(Find<QCheckBox>(u"chkShowToolbar"_s)->text(), u"&Leiste && Knöpfe"_s);
     EXPECT_EQ(Find<QCheckBox>(u"chkShowToolbar"_s)->accessibleName(), u"Leiste & Knöpfe"_s);
 }
 

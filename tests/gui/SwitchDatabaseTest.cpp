@@ -88,6 +88,35 @@ TEST_F(SwitchDatabaseWindow, EnterOpensTheSelectedRow) {
     EXPECT_EQ(session.DatabaseName, u"series"_s);
 }
 
+TEST_F(SwitchDatabaseWindow, TabGoesFromTheListDownTheButtonsAndUpToThePath) {
+    Show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    for (const QString &name : {u"cbOK"_s, u"cbCancel"_s, u"cbNew"_s, u"cbCompactDb"_s, u"cbDeleteDatabase"_s,
+                                u"cbExit"_s, u"textDatabasePath"_s, u"cbSelectPath"_s, u"listdb"_s}) {
+        QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+        ASSERT_TRUE(window->focusWidget());
+        EXPECT_EQ(window->focusWidget()->objectName(), name);
+    }
+}
+
+TEST_F(SwitchDatabaseWindow, EnterPressesTheButtonThatHasTheFocus) {
+    Show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    const auto enter_on = [this](const QString &button) {
+        Button(button)->setFocus();
+        QTest::keyClick(Button(button), Qt::Key_Return);
+    };
+    services.dialogs.ExpectMessage(u"Do you really want to delete database films?"_s, MessageAnswer::No);
+    enter_on(u"cbDeleteDatabase"_s);
+    services.dialogs.ExpectBrowseFolder({}, u"Database Path"_s);
+    enter_on(u"cbSelectPath"_s);
+    EXPECT_EQ(services.dialogs.Pending(), 0U);
+    EXPECT_TRUE(window->isVisible());
+    enter_on(u"cbCancel"_s);
+    EXPECT_FALSE(window->isVisible());
+    EXPECT_FALSE(session.Database);
+}
+
 TEST_F(SwitchDatabaseWindow, ADoubleClickOpensItsRow) {
     Show();
     QTest::mouseClick(List()->viewport(), Qt::LeftButton, {}, Centre(1));
@@ -139,6 +168,7 @@ TEST_F(SwitchDatabaseWindow, DelAsksAndTheNextRowIsSelected) {
         EXPECT_FALSE(Button(name)->isEnabled()) << "nothing is selected";
     }
     EXPECT_TRUE(Button(u"cbNew"_s)->isEnabled());
+    EXPECT_EQ(window->focusWidget(), List());
     Press(Qt::Key_Return);
     Press(Qt::Key_Delete);
     Press(Qt::Key_F2);

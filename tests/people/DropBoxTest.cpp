@@ -154,6 +154,17 @@ TEST_F(DropBoxTest, FaultsAreToldAndLogged) {
     EXPECT_EQ(Headshots(), QStringList());
 }
 
+TEST_F(DropBoxTest, AFaultOfTheDatabaseIsToldAndNothingIsStored) {
+    CreateCollectionDatabase(session, folder / u"films.mdb"_s);
+    session.Database->Execute(u"DROP TABLE Alias");
+    QFile::remove(session.trace.path);
+    ExpectPerson(u"Ann Lee"_s);
+    ExpectFault();
+    EXPECT_EQ(StoreDrop(session, folder.Write(u"x.jpg"_s, kPicture), DropType::Person), QString());
+    EXPECT_TRUE(test::ReadTestFile(session.trace.path).contains("Error:    frmDropBox_OLEDragDrop: "));
+    EXPECT_EQ(Headshots(), QStringList());
+}
+
 TEST_F(DropBoxTest, AFolderThatIsGoneIsAFault) {
     session.HeadshotPath = WithSeparator(folder / u"gone"_s);
     ExpectFault();

@@ -8,6 +8,7 @@
 #include "shell/Session.h"
 #include "support/Scripted.h"
 
+#include <QDir>
 #include <gtest/gtest.h>
 
 namespace ostrand {
@@ -106,6 +107,14 @@ TEST_F(HeadshotFilesTest, AnAlternateWithoutAPrimaryIsFoundAndTheNextIsNothing) 
     EXPECT_EQ(Find(u"Ann"_s, {}, 0), u"none|0"_s);
     EXPECT_EQ(Find(u"Ann"_s, {}, 1), u"Ann_1.jpg|1"_s);
     EXPECT_EQ(Find(u"Ann"_s, {}, 2), u"none|0"_s);
+}
+
+TEST_F(HeadshotFilesTest, AFaultOfTheDatabaseIsLoggedAndTheNameStandsForItself) {
+    Have({u"Ann Lee.jpg"_s});
+    QDir().mkpath(session.DataFolder); // where the log lies
+    session.Database->Execute(u"DROP TABLE Alias");
+    EXPECT_EQ(Find(u"Ann Lee"_s, {}), u"Ann Lee.jpg|0"_s);
+    EXPECT_TRUE(test::ReadTestFile(session.trace.path).contains("Error:    LoadHeadShot: "));
 }
 
 TEST_F(HeadshotFilesTest, WithoutADatabaseOrAFolderTheNameStandsForItself) {

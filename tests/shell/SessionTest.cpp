@@ -136,6 +136,24 @@ TEST_F(TranslateTest, SwitchedOffOnlyForceLooksBackwards) {
     EXPECT_EQ(Translate(session, u"Besitz"_s, true), u"Owned"_s);
 }
 
+TEST_F(TranslateTest, TheProgressWindowClosesItselfAsTheDatabaseSays) {
+    const auto run = [this](bool tick) {
+        session.progress.Load({});
+        session.progress.ShowDetails(true);
+        const bool was = session.progress.CloseWhenFinished();
+        session.progress.SetCloseWhenFinished(tick);
+        session.progress.UnloadForm(true);
+        return was;
+    };
+    EXPECT_FALSE(run(true));
+    EXPECT_EQ(ReadDbInfo(session, u"ProgressWindowAutoClose"_s, {}), u"1"_s);
+    EXPECT_FALSE(session.progress.IsShown());
+    EXPECT_TRUE(run(false));
+    EXPECT_EQ(ReadDbInfo(session, u"ProgressWindowAutoClose"_s, {}), u"0"_s);
+    EXPECT_TRUE(session.progress.IsShown());
+    EXPECT_FALSE(run(false));
+}
+
 TEST_F(TranslateTest, WithoutADatabaseTextsStay) {
     session.Database.reset();
     EXPECT_EQ(Translate(session, u"Owned"_s), u"Owned"_s);

@@ -286,6 +286,12 @@ TEST_F(SettingsFormTest, ListsTheCollectionTypesButOwnedAndChecksTheStoredOnes) 
     EXPECT_EQ(types, (QStringList{u"ann's"_s, u"ordered+"_s, u"wish list"_s}));
 }
 
+TEST_F(SettingsFormTest, TypesThatCannotBeReadAreLogged) {
+    session.Database->Execute(u"DROP TABLE Profiles");
+    EXPECT_TRUE(Loaded().IncludedTypes().empty());
+    EXPECT_TRUE(test::ReadTestFile(session.trace.path).contains("Error:    frmSettings: "));
+}
+
 TEST_F(SettingsFormTest, StoresTheCheckedTypesJoined) {
     AddProfile(u"Key_1"_s, u"Wish List"_s);
     AddProfile(u"Key_3"_s, u"Ordered"_s);

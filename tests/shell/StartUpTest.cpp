@@ -302,6 +302,19 @@ TEST_F(WindowStepsTest, ACommandFileOpensNoDatabaseFirst) {
     EXPECT_FALSE(session.Database);
 }
 
+TEST_F(StartUpTest, TheEndIsTraced) {
+    WriteIni("[Main]\r\nDebug=0x6\r\n");
+    PrepareStartUp(session, {});
+    CreateCollectionDatabase(session, services.folders.dir / u"a.mdb"_s);
+    QFile::remove(services.folders.dir / Data(u"Debug.log"_s));
+    CloseViewer(session);
+    const QByteArray log = Log();
+    EXPECT_TRUE(log.startsWith("Enter:    CloseViewer()\r\nEnter:    SaveDatabaseSettings()\r\n"))
+        << log.left(200).constData();
+    EXPECT_TRUE(log.endsWith("Exit:     SaveDatabaseSettings()\r\nExit:     CloseViewer()\r\n"))
+        << log.right(200).constData();
+}
+
 TEST_F(WindowStepsTest, TheEndKeepsTheWindowsPlaceBeforeTheDatabaseCloses) {
     PrepareStartUp(session, {});
     CreateCollectionDatabase(session, services.folders.dir / u"a.mdb"_s);

@@ -9,6 +9,7 @@
 
 #include <QHeaderView>
 #include <QScopedValueRollback>
+#include <QShortcut>
 #include <QSignalBlocker>
 
 namespace ostrand {
@@ -27,6 +28,9 @@ CoverPanel::CoverPanel(Browser &browser, QWidget *parent) :
 
     connect(&browser_, &Browser::SeasonsChanged, this, &CoverPanel::ShowSeasons);
     connect(&browser_, &Browser::ModeChanged, this, &CoverPanel::ShowSeasons);
+    listSeasons_->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(listSeasons_, &QWidget::customContextMenuRequested, this,
+            [this](const QPoint &place) { Q_EMIT SeasonMenuWanted(listSeasons_->mapToGlobal(place)); });
     connect(listSeasons_, &QComboBox::activated, this, [this](int index) { SelectSeason(browser_, index); });
     connect(&browser_, &Browser::CoverChanged, this, [this] { picCover_->ShowFile(CurrentCoverFile(browser_)); });
     connect(picCover_, &PictureView::Clicked, this, [this] { FlipCover(browser_); });
@@ -58,11 +62,28 @@ EpisodePanel::EpisodePanel(Browser &browser, QWidget *parent) :
     listEpisodes_->setUniformRowHeights(true);
     listEpisodes_->setAllColumnsShowFocus(true);
     listEpisodes_->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+    listEpisodes_->header()->setSectionsClickable(true);
+    listEpisodes_->setContextMenuPolicy(Qt::CustomContextMenu);
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(listEpisodes_);
+    ConnectList();
+    TranslateNames();
+}
 
+void EpisodePanel::ConnectList() {
+    connect(listEpisodes_->header(), &QHeaderView::sectionClicked, this, &EpisodePanel::SortByHeader);
+    // Other episodes stand in the order of their own query.
+    connect(&browser_.listEpisodes, &QAbstractItemModel::modelReset, this,
+            [this] { listEpisodes_->header()->setSortIndicatorShown(false); });
+    connect(listEpisodes_, &QAbstractItemView::doubleClicked, this, &EpisodePanel::RowActivated);
+    for (const int key : {Qt::Key_Return, Qt::Key_Enter}) {
+        auto *enter = new QShortcut(QKeySequence(key), listEpisodes_, nullptr, nullptr, Qt::WidgetShortcut);
+        connect(enter, &QShortcut::activated, this, &EpisodePanel::RowActivated);
+    }
+    connect(listEpisodes_, &QWidget::customContextMenuRequested, this,
+            [this](const QPoint &place) { Q_EMIT MenuWanted(listEpisodes_->viewport()->mapToGlobal(place)); });
     connect(listEpisodes_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex &current) {
                 if (!following_ && current.isValid()) {
@@ -73,7 +94,16 @@ EpisodePanel::EpisodePanel(Browser &browser, QWidget *parent) :
         const QScopedValueRollback<bool> follow(following_, true);
         listEpisodes_->setCurrentIndex(browser_.listEpisodes.index(browser_.current_episode, 0));
     });
-    TranslateNames();
+}
+
+void EpisodePanel::SortByHeader(int column) {
+    QHeaderView *header = listEpisodes_->header();
+    const bool again = header->isSortIndicatorShown() && header->sortIndicatorSection() == column &&
+                       header->sortIndicatorOrder() == Qt::AscendingOrder;
+    const Qt::SortOrder order = again ? Qt::DescendingOrder : Qt::AscendingOrder;
+    SortEpisodes(browser_, column, order);
+    header->setSortIndicatorShown(true);
+    header->setSortIndicator(column, order);
 }
 
 void EpisodePanel::SetGridLines(bool shown) {

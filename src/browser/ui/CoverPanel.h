@@ -17,6 +17,10 @@ public:
     explicit CoverPanel(Browser &browser, QWidget *parent = nullptr);
     void TranslateNames();
 
+Q_SIGNALS:
+    /// The context menu of the seasons is asked for at a place of the screen.
+    void SeasonMenuWanted(const QPoint &place);
+
 private:
     void ShowSeasons();
 
@@ -33,7 +37,16 @@ public:
     void SetGridLines(bool shown);
     void TranslateNames();
 
+Q_SIGNALS:
+    /// The context menu is asked for at a place of the screen.
+    void MenuWanted(const QPoint &place);
+    /// A double click on a row, or Enter.
+    void RowActivated();
+
 private:
+    void ConnectList();
+    void SortByHeader(int column);
+
     Browser &browser_;
     QTreeView *listEpisodes_;
     GridDelegate *delegate_;

@@ -1,18 +1,19 @@
 #include "browser/ui/MainCommands.h"
 
+#include "browser/Attach.h"
 #include "browser/Browser.h"
 #include "browser/CollectionTabs.h"
 #include "browser/CollectionTypes.h"
 #include "browser/Navigation.h"
 #include "browser/TitleQueries.h"
 #include "browser/Views.h"
-#include "browser/ui/Guarded.h"
 #include "browser/ui/frmMain.h"
 #include "collection_files/ProfilerImport.h"
 #include "database/TitlesDue.h"
 #include "database/ui/frmSwitchDatabase.h"
 #include "people/ui/frmDropBox.h"
 #include "shell/FileCommands.h"
+#include "shell/Session.h"
 #include "shell/ui/frmAbout.h"
 #include "shell/ui/frmSettings.h"
 
@@ -24,6 +25,10 @@ using Order = TitleList::Order;
 
 void SwitchDatabase(frmMain &main) {
     frmSwitchDatabase(main.browser.session, &main).exec();
+    if (!main.browser.session.Database) {
+        ShowNoCollection(main.browser); // the database of before is gone
+    }
+    main.activateWindow(); // the focus may have gone with a message of that window
 }
 
 void ShowDropBox(frmMain &main) {
@@ -33,6 +38,7 @@ void ShowDropBox(frmMain &main) {
     }
     window->show();
     window->raise();
+    window->activateWindow(); // desktops give a tool window no focus of their own
 }
 
 void ToggleGridLines(Browser &browser, bool ViewState::GridLines::*shown) {
@@ -108,9 +114,8 @@ constexpr std::array kGridLists = {&ViewState::GridLines::ListCollection, &ViewS
 void HandleGridLines(frmMain &main) {
     for (const MenuEntry &entry : MenuEntries()) {
         if (std::find(kGridLists.begin(), kGridLists.end(), entry.grid_lines) != kGridLists.end()) {
-            main.browser.commands.Handle(QString::fromUtf16(entry.name), [&main, lines = entry.grid_lines] {
-                ToggleGridLines(main.browser, lines);
-            });
+            main.browser.commands.Handle(QString::fromUtf16(entry.name),
+                                         [&main, lines = entry.grid_lines] { ToggleGridLines(main.browser, lines); });
         }
     }
 }
@@ -120,10 +125,8 @@ void HandleGridLines(frmMain &main) {
 void HandleCommands(frmMain &main) {
     HandleGridLines(main);
     for (const Handler &handler : kHandlers) {
-        main.browser.commands.Handle(QString::fromUtf16(handler.name), [&main, run = handler.run] {
-            Guarded(main.browser.session, [&] { run(main); });
-            main.EndIfAsked();
-        });
+        main.browser.commands.Handle(QString::fromUtf16(handler.name),
+                                     [&main, run = handler.run] { main.Perform([&] { run(main); }); });
     }
 }
 

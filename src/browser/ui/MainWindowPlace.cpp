@@ -32,9 +32,10 @@ void PlaceMainWindow(QMainWindow &window, const Session &session, bool reset) {
     }
     if (!reset) {
         ReadWindowPlace(session, u"Window"_s, window, kFirstPlace.size());
-        if (GetINIString(session, u"Window"_s, u"WindowState"_s, {}).toInt() == kMaximised) {
-            window.setWindowState(Qt::WindowMaximized);
-        }
+        const int state = GetINIString(session, u"Window"_s, u"WindowState"_s, {}).toInt();
+        window.setWindowState(state == kMaximised   ? Qt::WindowMaximized
+                              : state == kMinimised ? Qt::WindowMinimized
+                                                    : Qt::WindowNoState);
     }
 }
 

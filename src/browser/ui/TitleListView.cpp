@@ -89,6 +89,15 @@ void TitleListView::keyPressEvent(QKeyEvent *event) {
     }
 }
 
+void TitleListView::mousePressEvent(QMouseEvent *event) {
+    const QModelIndex before = currentIndex();
+    QTreeView::mousePressEvent(event);
+    const QModelIndex pressed = indexAt(event->pos());
+    if (event->button() == Qt::LeftButton && pressed.isValid() && before.isValid() && pressed.row() == before.row()) {
+        MoveToRow(browser_, pressed.row()); // one of its episodes may be what is shown
+    }
+}
+
 void TitleListView::mouseDoubleClickEvent(QMouseEvent *event) {
     QTreeView::mouseDoubleClickEvent(event);
     if (event->button() == Qt::LeftButton && indexAt(event->pos()).isValid()) {

@@ -2,9 +2,9 @@
 
 #include "browser/Attach.h"
 #include "browser/Browser.h"
-#include "browser/CollectionTabs.h"
 #include "browser/MenuStrings.h"
 #include "browser/Navigation.h"
+#include "browser/Views.h"
 #include "browser/ui/CoverPanel.h"
 #include "browser/ui/EmptyPlace.h"
 #include "browser/ui/FileDrop.h"
@@ -21,6 +21,7 @@
 #include "shell/InstanceMarker.h"
 #include "shell/ListTable.h"
 #include "shell/StartUp.h"
+#include "shell/ui/SplitBar.h"
 #include "shell/ui/SplitPanel.h"
 #include "shell/ui/frmListView.h"
 #include "shell/ui/frmSplash.h"
@@ -31,7 +32,9 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QShortcut>
+#include <QTabBar>
 #include <QTimer>
+#include <QToolButton>
 
 namespace ostrand {
 
@@ -112,24 +115,83 @@ void frmMain::Compose() {
     menus_ = new MenuBuilder(browser.commands, *menuBar(), *this);
     toolMain_ = new ToolMain(browser, *this);
     addToolBar(toolMain_);
+    OrderTabs();
+}
+
+void frmMain::OrderTabs() {
+    // The round ends with the bars: whoever walks through the panels does not want to stop at each one between them.
+    QWidgetList stops;
+    for (const SplitPanel *split : splits_) {
+        stops.append(split->findChild<SplitBar *>({}, Qt::FindDirectChildrenOnly));
+    }
+    for (const QAction *action : toolMain_->actions()) {
+        stops.append(toolMain_->findChild<QToolButton *>(action->objectName()));
+    }
+    for (const char16_t *name :
+         {u"tabColList", u"comboFilter", u"listSeries", u"listSeasons", u"picCover", u"listEpisodes", u"tabMain"}) {
+        stops.append(findChild<QWidget *>(QString::fromUtf16(name)));
+    }
+    // What takes no focus, such as an empty cover, could get no place.
+    QList<Qt::FocusPolicy> policies;
+    for (QWidget *stop : stops) {
+        policies.append(stop->focusPolicy());
+        stop->setFocusPolicy(Qt::StrongFocus);
+    }
+    for (qsizetype i = 1; i < stops.size(); ++i) {
+        setTabOrder(stops[i - 1], stops[i]);
+    }
+    for (qsizetype i = 0; i < stops.size(); ++i) {
+        stops[i]->setFocusPolicy(policies[i]);
+    }
+    // The arrow keys reach all tabs.
+    for (const QTabBar *tabs : findChildren<QTabBar *>()) {
+        for (QToolButton *scroll : tabs->findChildren<QToolButton *>()) {
+            scroll->setFocusPolicy(Qt::NoFocus);
+        }
+    }
 }
 
 void frmMain::ConnectBrowser() {
     connect(&browser, &Browser::TitleChanged, this, &frmMain::ShowView);
     connect(&browser, &Browser::SettingsChanged, this, &frmMain::ApplySettings);
+    connect(&browser, &Browser::DatabaseOpened, this,
+            [this] { titles_->ShowDatabasePath(browser.session.DatabaseFile); });
     connect(&browser, &Browser::ModeChanged, this, &frmMain::ShowView);
+    connect(titles_->List(), &TitleListView::RowActivated, this,
+            [this] { browser.commands.Run(u"mProfileInformation"_s); });
+    connect(episodes_, &EpisodePanel::RowActivated, this, [this] { browser.commands.Run(u"mEpisodeInfoContext"_s); });
+    ConnectContextMenus();
+    AddKeys();
+}
+
+void frmMain::ConnectContextMenus() {
     connect(titles_, &TitleListPanel::TabMenuWanted, this, [this](const QPoint &place) {
         if (!browser.session.view.mTVShows) {
-            menus_->ContextMenu(u"mColTabTools"_s)->popup(place);
+            OpenContextMenu(u"mColTabTools"_s, place);
         }
     });
     connect(titles_->List(), &TitleListView::MenuWanted, this, [this](const QPoint &place) {
-        menus_->ContextMenu(browser.session.view.mTVShows ? u"mSeriesTools"_s : u"mProfileTools"_s)->popup(place);
+        OpenContextMenu(browser.session.view.mTVShows ? u"mSeriesTools"_s : u"mProfileTools"_s, place);
     });
-    connect(titles_->List(), &TitleListView::RowActivated, this,
-            [this] { browser.commands.Run(u"mProfileInformation"_s); });
+    connect(cover_, &CoverPanel::SeasonMenuWanted, this,
+            [this](const QPoint &place) { OpenContextMenu(u"mSeasonTools"_s, place); });
+    connect(episodes_, &EpisodePanel::MenuWanted, this, [this](const QPoint &place) {
+        browser.commands.SetChecked(u"mLockEpisode"_s, IsEpisodeLocked(browser));
+        OpenContextMenu(u"mEpisodeTools"_s, place);
+    });
+}
+
+void frmMain::OpenContextMenu(const QString &name, const QPoint &place) {
+    if (browser.session.Database && browser.commands.IsEnabled(name)) {
+        menus_->ContextMenu(name)->popup(place);
+    }
+}
+
+void frmMain::AddKeys() {
     auto *cover_tag = new QShortcut(QKeySequence(u"Ctrl+1"_s), this);
     connect(cover_tag, &QShortcut::activated, this, [this] { CopyCoverTag(browser); });
+    auto *menu = new QShortcut(QKeySequence(u"F10"_s), this);
+    connect(menu, &QShortcut::activated, this, [this] { menuBar()->setActiveAction(menuBar()->actions().front()); });
 }
 
 void frmMain::SetWindowHooks() {
@@ -137,6 +199,7 @@ void frmMain::SetWindowHooks() {
     session.window.EnableDBMenues = [this](bool enabled) { EnableDBMenues(browser.commands, enabled); };
     session.window.MenuStrings = [this] {
         MenuStrings(browser.session, browser.commands);
+        TranslateBrowser(browser);
         TranslateNames();
     };
     session.window.ShowAuditMenus = [this] {
@@ -159,7 +222,6 @@ void frmMain::SetWindowHooks() {
     session.window.TranslatePanels = [this] { TranslateNames(); };
     session.window.ChooseDatabase = [this] { ChooseDatabase(); };
     session.window.WriteGeometry = [this] { WriteGeometry(); };
-    session.window.SettingsStored = [this] { SettingsStored(); };
     session.window.ShowListView = [this](std::unique_ptr<ListTable> table) { ShowListView(std::move(table)); };
 }
 
@@ -167,7 +229,9 @@ bool frmMain::Load(const QString &command_line) {
     Session &session = browser.session;
     const CommandLine line = PrepareStartUp(session, command_line);
     bool opened = false;
+    ++running_;
     Guarded(session, [&] { opened = OpenOrRun(session, line); });
+    --running_;
     if (!opened && line.command_file.isEmpty()) {
         splash_.reset();
         if (session.instance) {
@@ -175,13 +239,15 @@ bool frmMain::Load(const QString &command_line) {
         }
         return false;
     }
-    ApplySettings();
-    FinishStartUp(session);
     if (session.EndProgram) {
+        splash_.reset();
         close();
         return false;
     }
-    show();
+    ApplySettings();
+    ShowView();
+    show(); // before the titles due, which are to lie above it
+    FinishStartUp(session);
     titles_->List()->setFocus();
     return true;
 }
@@ -206,16 +272,8 @@ void frmMain::WriteGeometry() {
 }
 
 void frmMain::ApplySettings() {
-    titles_->ShowDatabasePath(browser.session.DatabaseFile);
     SetFonts();
     ApplyGridLines();
-}
-
-void frmMain::SettingsStored() {
-    if (!browser.session.view.mTVShows) {
-        ReloadColTypeTabs(browser); // the default types may have come or gone
-    }
-    Q_EMIT browser.SettingsChanged();
 }
 
 void frmMain::SetFonts() {
@@ -260,15 +318,27 @@ void frmMain::ShowListView(std::unique_ptr<ListTable> table) {
     window->raise();
 }
 
-void frmMain::EndIfAsked() {
-    if (browser.session.EndProgram) {
+void frmMain::Perform(const std::function<void()> &action) {
+    ++running_;
+    Guarded(browser.session, action);
+    --running_;
+    if (running_ == 0 && browser.session.EndProgram) {
         close();
     }
 }
 
+void frmMain::AskToEnd() {
+    if (QWidget *modal = QApplication::activeModalWidget()) {
+        browser.session.EndProgram = true;
+        modal->close(); // the routine that waits for it goes on, and ends
+        return;
+    }
+    close();
+}
+
 void frmMain::closeEvent(QCloseEvent *event) {
     Session &session = browser.session;
-    if (session.progress.IsLoaded() || session.commands.depth > 0) {
+    if (running_ > 0 || session.progress.IsLoaded()) {
         // The routine that runs still holds the database: it is told to end, and the window goes when it has.
         session.EndProgram = true;
         session.progress.Close();
@@ -284,7 +354,7 @@ void frmMain::closeEvent(QCloseEvent *event) {
 }
 
 void frmMain::dragEnterEvent(QDragEnterEvent *event) {
-    if (browser.session.Database && !CollectionFilesIn(*event->mimeData()).isEmpty()) {
+    if (running_ == 0 && browser.session.Database && !CollectionFilesIn(*event->mimeData()).isEmpty()) {
         event->acceptProposedAction();
     }
 }
@@ -295,9 +365,10 @@ void frmMain::dropEvent(QDropEvent *event) {
     // The program that the files come from waits for the drop to end, and an import takes its time.
     QTimer::singleShot(0, this, [this, files] {
         for (const QString &file : files) {
-            Guarded(browser.session, [&] { ImportProfilerData(browser.session, file); });
+            if (!closed_) {
+                Perform([&] { ImportProfilerData(browser.session, file); });
+            }
         }
-        EndIfAsked();
     });
 }
 

@@ -3,6 +3,8 @@
 
 #include <QMainWindow>
 
+#include <functional>
+
 namespace ostrand {
 
 class Browser;
@@ -33,8 +35,12 @@ public:
     SplitPanel *Split(int number) const;
     /// Shows a table in a window of its own; one with the same caption is filled anew.
     void ShowListView(std::unique_ptr<ListTable> table);
-    /// Ends the program if a routine asked for it.
-    void EndIfAsked();
+    /// Runs an action of the user. Its faults are told, and the end of the program that was asked for meanwhile comes
+    /// behind it.
+    void Perform(const std::function<void()> &action);
+    /// The system asks the program to end. A dialog that waits for an answer gets the one that changes nothing; ask
+    /// again until the window is closed.
+    void AskToEnd();
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -43,15 +49,19 @@ protected:
 
 private:
     void Compose();
+    void OrderTabs();
     void ConnectBrowser();
+    void ConnectContextMenus();
+    void AddKeys();
     void SetWindowHooks();
     void Layout(bool reset);
     void WriteGeometry();
     void ApplySettings();
-    void SettingsStored();
     void SetFonts();
     void ApplyGridLines();
     void ShowView();
+    /// Opens a context menu, unless there is no database that its entries could work on.
+    void OpenContextMenu(const QString &name, const QPoint &place);
     void ChooseDatabase();
     void TranslateNames();
 
@@ -64,6 +74,7 @@ private:
     LazyHtmlView *WebSkin_ = nullptr;
     std::array<SplitPanel *, 6> splits_ = {};
     std::unique_ptr<frmSplash> splash_;
+    int running_ = 0; ///< actions of the user, one within another
     bool closed_ = false;
 };
 

@@ -62,7 +62,6 @@ QWidget *frmSwitchDatabase::MakePathRow(Mnemonics &keys) {
     select_path_->setObjectName(u"cbSelectPath"_s);
     select_path_->setAccessibleName(manager_.Text(u"Choose the folder of the databases"_s));
     select_path_->setToolTip(select_path_->accessibleName());
-    select_path_->setAutoDefault(false);
     MakeNarrow(*select_path_);
     layout->addWidget(label);
     layout->addWidget(path_, 1);
@@ -101,7 +100,6 @@ QPushButton *frmSwitchDatabase::MakeButton(const QString &name, const QString &t
     button->setObjectName(name);
     button->setAccessibleName(manager_.Text(text));
     button->setToolTip(manager_.Text(tool_tip));
-    button->setAutoDefault(false);
     return button;
 }
 
@@ -113,9 +111,9 @@ QWidget *frmSwitchDatabase::MakeButtons(Mnemonics &keys) {
     ok_->setDefault(true);
     cancel_ = MakeButton(u"cbCancel"_s, u"Cancel"_s, u"Go back to the database that was open before"_s, keys);
     new_ = MakeButton(u"cbNew"_s, u"New..."_s, u"Make a new, empty database"_s, keys);
-    delete_ = MakeButton(u"cbDeleteDatabase"_s, u"Delete..."_s, u"Delete the selected database from the disk"_s, keys);
     compact_ = MakeButton(u"cbCompactDb"_s, u"Compact"_s,
                           u"Write the selected database anew without what was deleted in it"_s, keys);
+    delete_ = MakeButton(u"cbDeleteDatabase"_s, u"Delete..."_s, u"Delete the selected database from the disk"_s, keys);
     exit_ = MakeButton(u"cbExit"_s, u"Exit"_s, u"End the program"_s, keys);
     layout->addWidget(ok_);
     layout->addWidget(cancel_);
@@ -154,7 +152,10 @@ void frmSwitchDatabase::Connect() {
     connect(list_, &QTreeView::customContextMenuRequested, this, &frmSwitchDatabase::ShowContextMenu);
     connect(list_, &QTreeView::doubleClicked, this, &frmSwitchDatabase::Open);
     connect(list_->selectionModel(), &QItemSelectionModel::selectionChanged, this, &frmSwitchDatabase::FollowSelection);
-    connect(&manager_, &QAbstractItemModel::rowsRemoved, this, [this] { SelectRow(std::max(0, Row())); });
+    connect(&manager_, &QAbstractItemModel::rowsRemoved, this, [this] {
+        SelectRow(std::max(0, Row()));
+        list_->setFocus(); // else it goes on from a button that has nothing to delete any more
+    });
     connect(ok_, &QPushButton::clicked, this, &frmSwitchDatabase::Open);
     connect(cancel_, &QPushButton::clicked, this, &frmSwitchDatabase::reject);
     connect(new_, &QPushButton::clicked, this, [this] {

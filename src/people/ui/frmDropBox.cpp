@@ -88,6 +88,7 @@ QPushButton *frmDropBox::MakeButton(const QString &name, const QString &text, co
     auto *button = new QPushButton(text, this);
     button->setObjectName(name);
     button->setToolTip(tool_tip);
+    button->setAutoDefault(true); // Enter presses it, though this is no dialog
     return button;
 }
 

@@ -76,15 +76,14 @@ void frmSQLUserInput::AddButtons(const Translator &translator) {
 }
 
 void frmSQLUserInput::SetValues(const QStringList &values) {
-    combo_ = !values.isEmpty();
+    combo_ = true;
     comboVarValues_->clear();
     comboVarValues_->addItems(values);
     comboVarValues_->setCurrentIndex(-1);
-    comboVarValues_->setVisible(combo_);
-    textInput_->setVisible(!combo_);
-    QWidget *field = combo_ ? static_cast<QWidget *>(comboVarValues_) : textInput_;
-    labelMessage_->setBuddy(field);
-    field->setFocus();
+    comboVarValues_->show();
+    textInput_->hide();
+    labelMessage_->setBuddy(comboVarValues_);
+    comboVarValues_->setFocus();
 }
 
 void frmSQLUserInput::SetPreset(const QString &preset) {

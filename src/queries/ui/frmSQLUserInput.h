@@ -20,7 +20,7 @@ public:
     frmSQLUserInput(const Translator &translator, const QString &prompt, const QString &title,
                     QWidget *parent = nullptr);
 
-    /// With values comboVarValues takes the place of textInput.
+    /// comboVarValues takes the place of textInput, also for a list without a value.
     void SetValues(const QStringList &values);
     void SetPreset(const QString &preset);
     /// textInput in Arial.

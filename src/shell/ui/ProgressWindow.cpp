@@ -7,8 +7,10 @@
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 #include <QWindow>
@@ -111,6 +113,9 @@ void ProgressWindow::ShowAs(Qt::WindowModality modality) {
         }
     }
     show();
+    if (active) {
+        activateWindow(); // while it was hidden, the desktop may have turned to another
+    }
 }
 
 void ProgressWindow::Opened(const QString &title) {
@@ -157,7 +162,13 @@ void ProgressWindow::ShowTree() {
     treeDetails_->show();
     chkCloseWhenFinished_->show();
     chkCloseWhenFinished_->setChecked(rules_ && rules_->CloseWhenFinished());
+    const int before = height();
     resize(DesignSize(true));
+    // It grows to both sides, and its end stays on the screen.
+    const QRect room = screen()->availableGeometry();
+    const int frame = frameGeometry().height();
+    const int top = std::min(y() - (height() - before) / 2, room.bottom() + 1 - frame);
+    move(x(), std::max(top, room.top()));
 }
 
 void ProgressWindow::NodeAdded(const QString &key, const QString &parent, const QString &text) {
@@ -206,6 +217,17 @@ void ProgressWindow::reject() {
     } else {
         hide();
     }
+}
+
+void ProgressWindow::keyPressEvent(QKeyEvent *event) {
+    // A default button would take the Enter that opens a profile in the tree.
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && focusWidget() == cbClose_) {
+        cbClose_->click();
+        event->accept();
+        return;
+    }
+    QDialog::keyPressEvent(event);
 }
 
 void ProgressWindow::NodeActivated(const QTreeWidgetItem *item) {

@@ -42,6 +42,9 @@ public:
 
     void reject() override;
 
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
 private:
     void Build();
     QSize DesignSize(bool details) const;

@@ -1,7 +1,6 @@
 #include "shell/ui/frmSettings.h"
 
 #include "shell/Session.h"
-#include "shell/ui/Mnemonics.h"
 #include "shell/ui/TextSize.h"
 
 #include <QCheckBox>
@@ -47,13 +46,16 @@ QTabWidget *frmSettings::MakePages() {
     tabs->setObjectName(u"tabSettings"_s);
     tabs->setAccessibleName(Text(u"Settings"));
     Mnemonics keys;
-    QString last;
+    std::vector<std::pair<QString, QString>> pages; // and their titles, which come before what stands on them
     for (const SettingsGroupTexts &group : SettingsGroups()) {
         const QString page = QString::fromUtf16(group.page);
-        if (page != last) {
-            tabs->addTab(MakePage(page), keys.Mark(Text(group.page)));
-            last = page;
+        if (pages.empty() || pages.back().first != page) {
+            pages.emplace_back(page, keys.Mark(Text(group.page)));
         }
+    }
+    for (const auto &[page, title] : pages) {
+        keys_ = keys; // one page is seen at a time
+        tabs->addTab(MakePage(page), title);
     }
     return tabs;
 }
@@ -76,7 +78,7 @@ QWidget *frmSettings::MakePage(const QString &page) {
 }
 
 QWidget *frmSettings::MakeGroup(const SettingsGroupTexts &group) {
-    auto *box = new QGroupBox(Text(group.caption));
+    auto *box = new QGroupBox(Text(group.caption).replace(u"&"_s, u"&&"_s));
     auto *layout = new QFormLayout(box);
     layout->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     layout->setRowWrapPolicy(QFormLayout::WrapLongRows);
@@ -113,9 +115,9 @@ void frmSettings::AddEntry(QFormLayout &layout, const SettingsEntry &entry) {
     case SettingsEntryKind::CheckedList: {
         QListWidget *list = MakeList();
         list->setObjectName(entry.Control());
-        auto *label = new QLabel(Text(entry.caption));
+        auto *label = new QLabel(keys_.Mark(Text(entry.caption)));
         label->setBuddy(list);
-        list->setAccessibleName(label->text());
+        list->setAccessibleName(Text(entry.caption));
         list->setToolTip(Text(entry.tool_tip));
         layout.addRow(label);
         layout.addRow(list);
@@ -125,14 +127,14 @@ void frmSettings::AddEntry(QFormLayout &layout, const SettingsEntry &entry) {
 }
 
 void frmSettings::AddLabelled(QFormLayout &layout, const SettingsEntry &entry, QWidget *field, QWidget *control) {
-    auto *label = new QLabel(Text(entry.caption) + u':');
+    auto *label = new QLabel(keys_.Mark(Text(entry.caption)) + u':');
     label->setBuddy(control);
     control->setAccessibleName(Text(entry.caption));
     layout.addRow(label, field);
 }
 
 QWidget *frmSettings::MakeCheck(const SettingsEntry &entry) {
-    auto *box = new QCheckBox(Text(entry.caption).replace(u"&"_s, u"&&"_s));
+    auto *box = new QCheckBox(keys_.Mark(Text(entry.caption)));
     box->setObjectName(entry.Control());
     box->setAccessibleName(Text(entry.caption));
     box->setToolTip(Text(entry.tool_tip));
@@ -165,7 +167,6 @@ QWidget *frmSettings::MakeFolder(const SettingsEntry &entry, QLineEdit *path) {
     button->setObjectName(QString::fromUtf16(entry.button));
     button->setAccessibleName(Text(u"Choose") + u": "_s + Text(entry.caption));
     button->setToolTip(Text(u"Choose a folder"));
-    button->setAutoDefault(false);
     MakeNarrow(*button);
     connect(button, &QPushButton::clicked, this, [this, path] {
         form_.SetValue(path->objectName(), path->text());

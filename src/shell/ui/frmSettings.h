@@ -2,6 +2,7 @@
 #pragma once
 
 #include "shell/SettingsForm.h"
+#include "shell/ui/Mnemonics.h"
 
 #include <QDialog>
 
@@ -40,6 +41,7 @@ private:
 
     Session &session_;
     SettingsForm form_;
+    Mnemonics keys_; ///< of the page that is built
 };
 
 } // namespace ostrand
