@@ -86,6 +86,8 @@ int main(int argc, char **argv) {
     if (Tells(told)) { // before the application: no screen is needed for this
         return 0;
     }
+    // The web engine, which is loaded later, draws through contexts that share.
+    QApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
     Application application(argc, argv);
     QApplication::setApplicationName(u"ostrand"_s);
     QApplication::setDesktopFileName(u"ostrand"_s);

@@ -80,7 +80,8 @@ void FollowBrowser(Browser &browser) {
 /// The cover folder may have been settled after the current row was shown.
 void ShowCoverAgain(Browser &browser) {
     const int row = browser.current_row;
-    if (!browser.session.view.mTVShows && row >= 0 && row < browser.listSeries.rowCount()) {
+    const ViewState &view = browser.session.view;
+    if (!view.mTVShows && !view.mSkinEnable && row >= 0 && row < browser.listSeries.rowCount()) {
         ShowCover(browser, browser.listSeries.At(row).key);
     }
 }
@@ -114,6 +115,9 @@ void TakeSettings(Browser &browser) {
         if (SelectedColType(browser) != type) {
             ReloadList(browser);
         }
+    }
+    if (browser.session.view.mSkinEnable) {
+        Redisplay(browser);
     }
     ShowCoverAgain(browser);
     Q_EMIT browser.SettingsChanged();

@@ -69,6 +69,10 @@ public:
         std::function<QString()> selected_studio;
         /// Shows frmFilterTags; the entry of comboFilter does nothing without it.
         std::function<void()> ShowFilterTags;
+        /// Shows a title or an episode as a page; false when the panels are to show it.
+        std::function<bool(const QString &key, bool is_episode)> ShowSkin;
+        /// Switches between the view of pages and the panels.
+        std::function<void(bool on)> EnableWebSkin;
     };
     Hooks hooks;
 
@@ -81,6 +85,11 @@ Q_SIGNALS:
     void CurrentEpisodeChanged();
     /// The current title is another one, or none: the panels fill themselves anew.
     void TitleChanged();
+    /// The current title is shown as a page, and the panels do not follow it.
+    void PageShown();
+    /// The view of pages stands in place of the panels, or no longer (`ViewState::mSkinEnable`). picMedium is hidden
+    /// while it does.
+    void SkinChanged();
     /// ShowFrontCover or the cover stem changed.
     void CoverChanged();
     void TabsChanged();

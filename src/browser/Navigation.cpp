@@ -1,5 +1,6 @@
 #include "browser/Navigation.h"
 
+#include "base/Text.h"
 #include "browser/Browser.h"
 #include "browser/CollectionTabs.h"
 #include "browser/ProfileInfos.h"
@@ -139,6 +140,34 @@ void ShowMovie(Browser &browser, const QString &key) {
         RecordLeaving(browser, id);
     }
     ShowProfile(browser, id);
+}
+
+void ShowEpisode(Browser &browser, const QString &episode_id) {
+    Session &session = browser.session;
+    if (!session.Database) {
+        return;
+    }
+    const sql::Recordset episode = session.Database->OpenRecordset(
+        u"SELECT SeriesID, Season FROM Episodes WHERE EpisodeID = '"_s + EscapeSql(episode_id) + u'\'');
+    if (episode.Eof()) {
+        return;
+    }
+    if (!session.view.mTVShows) {
+        ChangeMode(browser, false);
+    }
+    const int series = browser.listSeries.RowOfTitle(episode.Text(0));
+    if (series < 0) {
+        return;
+    }
+    MoveToRow(browser, series);
+    const auto &seasons = browser.listSeasons;
+    const auto season = std::find_if(seasons.begin(), seasons.end(), [&](const QString &candidate) {
+        return EqualsIgnoringCase(candidate, episode.Text(1));
+    });
+    if (const int index = int(season - seasons.begin()); index != browser.current_season) {
+        SelectSeason(browser, index);
+    }
+    LoadEpisode(browser, episode_id);
 }
 
 void GetLastSelectedItem(Browser &browser) {

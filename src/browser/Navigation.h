@@ -14,6 +14,8 @@ void MoveToRow(Browser &browser, int row);
 /// Shows a title by its key. In TV view the view changes to movies; where the title is not in the list, the tab "All"
 /// is taken. A key that is nowhere shows the empty view.
 void ShowMovie(Browser &browser, const QString &key);
+/// Shows an episode in TV view, with its series and its season. Nothing for an episode that is nowhere.
+void ShowEpisode(Browser &browser, const QString &episode_id);
 /// Restores the row that was selected at the end of the last run.
 void GetLastSelectedItem(Browser &browser);
 /// The entry at an index of the back or forward list; the first is the newest.

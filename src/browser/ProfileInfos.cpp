@@ -61,13 +61,27 @@ void UpdateSeriesList(Browser &browser, int row) {
     browser.current_row = row;
     Q_EMIT browser.CurrentRowChanged();
     const QString key = browser.listSeries.At(row).key;
+    const bool header = browser.listSeries.At(row).header;
     if (session.view.mTVShows) {
         session.CurrentSeriesID = key;
         UpdateSeasons(browser, key);
         return;
     }
+    if (!header && ShowSkin(browser, key, false)) {
+        return;
+    }
     GetProfileInfos(browser, key, false, false);
     ShowCover(browser, key);
+}
+
+bool ShowSkin(Browser &browser, const QString &key, bool is_episode) {
+    const QString id = ProfileOfKey(key);
+    if (!browser.session.view.mSkinEnable || !browser.hooks.ShowSkin || id.isEmpty() ||
+        !browser.hooks.ShowSkin(id, is_episode)) {
+        return false;
+    }
+    browser.commands.SetEnabled(u"mEditTVEpisode"_s, is_episode);
+    return true;
 }
 
 void GetProfileInfos(Browser &browser, const QString &key, bool is_episode, bool keep_credits) {
@@ -102,6 +116,9 @@ void ClearAllProfileInfos(Browser &browser) {
     browser.caption = browser.base_caption;
     if (!browser.session.view.mTVShows) {
         browser.listEpisodes.Clear();
+    }
+    if (browser.session.view.mSkinEnable && browser.session.window.ShowBlankPage) {
+        browser.session.window.ShowBlankPage();
     }
     Q_EMIT browser.TitleChanged();
     if (!browser.cover_stem.isEmpty()) {

@@ -12,6 +12,8 @@ class Recordset;
 
 /// A row of listSeries became current; -1 for none.
 void UpdateSeriesList(Browser &browser, int row);
+/// Shows a title or an episode as a page where skins are on; false when the panels are to show it.
+bool ShowSkin(Browser &browser, const QString &key, bool is_episode);
 /// Makes a title or an episode the current one. With `keep_credits` the credits stay as they are.
 void GetProfileInfos(Browser &browser, const QString &id, bool is_episode, bool keep_credits);
 /// Shows no title.

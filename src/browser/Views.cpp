@@ -54,6 +54,9 @@ void EnterView(Browser &browser, bool movies, int tab) {
         ShowMainTab(browser, view.LastTab);
     }
     ReloadColTypeTabs(browser);
+    if (browser.hooks.EnableWebSkin) {
+        browser.hooks.EnableWebSkin(view.mSkinEnable);
+    }
     if (movies) {
         SelectTab(browser, tab);
     } else {
@@ -233,7 +236,23 @@ void UpdateEpisodeList(Browser &browser, sql::Recordset &rows) {
 void LoadEpisode(Browser &browser, const QString &episode_id) {
     Trace(browser.session, u"LoadEpisode("_s + episode_id + u')', kTraceEntry);
     SetEpisode(browser, browser.listEpisodes.RowOfKey(episode_id));
-    GetProfileInfos(browser, episode_id, true, false);
+    if (!ShowSkin(browser, episode_id, true)) {
+        GetProfileInfos(browser, episode_id, true, false);
+    }
+}
+
+void Redisplay(Browser &browser) {
+    if (!browser.session.view.mTVShows) {
+        if (browser.current_row >= 0) {
+            UpdateSeriesList(browser, browser.current_row);
+        }
+        return;
+    }
+    const auto &episodes = browser.listEpisodes.Rows();
+    const int row = browser.current_episode;
+    if (row >= 0 && row < int(episodes.size())) {
+        LoadEpisode(browser, QString(episodes[size_t(row)].key));
+    }
 }
 
 void SortEpisodes(Browser &browser, int column, Qt::SortOrder order) {

@@ -28,6 +28,8 @@ void UpdateEpisodes(Browser &browser, const QString &series_id, const QString &s
 void UpdateEpisodeList(Browser &browser, sql::Recordset &rows);
 /// An episode's row became current.
 void LoadEpisode(Browser &browser, const QString &episode_id);
+/// Shows what is selected in the list of the view anew: a title, or an episode in TV view.
+void Redisplay(Browser &browser);
 /// The lock "Entire" of the episode that is selected in listEpisodes.
 bool IsEpisodeLocked(Browser &browser);
 /// Sorts the rows of listEpisodes; the selected one stays so.

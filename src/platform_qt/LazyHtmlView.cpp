@@ -16,9 +16,11 @@ void LazyHtmlView::Load() {
     if (!make_engine_) {
         return;
     }
-    engine_ = std::exchange(make_engine_, nullptr)(this);
+    const MakeEngine make_engine = std::exchange(make_engine_, nullptr);
+    engine_ = make_engine(this);
     if (!engine_.widget || !engine_.view) {
         engine_ = {};
+        make_engine_ = make_engine; // the next page tries again
         return;
     }
     engine_.view->before_navigate = [this](const QString &url) { return before_navigate && before_navigate(url); };

@@ -17,7 +17,8 @@ struct HtmlEngine {
 class LazyHtmlView : public QWidget, public HtmlView {
     Q_OBJECT
 public:
-    /// Gives an engine whose widget is a child of `parent`; without a widget there is none, and pages stay unseen.
+    /// Gives an engine whose widget is a child of `parent`; without a widget there is none: the page
+    /// stays unseen, and the next one asks again.
     using MakeEngine = std::function<HtmlEngine(QWidget *parent)>;
 
     explicit LazyHtmlView(MakeEngine make_engine, QWidget *parent = nullptr);

@@ -73,7 +73,9 @@ QString SystemFolders::Program() const {
 }
 
 QStringList SystemFolders::Resources() const {
-    return {Program(), QDir::cleanPath(Program() + QStringLiteral("/../share/ostrand"))};
+    // The second one stands beside a program that is not installed.
+    return {Program(), Program() + QStringLiteral("/resources"),
+            QDir::cleanPath(Program() + QStringLiteral("/../share/ostrand"))};
 }
 
 QString SystemFolders::UserName() const {

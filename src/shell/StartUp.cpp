@@ -7,6 +7,7 @@
 #include "shell/Session.h"
 #include "shell/Settings.h"
 #include "shell/SettingsTable.h"
+#include "skin/InstallSkins.h"
 
 #include <QDir>
 #include <QFile>
@@ -175,7 +176,7 @@ CommandLine PrepareStartUp(Session &session, const QString &command_line) {
         }
     }
     Call(session.window.ShowBlankPage);
-    MakeFolderPath(Below(session.DataFolder, u"Skins"));
+    InstallSkins(session);
     Call(session.window.ShowBaseCaption);
     session.URLHeadshots = ReadIniSetting(session, u"Main", u"URLHeadshots");
     session.TraceTranslateableStringsToFile = ReadIniSetting(session, u"Settings", u"TraceTranslateableStringsToFile");

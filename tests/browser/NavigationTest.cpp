@@ -324,6 +324,28 @@ TEST_F(NavigationTest, OtherListsAreCopiedWhole) {
     EXPECT_EQ(services.clipboard.Text(), u"Name\tNote\r\n"_s);
 }
 
+TEST_F(NavigationTest, AnEpisodeIsShownWithItsSeriesAndSeason) {
+    for (const char *from : {"movies", "TV"}) {
+        SCOPED_TRACE(from);
+        ShowEpisode(browser, u"H21"_s);
+        EXPECT_TRUE(session.view.mTVShows);
+        EXPECT_EQ(CurrentKey(), u"S1"_s);
+        EXPECT_EQ(browser.listSeasons.value(browser.current_season), u"Captain's cut"_s);
+        EXPECT_EQ(browser.listEpisodes.RowOfKey(u"H21"_s), browser.current_episode);
+        EXPECT_EQ(session.CurrentProfileID, u"H21"_s);
+        EXPECT_TRUE(session.CurrentIsEpisode);
+    }
+    ShowEpisode(browser, u"H110"_s);
+    EXPECT_EQ(browser.listSeasons.value(browser.current_season), u"One"_s);
+    EXPECT_EQ(session.CurrentProfileID, u"H110"_s);
+    ShowEpisode(browser, u"gone"_s);
+    EXPECT_EQ(session.CurrentProfileID, u"H110"_s);
+    Run(u"DELETE FROM TVSeries WHERE SeriesID = 'S1'");
+    ChangeMode(browser, false);
+    ShowEpisode(browser, u"H110"_s);
+    EXPECT_EQ(CurrentKey(), u"S2"_s) << "a series that is gone cannot be selected";
+}
+
 TEST_F(NavigationTest, TheCoverTagNamesTheCurrentFrontCover) {
     const struct {
         const char *name;

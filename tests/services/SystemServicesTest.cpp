@@ -86,10 +86,11 @@ TEST(SystemFoldersTest, KnowsTheOtherFolders) {
     const SystemFolders folders(dir.Path());
     EXPECT_TRUE(QFileInfo(folders.Documents()).isDir());
     EXPECT_EQ(folders.Program(), QCoreApplication::applicationDirPath());
-    ASSERT_EQ(folders.Resources().size(), 2);
+    ASSERT_EQ(folders.Resources().size(), 3);
     EXPECT_EQ(folders.Resources()[0], folders.Program());
-    EXPECT_TRUE(folders.Resources()[1].endsWith(Text("/share/ostrand")));
-    EXPECT_FALSE(folders.Resources()[1].contains(Text("..")));
+    EXPECT_EQ(folders.Resources()[1], folders.Program() + Text("/resources"));
+    EXPECT_TRUE(folders.Resources()[2].endsWith(Text("/share/ostrand")));
+    EXPECT_FALSE(folders.Resources()[2].contains(Text("..")));
     EXPECT_FALSE(folders.UserName().isEmpty());
 }
 

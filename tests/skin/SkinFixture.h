@@ -1,23 +1,14 @@
-// A collection with a few titles, and a view that remembers what it is shown.
+// A collection with a few titles, for pages of skins.
 #pragma once
 
 #include "../database/CollectionFixture.h"
-#include "platform/HtmlView.h"
 #include "skin/SkinPage.h"
 #include "skin/TagCall.h"
+#include "support/ScriptedHtmlView.h"
 
 namespace ostrand {
 
-/// Keeps where it was led.
-class RecordingView : public HtmlView {
-public:
-    void Navigate(const QString &url) override { urls += url; }
-    void SetVisible(bool shown) override { visible = shown; }
-    bool IsVisible() const override { return visible; }
-
-    QStringList urls;
-    bool visible = true;
-};
+using RecordingView = test::ScriptedHtmlView;
 
 class SkinTest : public CollectionTest {
 protected:

@@ -5,6 +5,7 @@
 #include "browser/CollectionTabs.h"
 #include "browser/CollectionTypes.h"
 #include "browser/Navigation.h"
+#include "browser/SkinView.h"
 #include "browser/TitleQueries.h"
 #include "browser/Views.h"
 #include "browser/ui/frmMain.h"
@@ -85,6 +86,8 @@ constexpr Handler kHandlers[] = {
     {u"mSelectRandom", Browse<SelectRandom>},
     {u"mShowLoanDue", Run<ShowTitlesDue>},
     {u"mShowFilter", Browse<ToggleFilter>},
+    {u"mSkinEnable", [](frmMain &main) { main.Skin().ToggleSkin(); }},
+    {u"mEditSkin", [](frmMain &main) { main.Skin().SelectSkin(); }},
     {u"mOrderByCaseType", [](frmMain &main) { SpecialProfileOrder(main.browser, QStringLiteral("CaseType")); }},
     {u"mOrderByGenre", [](frmMain &main) { SpecialProfileOrder(main.browser, QStringLiteral("Genre")); }},
     {u"mOrderByLocality", [](frmMain &main) { SpecialProfileOrder(main.browser, QStringLiteral("Locality")); }},

@@ -4,6 +4,7 @@
 #include "browser/Browser.h"
 #include "browser/MenuStrings.h"
 #include "browser/Navigation.h"
+#include "browser/SkinView.h"
 #include "browser/Views.h"
 #include "browser/ui/CoverPanel.h"
 #include "browser/ui/EmptyPlace.h"
@@ -13,11 +14,11 @@
 #include "browser/ui/MainWindowPlace.h"
 #include "browser/ui/MenuBuilder.h"
 #include "browser/ui/MiddlePanel.h"
+#include "browser/ui/SkinRules.h"
 #include "browser/ui/TitleListPanel.h"
 #include "browser/ui/ToolMain.h"
 #include "collection_files/ProfilerImport.h"
 #include "database/ui/frmSwitchDatabase.h"
-#include "platform_qt/LazyHtmlView.h"
 #include "shell/InstanceMarker.h"
 #include "shell/ListTable.h"
 #include "shell/StartUp.h"
@@ -50,9 +51,10 @@ QString BaseCaption() {
 
 } // namespace
 
-frmMain::frmMain(Browser &the_browser) : browser(the_browser) {
+frmMain::frmMain(Browser &the_browser, LazyHtmlView::MakeEngine make_engine) : browser(the_browser) {
     setObjectName(u"frmMain"_s);
     setAcceptDrops(true);
+    MakeSkinView(std::move(make_engine));
     Compose();
     ConnectBrowser();
     AttachBrowser(browser);
@@ -72,10 +74,25 @@ frmMain::~frmMain() {
     // What still runs must not reach a window that is gone.
     browser.session.window = {};
     browser.disconnect(this);
+    skin_.reset();
 }
 
 SplitPanel *frmMain::Split(int number) const {
     return splits_[size_t(number - 1)];
+}
+
+void frmMain::MakeSkinView(LazyHtmlView::MakeEngine make_engine) {
+    if (!make_engine) {
+        make_engine = LoadWebEngine(SkinRules(browser.session), [this](const QString &reason) {
+            Guarded(browser.session, [&] { skin_->TellNoEngine(reason); });
+        });
+    }
+    WebSkin_ = new LazyHtmlView(std::move(make_engine));
+    WebSkin_->setObjectName(u"WebSkin"_s);
+    skin_ = std::make_unique<SkinView>(browser, *WebSkin_);
+    skin_->later = [this](const std::function<void()> &action) {
+        QTimer::singleShot(0, this, [this, action] { Perform(action); });
+    };
 }
 
 void frmMain::Compose() {
@@ -83,8 +100,6 @@ void frmMain::Compose() {
     cover_ = new CoverPanel(browser);
     episodes_ = new EpisodePanel(browser);
     middle_ = new MiddlePanel(browser);
-    WebSkin_ = new LazyHtmlView({});
-    WebSkin_->setObjectName(u"WebSkin"_s);
 
     for (size_t i = 0; i < splits_.size(); ++i) {
         splits_[i] = i == 3 ? middle_->Split4() : new SplitPanel;
@@ -93,6 +108,8 @@ void frmMain::Compose() {
         splits_[i]->SetHorizontal(i >= 3);
     }
     Split(1)->SetControl1(Split(2));
+    WebSkin_->setParent(Split(1));
+    WebSkin_->SetVisible(false);
     Split(1)->SetControl2(Split(3));
     Split(2)->SetControl1(titles_);
     Split(2)->SetControl2(Split(6));
@@ -108,8 +125,6 @@ void frmMain::Compose() {
     auto *layout = new QVBoxLayout(centre);
     layout->setContentsMargins(4, 4, 4, 4);
     layout->addWidget(Split(1), 1);
-    layout->addWidget(WebSkin_, 1);
-    WebSkin_->SetVisible(false);
     setCentralWidget(centre);
 
     menus_ = new MenuBuilder(browser.commands, *menuBar(), *this);
@@ -153,6 +168,8 @@ void frmMain::OrderTabs() {
 
 void frmMain::ConnectBrowser() {
     connect(&browser, &Browser::TitleChanged, this, &frmMain::ShowView);
+    connect(&browser, &Browser::PageShown, this, &frmMain::ShowView);
+    connect(&browser, &Browser::SkinChanged, this, &frmMain::ShowSkinOrPanels);
     connect(&browser, &Browser::SettingsChanged, this, &frmMain::ApplySettings);
     connect(&browser, &Browser::DatabaseOpened, this,
             [this] { titles_->ShowDatabasePath(browser.session.DatabaseFile); });
@@ -293,12 +310,29 @@ void frmMain::ApplyGridLines() {
 
 void frmMain::ShowView() {
     const bool tv = browser.session.view.mTVShows;
-    episodes_->setVisible(tv || browser.listEpisodes.rowCount() > 0);
+    const bool cover = tv || !browser.session.view.mSkinEnable; // a page shows the cover itself
+    const bool episodes = tv || browser.listEpisodes.rowCount() > 0;
+    cover_->setVisible(cover);
+    episodes_->setVisible(episodes);
+    Split(6)->setVisible(cover || episodes);
     setWindowTitle(browser.caption);
+}
+
+void frmMain::ShowSkinOrPanels() {
+    const bool on = browser.session.view.mSkinEnable;
+    QWidget *shown = on ? static_cast<QWidget *>(WebSkin_) : Split(3);
+    QWidget *other = on ? Split(3) : static_cast<QWidget *>(WebSkin_);
+    other->hide();
+    shown->show();
+    if (Split(1)->Control2() != shown) {
+        Split(1)->SetControl2(shown);
+    }
+    ShowView();
 }
 
 void frmMain::TranslateNames() {
     titles_->TranslateNames();
+    WebSkin_->setAccessibleName(Translate(browser.session, u"Title as a page"_s));
     cover_->TranslateNames();
     episodes_->TranslateNames();
     middle_->TranslateNames();
@@ -311,8 +345,9 @@ void frmMain::ShowListView(std::unique_ptr<ListTable> table) {
         }
     }
     auto *window = new frmListView(browser.session, ContentOf(std::move(table)), this);
-    window->title_chosen = [this](const QString &key, ListRowKind) {
-        Guarded(browser.session, [&] { ShowMovie(browser, key); });
+    window->title_chosen = [this](const QString &key, ListRowKind kind) {
+        Guarded(browser.session,
+                [&] { kind == ListRowKind::Episode ? ShowEpisode(browser, key) : ShowMovie(browser, key); });
     };
     window->show();
     window->raise();

@@ -1,6 +1,8 @@
 // The main window.
 #pragma once
 
+#include "platform_qt/LazyHtmlView.h"
+
 #include <QMainWindow>
 
 #include <functional>
@@ -12,10 +14,10 @@ class CoverPanel;
 class EpisodePanel;
 class frmListView;
 class frmSplash;
-class LazyHtmlView;
 class ListTable;
 class MenuBuilder;
 class MiddlePanel;
+class SkinView;
 class SplitPanel;
 class TitleListPanel;
 class ToolMain;
@@ -24,13 +26,15 @@ class ToolMain;
 class frmMain : public QMainWindow {
     Q_OBJECT
 public:
-    explicit frmMain(Browser &browser);
+    /// `make_engine` stands in for the module with the web engine.
+    explicit frmMain(Browser &browser, LazyHtmlView::MakeEngine make_engine = {});
     ~frmMain() override;
 
     /// The start of the program, up to the shown window. False when no database was opened and the program ends.
     bool Load(const QString &command_line);
 
     Browser &browser;
+    SkinView &Skin() { return *skin_; }
     /// The window's splitters by their number, from 1.
     SplitPanel *Split(int number) const;
     /// Shows a table in a window of its own; one with the same caption is filled anew.
@@ -48,6 +52,7 @@ protected:
     void dropEvent(QDropEvent *event) override;
 
 private:
+    void MakeSkinView(LazyHtmlView::MakeEngine make_engine);
     void Compose();
     void OrderTabs();
     void ConnectBrowser();
@@ -60,6 +65,8 @@ private:
     void SetFonts();
     void ApplyGridLines();
     void ShowView();
+    /// Puts the view of pages or the panels into their place.
+    void ShowSkinOrPanels();
     /// Opens a context menu, unless there is no database that its entries could work on.
     void OpenContextMenu(const QString &name, const QPoint &place);
     void ChooseDatabase();
@@ -72,6 +79,7 @@ private:
     EpisodePanel *episodes_ = nullptr;
     MiddlePanel *middle_ = nullptr;
     LazyHtmlView *WebSkin_ = nullptr;
+    std::unique_ptr<SkinView> skin_;
     std::array<SplitPanel *, 6> splits_ = {};
     std::unique_ptr<frmSplash> splash_;
     int running_ = 0; ///< actions of the user, one within another

@@ -1,0 +1,14 @@
+// What pages of skins may reach.
+#pragma once
+
+#include "platform_qt/WebEnginePlugin.h"
+
+namespace ostrand {
+
+struct Session;
+
+/// Pages load files of the skins, the covers and headshots of the open database, and the program's own images; their
+/// links that leave the program go to the system.
+WebEngineRules SkinRules(Session &session);
+
+} // namespace ostrand
