@@ -42,6 +42,51 @@ void ReplaceAll(QString &page, const QString &tag, const QString &text) {
     page = std::move(replaced);
 }
 
+/// True when no text can hold a tag, or make one together with what stands beside it, so that all can be filled in one
+/// walk over the page.
+bool StandAlone(const QStringList &tags, const QStringList &texts, const QStringList &between) {
+    const auto none = [](const QStringList &list, auto is_risky) {
+        return std::none_of(list.begin(), list.end(), is_risky);
+    };
+    return none(tags, [](const QString &tag) { return HoldsTagOpening(tag, 1); }) &&
+           none(texts, [](const QString &text) { return HoldsTagOpening(text) || EndsInTagOpening(text); }) &&
+           none(between, EndsInTagOpening);
+}
+
+QString FillInOneWalk(const QString &page, const QStringList &tags, const QStringList &texts,
+                      const QStringList &between) {
+    QHash<QStringView, qsizetype> first; // the first evaluation fills every place of a tag
+    qsizetype size = page.size();
+    for (qsizetype i = 0; i < tags.size(); ++i) {
+        const qsizetype text = first.value(tags[i], i);
+        first.insert(tags[i], text);
+        size += texts[text].size() - tags[i].size();
+        if (size > kLargestPage) {
+            throw SkinFailure(u"The page is too large."_s);
+        }
+    }
+    QString filled;
+    filled.reserve(size);
+    for (qsizetype i = 0; i < tags.size(); ++i) {
+        filled += between[i];
+        filled += texts[first.value(tags[i])];
+    }
+    return filled += between.last();
+}
+
+/// What stands in front of each tag, and behind the last one.
+QStringList TextsBetween(const QString &page, const QStringList &tags) {
+    QStringList between;
+    qsizetype from = 0;
+    for (const QString &tag : tags) {
+        const qsizetype at = page.indexOf(tag, from);
+        between.append(page.mid(from, at - from));
+        from = at + tag.size();
+    }
+    between.append(page.mid(from));
+    return between;
+}
+
 QString KeyOf(const sql::Recordset &row, bool is_episode) {
     return row.Eof() ? QString() : row.Text(is_episode ? u"EpisodeID" : u"ProfileID");
 }
@@ -57,11 +102,18 @@ QString RenderSkinText(Session &session, SkinState &skin, const QString &page, c
         throw SkinFailure(u"The skin has no tag."_s);
     }
     TagCall call{session, skin, options, row, KeyOf(row, is_episode), is_episode, {}};
+    QStringList texts;
     for (const QString &tag : tags) {
         call.tag = tag;
         // A tag that stands twice is evaluated twice, though the first time fills both places: what it tells the user
         // it tells twice.
-        ReplaceAll(text, tag, EvaluateSkinTag(GetTagAttribute(tag, u"NAME", {}).toUpper(), call));
+        texts.append(EvaluateSkinTag(GetTagAttribute(tag, u"NAME", {}).toUpper(), call));
+    }
+    if (const QStringList between = TextsBetween(text, tags); StandAlone(tags, texts, between)) {
+        return FillInOneWalk(text, tags, texts, between);
+    }
+    for (qsizetype i = 0; i < tags.size(); ++i) {
+        ReplaceAll(text, tags[i], texts[i]);
     }
     return text;
 }

@@ -34,9 +34,11 @@ bool MatchesAt(QStringView text, qsizetype at, QLatin1String word) {
     return true;
 }
 
+constexpr std::array kOpenings = {"<OSV Name=\""_L1, "<DP Name=\""_L1};
+
 /// Behind `<DP Name="`, where one begins at `at`; kNone elsewhere.
 qsizetype BehindOpening(QStringView page, qsizetype at) {
-    for (const QLatin1String opening : {"<OSV Name=\""_L1, "<DP Name=\""_L1}) {
+    for (const QLatin1String opening : kOpenings) {
         if (MatchesAt(page, at, opening)) {
             return at + opening.size();
         }
@@ -123,6 +125,23 @@ QStringList FindSkinTags(const QString &page) {
         at = page.indexOf(u'<', next);
     }
     return tags;
+}
+
+bool HoldsTagOpening(QStringView text, qsizetype from) {
+    for (qsizetype at = text.indexOf(u'<', from); at >= 0; at = text.indexOf(u'<', at + 1)) {
+        if (BehindOpening(text, at) != kNone) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool EndsInTagOpening(QStringView text) {
+    const qsizetype at = text.lastIndexOf(u'<');
+    const qsizetype rest = text.size() - at;
+    return at >= 0 && std::any_of(kOpenings.begin(), kOpenings.end(), [&](QLatin1String opening) {
+               return rest < opening.size() && MatchesAt(text, at, opening.first(rest));
+           });
 }
 
 QString GetTagAttribute(const QString &tag, QStringView name, const QString &preset) {

@@ -25,6 +25,11 @@ private:
 /// last quote may hold line ends. Takes time in proportion to the page, whatever stands in it.
 QStringList FindSkinTags(const QString &page);
 
+/// True when a tag begins at or behind `from`, whether or not it ends.
+bool HoldsTagOpening(QStringView text, qsizetype from = 0);
+/// True when the text breaks off inside the opening of a tag, so that what follows it could make it one.
+bool EndsInTagOpening(QStringView text);
+
 /// The value of an attribute, or the default where the tag has none or an empty one; "yes", "no" and "break" in any
 /// case become "true", "false" and "<br/>", in defaults too. Only the first attribute of a name counts.
 QString GetTagAttribute(const QString &tag, QStringView name, const QString &preset);

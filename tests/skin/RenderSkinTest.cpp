@@ -1,5 +1,7 @@
 #include "SkinFixture.h"
 
+#include <random>
+
 namespace ostrand {
 namespace {
 
@@ -95,6 +97,42 @@ TEST_F(RenderSkin, APageDoesNotGrowWithoutEnd) {
     EXPECT_EQ(Page(tag.repeated(3)), tag.repeated(24));
     SetColumn(u"Key_1"_s, u"Overview"_s, tag.repeated(4000));
     EXPECT_THROW(Page(tag.repeated(60)), SkinFailure);
+}
+
+TEST_F(RenderSkin, TextsThatHoldTagsOrPiecesOfThemAreReplacedAsTheyStand) {
+    const QStringList pieces = {u"<DP NAME=\"OVERVIEW\">"_s,
+                                u"<DP NAME=\"MEDIUM\">"_s,
+                                u"<DP NAME=\"NONE\">"_s,
+                                u"<DP NA"_s,
+                                u"ME=\"MEDIUM\">"_s,
+                                u"<"_s,
+                                u"DP NAME=\"MEDIUM\">"_s,
+                                u"\">"_s,
+                                u"x"_s,
+                                u"<DP NAME=\"MEDIUM\" X=1> "_s};
+    std::mt19937 random(11);
+    const auto any_text = [&](unsigned most) {
+        QString text;
+        for (unsigned i = 0, count = random() % most; i < count; ++i) {
+            text += pieces[qsizetype(random() % size_t(pieces.size()))];
+        }
+        return text;
+    };
+    for (int round = 0; round < 400; ++round) {
+        const QString overview = any_text(4);
+        SetColumn(u"Key_1"_s, u"Overview"_s, overview);
+        const QString page = any_text(7);
+        const QStringList tags = FindSkinTags(page);
+        if (tags.isEmpty()) {
+            continue;
+        }
+        QString expected = page;
+        for (const QString &tag : tags) {
+            const QString name = GetTagAttribute(tag, u"NAME", {});
+            expected.replace(tag, name == u"OVERVIEW"_s ? overview : name == u"MEDIUM"_s ? u"DVD"_s : QString());
+        }
+        ASSERT_EQ(Page(page), expected) << qPrintable(page) << " with " << qPrintable(overview);
+    }
 }
 
 TEST_F(RenderSkin, ManyTagsTakeNoTimeToSpeakOf) {
