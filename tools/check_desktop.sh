@@ -40,3 +40,32 @@ grep -q '^Splitter1=[0-9]' "$settings" || { echo "the window's splitters were no
 profiles=$("$programs/ostrand-batch" --sql "$home/sample.mdb" --format csv <<<"SELECT COUNT(*) FROM Profiles;" | tail -n 1 | tr -d '\r')
 [ "$profiles" = 60 ] || { echo "$profiles profiles instead of 60"; exit 1; }
 echo "a window opened, was asked to end and kept its state"
+
+# Pages of skins: the engine runs their scripts and shows their pictures, and the program's own skins have no fault.
+skins=$(find "$home" -type d -name Skins | head -n 1)
+[ -s "$skins/Modern/Skin.html" ] || { echo "the skins of the program were not installed"; exit 1; }
+mkdir "$skins/Check"
+cat >"$skins/Check/Skin.html" <<'PAGE'
+<body><DP NAME="IMAGE"><script>
+window.onload = function () { console.error('picture ' + (document.images[0].naturalWidth > 0 ? 'shown' : 'missing')); };
+</script></body>
+PAGE
+show_skin() {
+    "$programs/ostrand-batch" --sql "$home/sample.mdb" >/dev/null <<SQL
+DELETE FROM DbInfo WHERE InfoName IN ('CoverPath', 'CurrentSkin', 'EnableSkin');
+INSERT INTO DbInfo (InfoName, InfoValue) VALUES ('CoverPath', '${samples//\'/\'\'}/images/covers/');
+INSERT INTO DbInfo (InfoName, InfoValue) VALUES ('CurrentSkin', '$1');
+INSERT INTO DbInfo (InfoName, InfoValue) VALUES ('EnableSkin', '1');
+SQL
+    status=0
+    QT_LOGGING_RULES=ostrand.pages.debug=true timeout --signal=TERM 20 xvfb-run -a -e /dev/stderr bash -c \
+        "timeout --preserve-status --signal=TERM 8 '$programs/ostrand' '$home/sample.mdb'" >"$home/page.log" 2>&1 || status=$?
+    [ "$status" -eq 0 ] || { echo "the program ended with status $status"; cat "$home/page.log"; exit 1; }
+}
+show_skin Check
+grep -q 'picture shown' "$home/page.log" || { echo "the page or its picture was not shown"; cat "$home/page.log"; exit 1; }
+for skin in Classic Modern Episode Script; do
+    show_skin "$skin"
+    ! grep 'Temp\.html' "$home/page.log" || { echo "the skin $skin has a fault"; exit 1; }
+done
+echo "pages of skins were shown"

@@ -23,6 +23,7 @@ ALLOWED = {
     "services": ["base", "platform"],
     **{folder: CORE + BELOW_CORE for folder in CORE},
     "platform_qt": BELOW_CORE + ["services"],
+    "web_engine": ["platform", "platform_qt"],
     # The windows of every subsystem.
     "ui": CORE + BELOW_CORE + ["services", "platform_qt"],
 }

@@ -99,7 +99,9 @@ int RunRenderMode(const Arguments &arguments) {
     } catch (const sql::SqlError &error) {
         Refuse(error.Text());
     }
-    FinishStartUp(session);
+    if (!session.EndProgram) {
+        FinishStartUp(session);
+    }
     session.DatabaseFile = last_database; // a page changes nothing of what the next start opens
     EndSession(session);
     console.pump.session = nullptr;

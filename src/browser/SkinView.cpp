@@ -125,7 +125,7 @@ void SkinView::Follow(const SkinLink &link) {
         ShowMovie(browser_, ProfileOfLink(session, target)); // which leaves the row that is selected
         break;
     case SkinLink::Kind::Episode:
-        if (!ShowPage(target, true, session.CurrentProfileID)) {
+        if (!ShowPage(target, true, QString(session.CurrentProfileID))) { // a copy: the page becomes the current one
             Redisplay(browser_);
         }
         break;

@@ -118,7 +118,12 @@ WebView::~WebView() {
 }
 
 void WebView::Navigate(const QString &url) {
-    load(QUrl(url, QUrl::StrictMode));
+    QUrl target(url, QUrl::StrictMode);
+    if (target.isLocalFile() && !target.hasQuery()) {
+        // Each page is written into the same file. Loaded as the same page it would open where the last one stood.
+        target.setQuery(QString::number(++shown_));
+    }
+    load(target);
 }
 
 } // namespace ostrand

@@ -62,6 +62,7 @@ Q_SIGNALS:
 
 private:
     QWebEngineProfile *profile_;
+    int shown_ = 0; ///< files so far
 };
 
 } // namespace ostrand

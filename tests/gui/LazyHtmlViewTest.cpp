@@ -87,5 +87,17 @@ TEST(LazyHtmlViewWithoutEngine, PagesStayUnseen) {
     EXPECT_FALSE(failing.HasEngine());
 }
 
+TEST(LazyHtmlViewWithoutEngine, EachPageAsksAgain) {
+    int asked = 0;
+    LazyHtmlView failing([&asked](QWidget *) {
+        ++asked;
+        return HtmlEngine{};
+    });
+    for (const QString &url : {u"file:///a.html"_s, u"about:blank"_s, u"file:///b.html"_s}) {
+        failing.Navigate(url);
+    }
+    EXPECT_EQ(asked, 2);
+}
+
 } // namespace
 } // namespace ostrand

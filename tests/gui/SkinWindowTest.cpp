@@ -37,13 +37,14 @@ protected:
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write("[<DP NAME=\"TITLE\">]");
         file.close();
-        const auto collection = sql::Database::Open(database);
+        auto collection = sql::Database::Open(database);
         collection->Execute(u"DELETE FROM DbInfo WHERE InfoName = 'CurrentSkin'");
         collection->Execute(u"DELETE FROM DbInfo WHERE InfoName = 'EnableSkin'");
         collection->Execute(u"INSERT INTO DbInfo (InfoName, InfoValue) VALUES ('CurrentSkin', 'Plain')");
         for (const QString &statement : statements) {
             collection->Execute(statement);
         }
+        collection.reset();
         main = std::make_unique<frmMain>(browser, [this](QWidget *parent) -> HtmlEngine {
             if (!reason.isEmpty()) {
                 main->Skin().TellNoEngine(reason);
