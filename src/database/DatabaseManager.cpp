@@ -463,5 +463,3 @@ void DatabaseManager::Exit() {
 }
 
 } // namespace ostrand
-
-#include "moc_DatabaseManager.cpp"

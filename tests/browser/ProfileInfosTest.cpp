@@ -17,7 +17,8 @@ protected:
     }
     void Insert(const QString &id, const QString &title, const QString &original, const QString &custom,
                 const QString &year, const QString &medium) {
-        Run(u"INSERT INTO Profiles (ProfileID, Title, OriginalTitle, CustomTitle, ProdYear, Medium) VALUES ('%1', '%2', "
+        Run(u"INSERT INTO Profiles (ProfileID, Title, OriginalTitle, CustomTitle, ProdYear, Medium) VALUES ('%1', "
+            u"'%2', "
             "'%3', '%4', %5, '%6')"_s.arg(id, title, original, custom, year.isEmpty() ? u"NULL"_s : year, medium));
     }
     QString Caption() {

@@ -32,7 +32,8 @@ inline QString SampleDatabase() {
         WriteDbInfo(session, QStringLiteral("ShowLoanDueOnStartUp"), QStringLiteral("0"));
         WriteDbInfo(session, QStringLiteral("ShowToolbar"), QStringLiteral("True"));
         WriteDbInfo(session, QStringLiteral("CoverPath"), samples + QStringLiteral("images/covers/"));
-        session.Database->Execute(u"INSERT INTO TVSeries (SeriesID, OriginalTitle, Title, SortTitle) VALUES ('S1', '', 'The Attic', 'Attic')");
+        session.Database->Execute(u"INSERT INTO TVSeries (SeriesID, OriginalTitle, Title, SortTitle) VALUES ('S1', '', "
+                                  u"'The Attic', 'Attic')");
         session.Database->Execute(u"INSERT INTO Episodes (EpisodeID, SeriesID, Season, EpisodeNo, EpisodeTitle) VALUES "
                                   u"('S11.1', 'S1', '1', '1', 'Dust')");
         session.Database->Execute(u"INSERT INTO Episodes (EpisodeID, SeriesID, Season, EpisodeNo, EpisodeTitle) VALUES "

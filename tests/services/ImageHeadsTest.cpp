@@ -12,9 +12,18 @@ using namespace Qt::StringLiterals;
 using Size = std::optional<std::pair<int, int>>;
 
 TEST(ImageHeads, TellTheSizeOfPictures) {
-    const QByteArray png = QByteArray::fromHex("89504e470d0a1a0a0000000d49484452" "00000140" "000000c8" "08020000");
-    const QByteArray jpeg =
-        QByteArray::fromHex("ffd8" "ffe00004abcd" "ffff" "ffc00011" "08" "00c8" "0140" "03012200021101031101ffd9");
+    const QByteArray png = QByteArray::fromHex("89504e470d0a1a0a0000000d49484452"
+                                               "00000140"
+                                               "000000c8"
+                                               "08020000");
+    const QByteArray jpeg = QByteArray::fromHex("ffd8"
+                                                "ffe00004abcd"
+                                                "ffff"
+                                                "ffc00011"
+                                                "08"
+                                                "00c8"
+                                                "0140"
+                                                "03012200021101031101ffd9");
     const struct {
         const char *name;
         QByteArray content;

@@ -266,9 +266,8 @@ TEST_F(WindowStepsTest, ANormalStartTakesThemInThisOrder) {
     session.Database.reset();
     EXPECT_TRUE(OpenOrRun(session, PrepareStartUp(session, path)));
     FinishStartUp(session);
-    EXPECT_EQ(steps.join(u", "_s),
-              u"audit menus, splash, menus off, blank page, caption, layout, grid lines, panels, "
-              "settings, captions, menus on, last title, titles due, no splash, titles due"_s);
+    EXPECT_EQ(steps.join(u", "_s), u"audit menus, splash, menus off, blank page, caption, layout, grid lines, panels, "
+                                   "settings, captions, menus on, last title, titles due, no splash, titles due"_s);
     EXPECT_FALSE(session.StartingUp);
 }
 

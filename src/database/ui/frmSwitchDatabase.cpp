@@ -150,13 +150,13 @@ void frmSwitchDatabase::ShowContextMenu(const QPoint &place) {
 
 void frmSwitchDatabase::Connect() {
     connect(list_, &QTreeView::customContextMenuRequested, this, &frmSwitchDatabase::ShowContextMenu);
-    connect(list_, &QTreeView::doubleClicked, this, &frmSwitchDatabase::Open);
+    connect(list_, &QTreeView::doubleClicked, this, &frmSwitchDatabase::OpenSelected);
     connect(list_->selectionModel(), &QItemSelectionModel::selectionChanged, this, &frmSwitchDatabase::FollowSelection);
     connect(&manager_, &QAbstractItemModel::rowsRemoved, this, [this] {
         SelectRow(std::max(0, Row()));
         list_->setFocus(); // else it goes on from a button that has nothing to delete any more
     });
-    connect(ok_, &QPushButton::clicked, this, &frmSwitchDatabase::Open);
+    connect(ok_, &QPushButton::clicked, this, &frmSwitchDatabase::OpenSelected);
     connect(cancel_, &QPushButton::clicked, this, &frmSwitchDatabase::reject);
     connect(new_, &QPushButton::clicked, this, [this] {
         if (manager_.New()) {
@@ -211,7 +211,7 @@ void frmSwitchDatabase::OnRow(void (DatabaseManager::*action)(int)) {
     (manager_.*action)(Row());
 }
 
-void frmSwitchDatabase::Open() {
+void frmSwitchDatabase::OpenSelected() {
     if (manager_.Open(Row())) {
         Finish();
     }

@@ -36,7 +36,7 @@ private:
     int Row() const;
     void SelectRow(int row);
     void FollowSelection();
-    void Open();
+    void OpenSelected();
     void Finish();
     /// Runs an action on the selected row.
     void OnRow(void (DatabaseManager::*action)(int));
