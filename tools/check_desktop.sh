@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Runs the desktop program on a virtual screen: a command file that makes a collection and ends the program, then a
-# start on that collection which is asked to end. Usage: check_desktop.sh FOLDER-OF-PROGRAMS
+# start on that collection which is asked to end. It is asked once (--foreground): a second signal ends it at once. Usage: check_desktop.sh FOLDER-OF-PROGRAMS
 set -euo pipefail
 programs=$(cd "$1" && pwd)
 samples=$(cd "$(dirname "$0")/../resources/samples" && pwd)
@@ -33,7 +33,7 @@ on_screen "$programs/ostrand" "$home/again.txt"
 echo "a command file ended the program"
 
 status=0
-timeout --signal=TERM 8 xvfb-run -a bash -c "timeout --preserve-status --signal=TERM 4 '$programs/ostrand' '$home/sample.mdb'" || status=$?
+timeout --signal=TERM 8 xvfb-run -a bash -c "timeout --foreground --preserve-status --signal=TERM 4 '$programs/ostrand' '$home/sample.mdb'" || status=$?
 [ "$status" -eq 0 ] || { echo "the program ended with status $status"; exit 1; }
 settings=$(find "$home" -name Settings.ini)
 grep -q '^Splitter1=[0-9]' "$settings" || { echo "the window's splitters were not kept"; exit 1; }
@@ -59,7 +59,7 @@ INSERT INTO DbInfo (InfoName, InfoValue) VALUES ('EnableSkin', '1');
 SQL
     status=0
     QT_LOGGING_RULES=ostrand.pages.debug=true timeout --signal=TERM 20 xvfb-run -a -e /dev/stderr bash -c \
-        "timeout --preserve-status --signal=TERM 8 '$programs/ostrand' '$home/sample.mdb'" >"$home/page.log" 2>&1 || status=$?
+        "timeout --foreground --preserve-status --signal=TERM 8 '$programs/ostrand' '$home/sample.mdb'" >"$home/page.log" 2>&1 || status=$?
     [ "$status" -eq 0 ] || { echo "the program ended with status $status"; cat "$home/page.log"; exit 1; }
 }
 show_skin Check
