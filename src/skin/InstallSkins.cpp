@@ -3,6 +3,7 @@
 #include "base/Files.h"
 #include "shell/Session.h"
 
+#include <QDir>
 #include <QDirIterator>
 
 namespace ostrand {
@@ -34,7 +35,8 @@ void CopyFile(const Session &session, const QString &from, const QString &to) {
 
 void InstallSkins(const Session &session) {
     const QString folder = session.DataFolder + u"/Skins"_s;
-    if (QFileInfo::exists(folder) || !MakeFolderPath(folder)) {
+    // An empty folder comes from a version that had no skins of its own.
+    if (!QDir(folder).isEmpty() || !MakeFolderPath(folder)) {
         return;
     }
     const QString own = OwnSkins(session);

@@ -5,8 +5,8 @@ namespace ostrand {
 
 struct Session;
 
-/// Makes the folder of skins in the data folder, with the program's own skins in it. A folder that is there stays as it
-/// is: what the user changed or removed does not come back.
+/// Makes the folder of skins in the data folder, with the program's own skins in it. A folder that holds anything stays
+/// as it is: what the user changed or removed does not come back.
 void InstallSkins(const Session &session);
 
 } // namespace ostrand

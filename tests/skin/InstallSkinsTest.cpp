@@ -35,7 +35,13 @@ TEST_F(InstallSkinsTest, ANewDataFolderGetsThem) {
     EXPECT_EQ(QDir(Skins()).entryList(QDir::Dirs | QDir::NoDotAndDotDot), (QStringList{u"Fine"_s, u"Plain"_s}));
 }
 
-TEST_F(InstallSkinsTest, AFolderThatIsThereStaysAsItIs) {
+TEST_F(InstallSkinsTest, AnEmptyFolderGetsThem) {
+    QDir().mkpath(Skins());
+    InstallSkins(session);
+    EXPECT_EQ(Installed(u"Plain/Skin.html"_s), "plain");
+}
+
+TEST_F(InstallSkinsTest, AFolderThatHoldsASkinStaysAsItIs) {
     QDir().mkpath(Skins() + u"/Fine"_s);
     InstallSkins(session);
     EXPECT_EQ(QDir(Skins()).entryList(QDir::Dirs | QDir::NoDotAndDotDot), QStringList{u"Fine"_s});
