@@ -11,7 +11,7 @@ protected:
         ProfileTagTest::SetUp();
         Run(u"INSERT INTO Currencies (CurrencyID, CurrencyName, CurrencySymbol) VALUES ('USD', 'Dollar', '$')");
         Run(u"INSERT INTO Currencies (CurrencyID, CurrencyName, CurrencySymbol) VALUES ('EUR', 'Euro', '?')");
-        Run(u"INSERT INTO Currencies (CurrencyID, CurrencyName) VALUES ('XXX', 'Shells')");
+        Run(u"INSERT INTO Currencies (CurrencyID, CurrencyName) VALUES ('SHL', 'Shells')");
     }
     void CheckPrice(TagProducer producer, const QString &table, const QString &column, const QString &null_text) {
         const struct {
@@ -23,7 +23,7 @@ protected:
             {"symbol and number", u"9.5"_s, u"'USD'"_s, u"$9.5"_s},
             {"whole number", u"20"_s, u"'USD'"_s, u"$20"_s},
             {"the euro sign that was lost", u"9.99"_s, u"'EUR'"_s, u"\u20AC9.99"_s},
-            {"a currency without symbol", u"7"_s, u"'XXX'"_s, u"7"_s},
+            {"a currency without symbol", u"7"_s, u"'SHL'"_s, u"7"_s},
             {"no currency", u"7"_s, u"NULL"_s, u"7"_s},
             {"nothing", u"0"_s, u"'USD'"_s, u"$0"_s},
             {"NULL", u"NULL"_s, u"'USD'"_s, null_text},
