@@ -11,7 +11,7 @@ namespace {
 using namespace Qt::StringLiterals;
 
 /// 256 MB of text. Texts of the database that hold tags of the page could otherwise make it grow without end.
-constexpr qsizetype kLargestPage = 256 * 1024 * 1024 / sizeof(char16_t);
+constexpr qsizetype kLargestPage = (qsizetype(256) << 20) / qsizetype(sizeof(char16_t));
 
 QString WithBackFrame(Session &session, const QString &page, const QString &back_profile_id) {
     return u"<HTML><BODY>\r\n<frameset rows='20,*' border='0'>\r\n<frame><INPUT TYPE='button' "
