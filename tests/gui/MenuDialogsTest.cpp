@@ -42,7 +42,11 @@ protected:
 
 TEST_F(MenuDialogs, AboutComesAndGoes) {
     Start();
-    Use("mAbout", u"frmAbout"_s, [](QDialog &window) { Press(window, u"cmdOK"_s); });
+    Use("mAbout", u"frmAbout"_s, [this](QDialog &window) {
+        EXPECT_EQ(window.parentWidget(), main.get());
+        Press(window, u"cmdOK"_s);
+    });
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
 TEST_F(MenuDialogs, SettingsTakeEffectAtOnce) {
