@@ -8,6 +8,7 @@
 
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFileInfo>
 #include <QMap>
 #include <gtest/gtest.h>
 
@@ -20,12 +21,12 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr int kProfiles = 300;
+constexpr int kProfiles = 900; // several transactions, on a quick machine too
 
 /// The number of deaths; the environment may ask for more.
 int Kills() {
     const int asked = qEnvironmentVariableIntValue("OSTRAND_KILLS");
-    return asked > 0 ? asked : 25;
+    return asked > 0 ? asked : 12;
 }
 
 /// The rows of a collection: of each profile, and of each table that knows no profile. An event's number is drawn by
@@ -57,10 +58,23 @@ protected:
         const test::BatchResult result = program.Run({u"--quiet"_s, u"import.txt"_s});
         ASSERT_EQ(result.status, 0) << result.output.constData() << result.errors.constData();
     }
+    qint64 Written() const { return QFileInfo(program.In(u"a.mdb-wal"_s)).size(); }
+    /// Lets the import run until it is done or `due` says that it has to die.
+    template <typename Due>
+    std::unique_ptr<QProcess> ImportUntil(const Due &due) {
+        auto process = program.Start({u"--quiet"_s, u"import.txt"_s});
+        while (!due() && !process->waitForFinished(0)) {
+            std::this_thread::sleep_for(std::chrono::microseconds(200));
+        }
+        return process;
+    }
     /// True when the program died before it was done.
-    bool ImportAndKill(int milliseconds) {
-        const auto process = program.Start({u"--quiet"_s, u"import.txt"_s});
-        std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+    template <typename Due>
+    bool ImportAndKill(const Due &due) {
+        const auto process = ImportUntil(due);
+        if (process->state() == QProcess::NotRunning) {
+            return false;
+        }
         ::kill(pid_t(process->processId()), SIGKILL);
         process->waitForFinished(-1);
         return process->exitStatus() == QProcess::CrashExit;
@@ -112,7 +126,12 @@ TEST_F(ImportKillTest, TheFileIsSoundAndTheNextImportMakesItWhole) {
     StartAnew();
     QElapsedTimer timer;
     timer.start();
-    ImportToTheEnd();
+    qint64 written = 0;
+    const auto process = ImportUntil([&] {
+        written = std::max(written, Written());
+        return false;
+    });
+    ASSERT_EQ(process->exitCode(), 0);
     int undisturbed = int(timer.elapsed());
     const Content whole = Read(program.In(u"a.mdb"_s));
     ASSERT_EQ(whole.tables.value(u"Alias"_s).isEmpty(), false) << "the collection links no names";
@@ -122,13 +141,15 @@ TEST_F(ImportKillTest, TheFileIsSoundAndTheNextImportMakesItWhole) {
     int deaths = 0;
     int partly = 0;
     for (int i = 0; i < Kills(); ++i) {
-        const int instant = std::uniform_int_distribution<int>(1, undisturbed)(random);
-        SCOPED_TRACE("killed after " + std::to_string(instant) + " of " + std::to_string(undisturbed) + " ms");
+        // Half of the deaths by the clock, the others by what is written, since how long a start takes is chance.
+        const bool by_clock = i % 2 == 0;
+        const qint64 instant = std::uniform_int_distribution<qint64>(1, by_clock ? undisturbed : written)(random);
+        SCOPED_TRACE("killed after " + std::to_string(instant) + (by_clock ? " ms" : " bytes"));
         StartAnew();
         timer.start();
-        if (ImportAndKill(instant)) {
+        if (ImportAndKill([&] { return (by_clock ? timer.elapsed() : Written()) >= instant; })) {
             ++deaths;
-        } else {
+        } else if (by_clock) {
             // The machine was busier when the whole import was measured.
             undisturbed = std::max(1, std::min(undisturbed, int(timer.elapsed())));
         }
