@@ -1,10 +1,12 @@
 // What a page of a skin costs beside its statements, and whether it grows with the collection.
 //
 //   bench_skin [--statements]
+//   bench_skin --pages
 //
 // The modern skin is rendered for a title with 60 credits out of collections of 1,000 and of 10,000 profiles. The floor
 // is the page's own statements, sent to the same database in the same order and read to their ends. With --statements
-// the statements of one page are printed with their counts. Status 1 where a ratio is more than twice its goal.
+// the statements of one page are printed. With --pages some pages are rendered and nothing is measured, for a profiler.
+// Status 1 where a ratio is more than twice its goal.
 #include "SilentServices.h"
 
 #include "database/DatabaseFunctions.h"
@@ -95,48 +97,72 @@ struct Times {
     double statements = 0;
 };
 
-Times Measure(int profiles, const QString &skin_text, bool tell_statements) {
-    const QTemporaryDir folder;
-    Collection collection(folder.path(), profiles);
-    Session &session = collection.session;
-    SkinState skin;
-    const RenderOptions options;
-    qsizetype length = 0;
-    const auto render = [&] {
+/// A collection with the page of its first title.
+class Page {
+public:
+    Page(int profiles, QString skin_text) :
+        collection_(folder_.path(), profiles), session(collection_.session), skin_text_(std::move(skin_text)) {}
+
+    void Render() {
         const sql::Recordset row = session.Database->OpenRecordset(u"SELECT * FROM Profiles WHERE ProfileID = 'Key_0'");
-        length = RenderSkinText(session, skin, skin_text, row, false, {}, options).size();
-    };
+        length = RenderSkinText(session, skin_, skin_text_, row, false, {}, options_).size();
+    }
+
+private:
+    QTemporaryDir folder_;
+    Collection collection_;
+
+public:
+    Session &session;
+    qsizetype length = 0;
+
+private:
+    QString skin_text_;
+    SkinState skin_;
+    RenderOptions options_;
+};
+
+Times Measure(int profiles, const QString &skin_text, bool tell_statements) {
+    Page page(profiles, skin_text);
+    sql::Database &database = *page.session.Database;
     QStringList statements;
-    session.Database->SetObserver([&](QStringView statement) { statements.append(statement.toString()); });
-    render();
-    session.Database->SetObserver({});
+    database.SetObserver([&](QStringView statement) { statements.append(statement.toString()); });
+    page.Render();
+    database.SetObserver({});
     if (tell_statements) {
         for (const QString &statement : std::as_const(statements)) {
             std::printf("%s\n", statement.toUtf8().constData());
         }
     }
     Times times;
-    times.page = Milliseconds(render);
+    times.page = Milliseconds([&] { page.Render(); });
     times.statements = Milliseconds([&] {
         for (const QString &statement : std::as_const(statements)) {
-            sql::Recordset rows = session.Database->OpenRecordset(statement);
+            sql::Recordset rows = database.OpenRecordset(statement);
             for (; !rows.Eof(); rows.MoveNext()) {
             }
         }
     });
     std::printf("%6d profiles: %lld statements, page of %lld characters\n", profiles, qint64(statements.size()),
-                qint64(length));
+                qint64(page.length));
     return times;
 }
 
-int Main(bool tell_statements) {
+int Main(const QStringList &arguments) {
     QFile file(QString::fromUtf8(OSTRAND_SOURCE_DIR) + u"/resources/skins/Modern/Skin.html"_s);
     if (!file.open(QIODevice::ReadOnly)) {
         std::fprintf(stderr, "bench_skin: %s\n", file.errorString().toUtf8().constData());
         return 2;
     }
     const QString text = QString::fromUtf8(file.readAll());
-    const Times small = Measure(1000, text, tell_statements);
+    if (arguments.contains(u"--pages"_s)) {
+        Page page(kPagesARound, text);
+        for (int i = 0; i < kPagesARound; ++i) {
+            page.Render();
+        }
+        return 0;
+    }
+    const Times small = Measure(1000, text, arguments.contains(u"--statements"_s));
     const Times large = Measure(10000, text, false);
     const double ratio = large.page / large.statements;
     const double growth = large.page / small.page;
@@ -153,5 +179,5 @@ int Main(bool tell_statements) {
 
 int main(int argc, char **argv) {
     const QCoreApplication app(argc, argv);
-    return ostrand::bench::Main(QCoreApplication::arguments().contains(QStringLiteral("--statements")));
+    return ostrand::bench::Main(QCoreApplication::arguments());
 }

@@ -74,23 +74,28 @@ std::vector<TagEnd> TagEnds(QStringView page) {
     return ends;
 }
 
+/// Most values are none of these words, which their lengths tell.
 QString ByRules(QString value) {
-    const QString lower = value.toLower();
-    if (lower == "yes"_L1) {
-        value = u"true"_s;
-    } else if (lower == "no"_L1) {
-        value = u"false"_s;
+    constexpr qsizetype kNo = 2;
+    constexpr qsizetype kYes = 3;
+    constexpr qsizetype kBreak = 5;
+    if (value.size() == kNo && value.toLower() == "no"_L1) {
+        return u"false"_s;
     }
-    return value.toUpper() == "BREAK"_L1 ? u"<br/>"_s : value;
+    if (value.size() == kYes && value.toLower() == "yes"_L1) {
+        return u"true"_s;
+    }
+    return value.size() == kBreak && value.toUpper() == "BREAK"_L1 ? u"<br/>"_s : value;
 }
 
-/// The attribute as it stands; empty without one.
+/// The attribute as it stands; empty without one. Looks at the few equals signs of a tag, since a tag with many
+/// attributes is asked for each of them.
 QStringView RawAttribute(QStringView tag, QStringView name) {
-    for (qsizetype at = tag.indexOf(name, 0, Qt::CaseInsensitive); at >= 0;
-         at = tag.indexOf(name, at + 1, Qt::CaseInsensitive)) {
-        const qsizetype begin = at + name.size() + 2;
-        const bool at_border = at == 0 || !IsWordCharacter(tag[at - 1]);
-        if (!at_border || begin > tag.size() || tag[begin - 2] != u'=' || tag[begin - 1] != u'"') {
+    for (qsizetype equals = tag.indexOf(u'='); equals >= 0; equals = tag.indexOf(u'=', equals + 1)) {
+        const qsizetype at = equals - name.size();
+        const qsizetype begin = equals + 2;
+        if (at < 0 || begin > tag.size() || tag[begin - 1] != u'"' || (at > 0 && IsWordCharacter(tag[at - 1])) ||
+            tag.mid(at, name.size()).compare(name, Qt::CaseInsensitive) != 0) {
             continue;
         }
         const qsizetype end = tag.indexOf(u'"', begin);
@@ -150,7 +155,10 @@ QString GetTagAttribute(const QString &tag, QStringView name, const QString &pre
 }
 
 bool GetTagFlag(const QString &tag, QStringView name, bool preset) {
-    const QString value = GetTagAttribute(tag, name, preset ? u"true"_s : u"false"_s);
+    const QString value = GetTagAttribute(tag, name, {});
+    if (value.isEmpty()) {
+        return preset;
+    }
     const QString trimmed = value.trimmed().toLower();
     if (trimmed == "true"_L1 || trimmed == "false"_L1) {
         return trimmed == "true"_L1;

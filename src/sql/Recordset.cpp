@@ -36,7 +36,8 @@ Kind KindOf(const Value &value) {
 
 int ResultShape::Find(QStringView name) const {
     for (size_t i = 0; i < fields.size(); ++i) {
-        if (name.compare(fields[i].label, Qt::CaseInsensitive) == 0) {
+        const QString &label = fields[i].label;
+        if (label.size() == name.size() && name.compare(label, Qt::CaseInsensitive) == 0) {
             return int(i);
         }
     }
