@@ -61,6 +61,7 @@ SQL
     QT_LOGGING_RULES=ostrand.pages.debug=true timeout --signal=TERM 20 xvfb-run -a -e /dev/stderr bash -c \
         "timeout --foreground --preserve-status --signal=TERM 8 '$programs/ostrand' '$home/sample.mdb'" >"$home/page.log" 2>&1 || status=$?
     [ "$status" -eq 0 ] || { echo "the program ended with status $status"; cat "$home/page.log"; exit 1; }
+    ! grep 'Expect troubles' "$home/page.log" || { echo "the page outlived its profile"; exit 1; }
 }
 show_skin Check
 grep -q 'picture shown' "$home/page.log" || { echo "the page or its picture was not shown"; cat "$home/page.log"; exit 1; }

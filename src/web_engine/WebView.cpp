@@ -114,7 +114,7 @@ WebView::WebView(const WebEngineRules &rules, QWidget *parent) :
 }
 
 WebView::~WebView() {
-    setPage(nullptr); // the page goes before the profile that it lives in
+    delete page(); // before the profile that it lives in
 }
 
 void WebView::Navigate(const QString &url) {
