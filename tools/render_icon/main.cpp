@@ -1,4 +1,5 @@
-// Renders an SVG drawing to a square PNG: render_icon DRAWING.svg PICTURE.png SIZE
+// Renders an SVG drawing to a picture of the kind that its name ends in, square without a height:
+// render_icon DRAWING.svg PICTURE WIDTH [HEIGHT]
 
 #include <QGuiApplication>
 #include <QImage>
@@ -9,13 +10,14 @@ int main(int argc, char **argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication application(argc, argv);
     const QStringList arguments = QGuiApplication::arguments();
-    const int size = arguments.value(3).toInt();
+    const int width = arguments.value(3).toInt();
+    const int height = arguments.size() > 4 ? arguments[4].toInt() : width;
     QSvgRenderer renderer(arguments.value(1));
-    if (size <= 0 || !renderer.isValid()) {
-        qWarning("usage: render_icon DRAWING.svg PICTURE.png SIZE");
+    if (width <= 0 || height <= 0 || !renderer.isValid()) {
+        qWarning("usage: render_icon DRAWING.svg PICTURE WIDTH [HEIGHT]");
         return 1;
     }
-    QImage image(size, size, QImage::Format_ARGB32);
+    QImage image(width, height, QImage::Format_ARGB32);
     image.fill(Qt::transparent);
     QPainter painter(&image);
     renderer.render(&painter);
