@@ -5,6 +5,7 @@
 function SortableTable(table, types) {
   this.table = table;
   this.types = types;
+  this.rows = Array.prototype.slice.call(table.tBodies[0].rows);
   this.column = -1;
   this.descending = false;
   this.onsort = null;
@@ -24,17 +25,16 @@ function SortableTable(table, types) {
 
 /** Without an order, ascending; where the table is in that order already, descending. */
 SortableTable.prototype.sort = function (column, descending, type) {
-  var body = this.table.tBodies[0], rows = Array.prototype.slice.call(body.rows), turned = this.column === column;
+  var turned = this.column === column;
   if (descending === undefined || descending === null) { descending = turned && !this.descending; }
   if (turned) {
-    if (descending !== this.descending) { rows.reverse(); }
+    if (descending !== this.descending) { this.rows.reverse(); }
   } else {
-    rows = site.sorted(rows, column, type || this.types[column]);
-    if (descending) { rows.reverse(); }
+    this.rows = site.sorted(this.rows, column, type || this.types[column]);
+    if (descending) { this.rows.reverse(); }
   }
   this.column = column;
   this.descending = Boolean(descending);
-  for (var i = 0; i < rows.length; i++) { body.appendChild(rows[i]); }
   this.mark();
   if (this.onsort) { this.onsort(this.table); }
 };
@@ -50,18 +50,8 @@ SortableTable.prototype.mark = function () {
   }
 };
 
-/** Every other row that shows stands out. */
-function colourTables(table) {
-  var tables = table && table.tBodies ? [table] : document.querySelectorAll('.listing > table');
-  for (var i = 0; i < tables.length; i++) {
-    var rows = tables[i].tBodies[0].rows, odd = false;
-    for (var j = 0; j < rows.length; j++) {
-      if (rows[j].hidden) { continue; }
-      odd = !odd;
-      if (rows[j].classList.contains('odd') !== odd) { rows[j].classList.toggle('odd', odd); }
-    }
-  }
-}
+/** Shows the rows of a table that the search leaves, in their order, every other one in another colour. */
+function colourTables(table) { site.showRows(table); }
 
 /** Shows the list of a collection. */
 function changetab(number) { site.showTab(number, true); }
@@ -186,11 +176,106 @@ site.frames = function (tabs) {
   follow();
 };
 
+// The rows of a table: those near to what is seen are in the page, blank rows keep the place of the others. A list of
+// ten thousand titles is as quick as one of a hundred.
+site.makeView = function (table, prepare) {
+  var kMargin = 40, body = table.tBodies[0], above = blank(), below = blank(), shown = [], from = 0, to = 0, height = 0;
+
+  function blank() {
+    var row = document.createElement('tr');
+    row.className = 'space';
+    row.setAttribute('aria-hidden', 'true');
+    row.appendChild(document.createElement('td')).colSpan = 3;
+    return row;
+  }
+  function insert(first, last, before) {
+    var part = document.createDocumentFragment();
+    for (var i = first; i < last; i++) {
+      prepare(shown[i]);
+      shown[i].className = i % 2 === 0 ? 'odd' : '';
+      part.appendChild(shown[i]);
+    }
+    body.insertBefore(part, before);
+  }
+  function remove(first, last) {
+    for (var i = first; i < last; i++) { if (shown[i].parentNode === body) { body.removeChild(shown[i]); } }
+  }
+  function keepPlace() {
+    above.firstChild.style.height = from * height + 'px';
+    below.firstChild.style.height = (shown.length - to) * height + 'px';
+    above.hidden = from === 0;
+    below.hidden = to === shown.length;
+  }
+  function top() { return body.getBoundingClientRect().top + window.scrollY; }
+  function measure() {
+    var count = Math.min(shown.length, 30), rows = body.rows;
+    if (count && table.style.display !== 'none') {
+      height = (rows[count].getBoundingClientRect().bottom - rows[1].getBoundingClientRect().top) / count || 30;
+    }
+  }
+  function range() {
+    var first = Math.floor((window.scrollY - top()) / height), last = first + Math.ceil(window.innerHeight / height);
+    return [Math.max(0, Math.min(first - kMargin, shown.length)), Math.max(0, Math.min(last + kMargin, shown.length))];
+  }
+  /** Rows that stay are left alone, since one of them may be in use. */
+  function draw() {
+    if (!height || table.style.display === 'none') { return; }
+    var next = range();
+    if (Math.abs(next[0] - from) < kMargin / 2 && Math.abs(next[1] - to) < kMargin / 2 &&
+        (next[0] > 0 || from === 0) && (next[1] < shown.length || to === shown.length)) { return; }
+    if (next[0] >= to || next[1] <= from) {
+      remove(from, to);
+      insert(next[0], next[1], below);
+    } else {
+      remove(from, next[0]);
+      remove(next[1], to);
+      insert(next[0], from, above.nextSibling);
+      insert(to, next[1], below);
+    }
+    from = next[0];
+    to = next[1];
+    keepPlace();
+  }
+  function all() {
+    remove(from, to);
+    insert(0, shown.length, below);
+    from = 0;
+    to = shown.length;
+    keepPlace();
+  }
+
+  return {
+    table: table,
+    show: function (rows) {
+      body.textContent = '';
+      shown = rows;
+      from = 0;
+      to = Math.min(shown.length, 3 * kMargin);
+      body.appendChild(above);
+      body.appendChild(below);
+      insert(from, to, below);
+      measure();
+      keepPlace();
+      table.setAttribute('aria-rowcount', shown.length);
+      draw();
+    },
+    draw: draw,
+    all: all,
+    /** Brings a row into the page and into sight. */
+    reveal: function (row) {
+      var place = shown.indexOf(row);
+      if (place < 0) { return; }
+      if (place < from || place >= to) { window.scrollTo(0, top() + place * height - window.innerHeight / 3); }
+      draw();
+    }
+  };
+};
+
 // The list: tabs, search, covers, the titles of a person.
 site.list = function (sortByTitles) {
   var tables = document.querySelectorAll('.listing > table'), tabs = site.byId('tabs').children, search = site.byId('search');
   var found = site.byId('found'), people = site.byId('people'), active = -1, titles = null, index = null, timer = 0;
-  var pageRows = null, waiting = null, covers = null;
+  var currentLink = null, waiting = null, covers = null, views = [];
   site.isList = true;
 
   // What is remembered belongs to this copy of the site.
@@ -221,7 +306,6 @@ site.list = function (sortByTitles) {
     active = number;
     if (byHand) { people.hidden = true; site.remember(); }
     filter();
-    addCovers();
   };
   function makeTabs() {
     site.byId('tabs').setAttribute('role', 'tablist');
@@ -245,25 +329,20 @@ site.list = function (sortByTitles) {
 
   // Search in titles: the texts of a table are folded once.
   function fold(text) { return text.normalize('NFD').replace(/[\u0300-\u036f]/g, '').toLowerCase(); }
-  function foldedRows(table) {
-    if (!table.folded) {
-      table.folded = Array.prototype.map.call(table.tBodies[0].rows, function (row) {
-        return { row: row, text: fold(row.cells[0].textContent + ' ' + row.cells[1].textContent) };
-      });
-    }
-    return table.folded;
+  function foldedText(row) {
+    if (row.folded === undefined) { row.folded = fold(row.cells[0].textContent + ' ' + row.cells[1].textContent); }
+    return row.folded;
   }
-  function filter() {
-    var table = tables[active], words = fold(search.value).split(/\s+/).filter(Boolean), count = 0;
-    if (!table) { return; }
-    foldedRows(table).forEach(function (entry) {
-      var hidden = !words.every(function (word) { return entry.text.indexOf(word) >= 0; });
-      count += hidden ? 0 : 1;
-      if (entry.row.hidden !== hidden) { entry.row.hidden = hidden; }
+  site.showRows = function (table) {
+    var number = Array.prototype.indexOf.call(tables, table), words = fold(search.value).split(/\s+/).filter(Boolean);
+    if (number !== active || !views[number]) { return; } // shown once its tab is
+    var rows = objectOf(table).rows.filter(function (row) {
+      return words.every(function (word) { return foldedText(row).indexOf(word) >= 0; });
     });
-    found.textContent = count + (count === 1 ? ' title' : ' titles');
-    colourTables(table);
-  }
+    found.textContent = rows.length + (rows.length === 1 ? ' title' : ' titles');
+    views[number].show(rows);
+  };
+  function filter() { colourTables(tables[active]); }
   function onSearch() {
     filter();
     if (search.value.trim().length >= 2) { loadIndex(); showPeople(); } else { people.hidden = true; }
@@ -327,9 +406,13 @@ site.list = function (sortByTitles) {
   function linkedTitles() {
     if (!titles) {
       titles = {};
-      Array.prototype.forEach.call(document.querySelectorAll('.listing a'), function (link) {
-        var key = keyOf(link.getAttribute('href'));
-        if (!titles[key]) { titles[key] = link; }
+      Array.prototype.forEach.call(tables, function (table) {
+        objectOf(table).rows.forEach(function (row) {
+          Array.prototype.forEach.call(row.querySelectorAll('a'), function (link) {
+            var key = keyOf(link.getAttribute('href'));
+            if (!titles[key]) { titles[key] = { link: link, row: row, table: table }; }
+          });
+        });
       });
     }
     return titles;
@@ -341,7 +424,7 @@ site.list = function (sortByTitles) {
   function showTitlesOf(person) {
     var seen = {}, links = linkedTitles(), entries = [];
     person.keys.forEach(function (key) {
-      if (links[key] && !seen[key]) { seen[key] = true; entries.push({ key: key, link: links[key] }); }
+      if (links[key] && !seen[key]) { seen[key] = true; entries.push({ key: key, link: links[key].link }); }
     });
     clear(people);
     people.hidden = false;
@@ -356,9 +439,7 @@ site.list = function (sortByTitles) {
     var list = add(people, 'ul');
     list.className = 'titles';
     entries.forEach(function (entry) {
-      var link = entry.link.cloneNode(true);
-      Array.prototype.forEach.call(link.querySelectorAll('img'), function (image) { image.remove(); });
-      var item = add(list, 'li'), cover = covers && covers[entry.key] && covers[entry.key][0];
+      var link = entry.link.cloneNode(true), item = add(list, 'li'), cover = covers && covers[entry.key] && covers[entry.key][0];
       if (cover) { thumbnail(item, cover); }
       item.appendChild(link);
       if (covers && covers[entry.key] && covers[entry.key][1]) { add(item, 'span', ' ' + covers[entry.key][1]); }
@@ -367,7 +448,7 @@ site.list = function (sortByTitles) {
     heading.focus();
   }
 
-  // Covers appear with the rows that are in sight.
+  // Covers come with the rows that are near to what is seen, and box sets learn to fold.
   function thumbnail(parent, source) {
     var image = document.createElement('img');
     image.className = 'thumb';
@@ -376,61 +457,55 @@ site.list = function (sortByTitles) {
     image.src = source;
     parent.insertBefore(image, parent.firstChild);
   }
-  var sight = window.IntersectionObserver && new IntersectionObserver(function (entries) {
-    entries.forEach(function (entry) {
-      if (!entry.isIntersecting) { return; }
-      sight.unobserve(entry.target);
-      var link = entry.target.querySelector('a'), cover = link && covers[keyOf(link.getAttribute('href'))];
-      if (cover && cover[0]) { thumbnail(entry.target.cells[0], cover[0]); }
-    });
-  }, { rootMargin: '300px' });
   window.siteTitles = function (entries) {
     covers = entries;
     for (var key in covers) { if (covers[key][0]) { document.body.classList.add('covers'); break; } }
-    addCovers();
+    if (active >= 0) { filter(); }
   };
-  function addCovers() {
-    var table = tables[active];
-    if (!table || !covers || !sight || table.watched || !document.body.classList.contains('covers')) { return; }
-    table.watched = true;
-    Array.prototype.forEach.call(table.tBodies[0].rows, function (row) { sight.observe(row); });
+  function prepare(row) {
+    var link = row.cells[0].querySelector('a'), cover = link && covers && covers[keyOf(link.getAttribute('href'))];
+    if (cover && cover[0] && !row.hasCover) {
+      row.hasCover = true;
+      thumbnail(row.cells[0], cover[0]);
+    }
+    if (!row.folds) {
+      row.folds = true;
+      Array.prototype.forEach.call(row.querySelectorAll('.boxset'), addTwisty);
+    }
   }
-
-  // Box sets fold.
-  function makeTwisties() {
-    Array.prototype.forEach.call(document.querySelectorAll('.boxset'), function (set) {
-      var inner = set.querySelector('ul');
-      if (!inner) { return; }
-      var button = document.createElement('button'), image = add(button, 'img');
-      button.type = 'button';
-      button.className = 'twisty';
-      image.alt = '';
-      function show(open) {
-        inner.hidden = !open;
-        image.src = 'Images/twisty-' + (open ? 'open' : 'clsd') + '.png';
-        button.setAttribute('aria-expanded', open);
-        button.setAttribute('aria-label', open ? 'Hide the titles of this box set' : 'Show the titles of this box set');
-      }
-      button.onclick = function () { show(inner.hidden); };
-      show(false);
-      set.insertBefore(button, set.firstChild);
-    });
+  function addTwisty(set) {
+    var inner = set.querySelector('ul');
+    if (!inner) { return; }
+    var button = document.createElement('button'), image = add(button, 'img');
+    button.type = 'button';
+    button.className = 'twisty';
+    image.alt = '';
+    function show(open) {
+      inner.hidden = !open;
+      image.src = 'Images/twisty-' + (open ? 'open' : 'clsd') + '.png';
+      button.setAttribute('aria-expanded', open);
+      button.setAttribute('aria-label', open ? 'Hide the titles of this box set' : 'Show the titles of this box set');
+    }
+    button.onclick = function () { show(inner.hidden); };
+    show(false);
+    set.insertBefore(button, set.querySelector('a'));
   }
 
   // The title that is shown beside the list.
   function markCurrent(path) {
-    var key = keyOf(path), link = linkedTitles()[key];
-    if (pageRows) { pageRows.removeAttribute('aria-current'); }
-    pageRows = link || null;
-    if (!link) { return; }
-    link.setAttribute('aria-current', 'page');
-    var table = link.closest('table');
-    for (var i = 0; i < tables.length; i++) {
-      if (tables[i] === table && i !== active) { site.showTab(i, true); }
+    var entry = linkedTitles()[keyOf(path)];
+    if (currentLink) { currentLink.removeAttribute('aria-current'); }
+    currentLink = entry ? entry.link : null;
+    if (!entry) { return; }
+    currentLink.setAttribute('aria-current', 'page');
+    var number = Array.prototype.indexOf.call(tables, entry.table);
+    if (number !== active) { site.showTab(number, true); }
+    views[number].reveal(entry.row);
+    prepare(entry.row);
+    for (var set = currentLink.closest('ul'); set; set = set.parentNode.closest('ul')) {
+      if (set.hidden) { set.parentNode.querySelector('.twisty').click(); }
     }
-    var inner = link.closest('ul');
-    if (inner && inner.hidden) { inner.parentNode.querySelector('.twisty').click(); }
-    link.scrollIntoView({ block: 'nearest' });
+    currentLink.scrollIntoView({ block: 'nearest' });
   }
 
   site.byId('reset').onclick = function () {
@@ -450,8 +525,14 @@ site.list = function (sortByTitles) {
     if (event.key === 'Escape' && document.activeElement === search) { search.value = ''; onSearch(); }
   });
 
+  function drawActive() { if (views[active]) { views[active].draw(); } }
+  window.addEventListener('scroll', drawActive, { passive: true });
+  window.addEventListener('resize', drawActive);
+  window.addEventListener('beforeprint', function () { if (views[active]) { views[active].all(); } });
+  window.addEventListener('afterprint', filter);
+
   makeTabs();
-  makeTwisties();
+  views = Array.prototype.map.call(tables, function (table) { return site.makeView(table, prepare); });
   var before = recall();
   site.showTab(before.tab >= 0 && before.tab < tables.length ? before.tab : 0, false);
   if (before.column >= 0 && objectOf(tables[active])) { objectOf(tables[active]).sort(before.column, before.descending); }
