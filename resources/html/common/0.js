@@ -74,7 +74,7 @@ function displayCrossLink(person) {
 var site = (function () {
   var tabCount = Number('%CollectionTypeNumer%') || 0;
 
-  // Sorts each table anew in the direction that it has.
+  // Sorts each table anew in the direction that it has; for pages that show the list in a window of their own.
   function resort(window) {
 %CollectionTypes%
   }
@@ -185,7 +185,7 @@ site.makeView = function (table, prepare) {
     var row = document.createElement('tr');
     row.className = 'space';
     row.setAttribute('aria-hidden', 'true');
-    row.appendChild(document.createElement('td')).colSpan = 3;
+    row.appendChild(document.createElement('td')).colSpan = 2; // the third one is hidden
     return row;
   }
   function insert(first, last, before) {
@@ -295,7 +295,7 @@ site.list = function (sortByTitles) {
 
   // Tabs.
   site.showTab = function (number, byHand) {
-    if (number < 0 || number >= tables.length) { return; }
+    if (number < 0 || number >= Math.min(site.tabCount, tables.length)) { return; }
     for (var i = 0; i < tables.length; i++) {
       tables[i].style.display = i === number ? '' : 'none';
       if (tabs[i]) {
