@@ -367,6 +367,16 @@ TEST_F(HeaderVars, TellTheFormats) {
         Run(u"UPDATE VideoFormat SET AspectRatio = '"_s + ratio + u'\'');
         EXPECT_EQ(ValueOf(DPVars(), u"DP_AspectRatio"_s), u"1"_s) << ratio.toStdString();
     }
+    for (const auto &[ratio, value] : {std::pair{u"2.40"_s, u"2.40"_s},
+                                       {u".5"_s, u".5"_s},
+                                       {u"0.5"_s, u"0.5"_s},
+                                       {u"0"_s, u"0"_s},
+                                       {u"01.8"_s, u"1.8"_s}, // no number of a script
+                                       {u"010"_s, u"10"_s},   // another one there
+                                       {u"-010"_s, u"-10"_s}}) {
+        Run(u"UPDATE VideoFormat SET AspectRatio = '"_s + ratio + u'\'');
+        EXPECT_EQ(ValueOf(DPVars(), u"DP_AspectRatio"_s), value) << ratio.toStdString();
+    }
 }
 
 struct FeatureName {
