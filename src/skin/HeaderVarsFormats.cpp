@@ -47,11 +47,18 @@ const FeatureFlag *FindFeature(const QString &feature) {
     return nullptr;
 }
 
-/// The text itself where a script can read it as a number.
+/// The text itself where a script reads it as the same number.
 QString AspectRatio(const QString &text) {
     bool is_number = false;
-    text.toDouble(&is_number);
-    return is_number && !text.contains(u'n', Qt::CaseInsensitive) ? text : u"1"_s;
+    const double ratio = text.toDouble(&is_number);
+    if (!is_number || text.contains(u'n', Qt::CaseInsensitive)) {
+        return u"1"_s;
+    }
+    // Scripts read digits behind a zero as octal ones, or not at all.
+    const QString trimmed = text.trimmed();
+    const qsizetype first = trimmed.startsWith(u'+') || trimmed.startsWith(u'-') ? 1 : 0;
+    const bool has_idle_zero = trimmed.size() > first + 1 && trimmed[first] == u'0' && trimmed[first + 1].isDigit();
+    return has_idle_zero ? QString::number(ratio) : text;
 }
 
 } // namespace

@@ -194,6 +194,18 @@ TEST_F(HeaderVars, TellTheGeneralInformation) {
                            u"\tvar DP_SRP = \"kr149.5\";"_s}));
 }
 
+TEST_F(HeaderVars, NameTheCoversAsTheirFilesAreNamed) {
+    for (const auto &[key, cover] : {std::pair{u"Key_osv-7"_s, u"osv-7"_s},
+                                     {u"Key_Moss: Who?Key_1/2"_s, u"Moss - Who12"_s},
+                                     {u"M_Moss*1"_s, u"M_Moss1"_s}}) {
+        profile_id = key;
+        AddProfile();
+        const QString text = DPVars();
+        EXPECT_EQ(ValueOf(text, u"DP_ImageFileFront"_s), u'"' + cover + u"f.jpg\""_s) << key.toStdString();
+        EXPECT_EQ(ValueOf(text, u"DP_ImageFileBack"_s), u'"' + cover + u"b.jpg\""_s) << key.toStdString();
+    }
+}
+
 TEST_F(HeaderVars, HaveTheirValuesForNothing) {
     AddProfile();
     const QString text = DPVars();
@@ -354,6 +366,16 @@ TEST_F(HeaderVars, TellTheFormats) {
     for (const QString &ratio : {u"x();"_s, u"nan"_s, u"inf"_s, u"2,35"_s, u"1:1"_s}) { // would end the script
         Run(u"UPDATE VideoFormat SET AspectRatio = '"_s + ratio + u'\'');
         EXPECT_EQ(ValueOf(DPVars(), u"DP_AspectRatio"_s), u"1"_s) << ratio.toStdString();
+    }
+    for (const auto &[ratio, value] : {std::pair{u"2.40"_s, u"2.40"_s},
+                                       {u".5"_s, u".5"_s},
+                                       {u"0.5"_s, u"0.5"_s},
+                                       {u"0"_s, u"0"_s},
+                                       {u"01.8"_s, u"1.8"_s}, // no number of a script
+                                       {u"010"_s, u"10"_s},   // another one there
+                                       {u"-010"_s, u"-10"_s}}) {
+        Run(u"UPDATE VideoFormat SET AspectRatio = '"_s + ratio + u'\'');
+        EXPECT_EQ(ValueOf(DPVars(), u"DP_AspectRatio"_s), value) << ratio.toStdString();
     }
 }
 
