@@ -265,6 +265,13 @@ TEST_F(HeaderVars, HaveTheirValuesForNothing) {
     EXPECT_TRUE(text.contains(u"\tvar DP_Discs =  new Array(0);\r\n"_s));
 }
 
+TEST_F(HeaderVars, NameTheCoversAsTheirFilesAreNamed) {
+    profile_id = u"Key_own: 1/2 it's?"_s;
+    Run(u"INSERT INTO Profiles (ProfileID, Title) VALUES ('"_s + EscapeSql(profile_id) + u"', 'x')"_s);
+    EXPECT_EQ(ValueOf(DPVars(), u"DP_ImageFileFront"_s), u"\"own - 12 it\\'sf.jpg\""_s);
+    EXPECT_EQ(ValueOf(DPVars(), u"DP_ImageFileBack"_s), u"\"own - 12 it\\'sb.jpg\""_s);
+}
+
 TEST_F(HeaderVars, TellRegionsByMedium) {
     const struct {
         const char *name;
