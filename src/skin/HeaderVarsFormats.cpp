@@ -2,6 +2,8 @@
 
 #include "base/Text.h"
 
+#include <QRegularExpression>
+
 namespace ostrand {
 
 namespace {
@@ -47,18 +49,11 @@ const FeatureFlag *FindFeature(const QString &feature) {
     return nullptr;
 }
 
-/// The text itself where a script reads it as the same number.
+/// The text as a script can read it as a number: a leading zero would make an octal number of it, or none at all.
 QString AspectRatio(const QString &text) {
-    bool is_number = false;
-    const double ratio = text.toDouble(&is_number);
-    if (!is_number || text.contains(u'n', Qt::CaseInsensitive)) {
-        return u"1"_s;
-    }
-    // Scripts read digits behind a zero as octal ones, or not at all.
-    const QString trimmed = text.trimmed();
-    const qsizetype first = trimmed.startsWith(u'+') || trimmed.startsWith(u'-') ? 1 : 0;
-    const bool has_idle_zero = trimmed.size() > first + 1 && trimmed[first] == u'0' && trimmed[first + 1].isDigit();
-    return has_idle_zero ? QString::number(ratio) : text;
+    static const QRegularExpression kNumber(uR"(^(?:0+(?=\d))?(\d+\.?\d*|\.\d+)$)"_s);
+    const QRegularExpressionMatch match = kNumber.match(text.trimmed());
+    return match.hasMatch() ? match.captured(1) : u"1"_s;
 }
 
 } // namespace

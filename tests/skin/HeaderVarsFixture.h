@@ -23,8 +23,8 @@ protected:
     void Run(const QString &statement) { session.Database->Execute(statement); }
     /// A profile; `columns` and `values` as in an INSERT, each with a comma in front.
     void AddProfile(const QString &columns = {}, const QString &values = {}) {
-        Run(QStringLiteral("INSERT INTO Profiles (ProfileID, Title") + columns + QStringLiteral(") VALUES ('") +
-            profile_id + QStringLiteral("', 'The Kite'") + values + u')');
+        Run(QStringLiteral("INSERT INTO Profiles (ProfileID, Title") + columns +
+            QStringLiteral(") VALUES ('Key_100.4', 'The Kite'") + values + u')');
     }
     void AddEpisode(const QString &columns = {}, const QString &values = {}) {
         Run(QStringLiteral("INSERT INTO TVSeries (SeriesID, OriginalTitle, Title) VALUES ('S1', 'Moss', 'Moss DE')"));
@@ -36,7 +36,7 @@ protected:
         const QString statement =
             is_episode ? QStringLiteral("SELECT *, EpisodeTitle as [Title], EpisodeOriginalTitle as [OriginalTitle], "
                                         "AirDate as [Released] FROM Episodes WHERE EpisodeID = 'E1'")
-                       : QStringLiteral("SELECT * FROM Profiles WHERE ProfileID = '") + profile_id + u'\'';
+                       : QStringLiteral("SELECT * FROM Profiles WHERE ProfileID = '") + EscapeSql(profile_id) + u'\'';
         const sql::Recordset row = session.Database->OpenRecordset(statement);
         QString text;
         producer({.session = session,
@@ -81,7 +81,7 @@ protected:
     Session session{services.services};
     SkinState skin;
     RenderOptions options;
-    /// Without quotes.
+    /// Whose variables are read.
     QString profile_id = QStringLiteral("Key_100.4");
 };
 

@@ -363,20 +363,37 @@ TEST_F(HeaderVars, TellTheFormats) {
     Run(u"UPDATE VideoFormat SET VideoStandard = 'SECAM'"_s);
     EXPECT_EQ(ValueOf(DPVars(), u"DP_VideoStandardNTSC"_s), u"false"_s);
     EXPECT_EQ(ValueOf(DPVars(), u"DP_VideoStandardPAL"_s), u"false"_s);
-    for (const QString &ratio : {u"x();"_s, u"nan"_s, u"inf"_s, u"2,35"_s, u"1:1"_s}) { // would end the script
-        Run(u"UPDATE VideoFormat SET AspectRatio = '"_s + ratio + u'\'');
-        EXPECT_EQ(ValueOf(DPVars(), u"DP_AspectRatio"_s), u"1"_s) << ratio.toStdString();
+    const struct {
+        QString text, number;
+    } ratios[] = {
+        {u"2.35"_s, u"2.35"_s},
+        {u"1"_s, u"1"_s},
+        {u"16"_s, u"16"_s},
+        {u".85"_s, u".85"_s},
+        {u"0.85"_s, u"0.85"_s},
+        {u"2."_s, u"2."_s},
+        {u"0"_s, u"0"_s},
+        {u" 1.9"_s, u"1.9"_s},
+        // What is no number of a script, or another one than it looks, would end the script or mislead it.
+        {u"01.8"_s, u"1.8"_s},
+        {u"012"_s, u"12"_s},
+        {u"000"_s, u"0"_s},
+        {u"x();"_s, u"1"_s},
+        {u"nan"_s, u"1"_s},
+        {u"inf"_s, u"1"_s},
+        {u"2,35"_s, u"1"_s},
+        {u"1:1"_s, u"1"_s},
+        {u"."_s, u"1"_s},
+        {u"1.2."_s, u"1"_s},
+        {u""_s, u"1"_s},
+        {u"\u0662"_s, u"1"_s},
+    };
+    for (const auto &row : ratios) {
+        Run(u"UPDATE VideoFormat SET AspectRatio = '"_s + row.text + u'\'');
+        EXPECT_EQ(ValueOf(DPVars(), u"DP_AspectRatio"_s), row.number) << row.text.toStdString();
     }
-    for (const auto &[ratio, value] : {std::pair{u"2.40"_s, u"2.40"_s},
-                                       {u".5"_s, u".5"_s},
-                                       {u"0.5"_s, u"0.5"_s},
-                                       {u"0"_s, u"0"_s},
-                                       {u"01.8"_s, u"1.8"_s}, // no number of a script
-                                       {u"010"_s, u"10"_s},   // another one there
-                                       {u"-010"_s, u"-10"_s}}) {
-        Run(u"UPDATE VideoFormat SET AspectRatio = '"_s + ratio + u'\'');
-        EXPECT_EQ(ValueOf(DPVars(), u"DP_AspectRatio"_s), value) << ratio.toStdString();
-    }
+    Run(u"UPDATE VideoFormat SET AspectRatio = NULL"_s);
+    EXPECT_EQ(ValueOf(DPVars(), u"DP_AspectRatio"_s), u"1"_s);
 }
 
 struct FeatureName {
