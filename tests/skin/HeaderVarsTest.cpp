@@ -197,9 +197,10 @@ TEST_F(HeaderVars, TellTheGeneralInformation) {
 TEST_F(HeaderVars, NameTheCoversAsTheirFilesAreNamed) {
     for (const auto &[key, cover] : {std::pair{u"Key_osv-7"_s, u"osv-7"_s},
                                      {u"Key_Moss: Who?Key_1/2"_s, u"Moss - Who12"_s},
+                                     {u"Key_own: 1/2 it's?"_s, u"own - 12 it\\'s"_s},
                                      {u"M_Moss*1"_s, u"M_Moss1"_s}}) {
         profile_id = key;
-        AddProfile();
+        Run(u"INSERT INTO Profiles (ProfileID, Title) VALUES ('"_s + EscapeSql(key) + u"', 'x')"_s);
         const QString text = DPVars();
         EXPECT_EQ(ValueOf(text, u"DP_ImageFileFront"_s), u'"' + cover + u"f.jpg\""_s) << key.toStdString();
         EXPECT_EQ(ValueOf(text, u"DP_ImageFileBack"_s), u'"' + cover + u"b.jpg\""_s) << key.toStdString();
