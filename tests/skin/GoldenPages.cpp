@@ -74,8 +74,9 @@ GoldenCollection::GoldenCollection() {
     skin.ActiveSkin = u"Harbour \"1\""_s;
     for (const QString &file :
          {u"my covers/0012345678905.4f.jpg"_s, u"my covers/0012345678905.4b.jpg"_s, u"my covers/0012345678905.4s.jpg"_s,
-          u"my covers/O'Hara-7f.jpg"_s, u"my covers/OSV17f.jpg"_s, u"my covers/4012345678901f.jpg"_s,
-          u"heads/Mara Liv Okonski(1951).jpg"_s, u"heads/Siobhan O'Marra.jpg"_s, u"heads/Teld.jpg"_s}) {
+          u"my covers/O'Hara-7f.jpg"_s, u"my covers/OSV17f.jpg"_s, u"my covers/osv 21f.jpg"_s,
+          u"my covers/4012345678901f.jpg"_s, u"heads/Mara Liv Okonski(1951).jpg"_s, u"heads/Siobhan O'Marra.jpg"_s,
+          u"heads/Teld.jpg"_s}) {
         folder.Write(file, "picture");
     }
     RunStatements(session_, ReadGolden(u"collection.sql"_s));

@@ -11,6 +11,9 @@ INSERT INTO BoxSet (ChildID, BoxSetID) VALUES ('Key_O''Hara-7', 'Key_40123456789
 INSERT INTO Profiles (ProfileID, Title) VALUES ('Key_OSV17', '');
 -- A season, with two episodes: one with everything, one with its key alone.
 INSERT INTO Profiles (ProfileID, Title, SortTitle, ColType, UPC, ProdYear, Runtime, Medium) VALUES ('Key_5.TV', 'Tideline: Season 1', 'Tideline 1', 'Sold & Gone', '5-55555-55555-5', 2004, 0, 'VHS');
+-- In the box of the season: made with this program, and with an original title alone.
+INSERT INTO Profiles (ProfileID, Title, OriginalTitle, SortTitle, Description) VALUES ('Key_osv 21', '', 'Flutkarte', 'Flutkarte', 'A "map"');
+INSERT INTO BoxSet (ChildID, BoxSetID) VALUES ('Key_osv 21', 'Key_5.TV');
 INSERT INTO TVSeries (SeriesID, OriginalTitle, Title, SortTitle) VALUES ('S1', 'Gezeiten', 'Tideline', 'Tideline');
 INSERT INTO Episodes (EpisodeID, SeriesID, Season, EpisodeNo, EpisodeTitle, EpisodeOriginalTitle, AirDate, Runtime, Rating, RatingSystem, RatingDetails, Overview, Notes) VALUES ('OSVE''1', 'S1', '1', '1', 'Low "Water"', 'Niedrigwasser', #2004-10-05#, 45, 'TV-14', 'Board & Co', 'damp', 'Rain.' & Chr(13) & Chr(10) & '<b>Wind</b>.', 'See ../a.txt');
 INSERT INTO Episodes (EpisodeID, SeriesID, Season) VALUES ('Key_OSVE 2', 'S0', '1');
