@@ -107,7 +107,12 @@ QString GoldenCollection::RenderPart(const GoldenPart &part) {
 
 /// The options are called as in the program.
 void GoldenCollection::Apply(const QStringList &words) {
-    const auto is_on = [&](const QString &word) { return words.contains(word); };
+    qsizetype known = 0;
+    const auto is_on = [&](const QString &word) {
+        const bool on = words.contains(word);
+        known += on ? 1 : 0;
+        return on;
+    };
     options_ = {.offline = is_on(u"offline"_s),
                 .opUseMyProfilerScans = is_on(u"opUseMyProfilerScans"_s),
                 .opUseCoverScansLocally = is_on(u"opUseCoverScansLocally"_s),
@@ -123,16 +128,17 @@ void GoldenCollection::Apply(const QStringList &words) {
     session_.view.mUseCustomTitle = is_on(u"mUseCustomTitle"_s);
     session_.DecimalSeparator = is_on(u"comma"_s) ? u","_s : u"."_s;
     scripted_.locale.default_language = is_on(u"fi-FI"_s) ? u"fi-FI"_s : u"pt-BR"_s;
+    back_profile_id_ = is_on(u"back"_s) ? u"Key_4012345678901"_s : QString();
+    EXPECT_EQ(known, words.size()) << qPrintable(words.join(u", "_s)) << " hold an unknown one";
 }
 
 QString GoldenCollection::Page(const QStringList &words, const QString &page) {
     const bool is_episode = words.value(0) == "episode"_L1;
     EXPECT_TRUE(is_episode || words.value(0) == "profile"_L1) << qPrintable(words.join(u", "_s));
-    const QString back = words.contains(u"back"_s) ? u"Key_4012345678901"_s : QString();
     try {
         const sql::Recordset row = OpenSkinRow(session_, words.value(1), is_episode);
         EXPECT_FALSE(row.Eof()) << qPrintable(words.join(u", "_s));
-        return RenderSkinText(session_, skin, page, row, is_episode, back, options_);
+        return RenderSkinText(session_, skin, page, row, is_episode, back_profile_id_, options_);
     } catch (const SkinFailure &failure) {
         return u"--- no page: "_s + failure.Text();
     }

@@ -61,6 +61,7 @@ private:
                        scripted_.keyboard, scripted_.opener,   scripted_.images};
     Session session_{services_};
     RenderOptions options_;
+    QString back_profile_id_;
     QStringList asked_;
 };
 
