@@ -165,7 +165,7 @@ bool GetTagFlag(const QString &tag, QStringView name, bool preset) {
     }
     bool numeric = false;
     const double number = trimmed.toDouble(&numeric);
-    if (!numeric) {
+    if (!numeric || !std::isfinite(number)) {
         throw SkinFailure(u"Type mismatch: %1=\"%2\""_s.arg(name, value));
     }
     return number != 0;

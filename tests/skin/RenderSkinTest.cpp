@@ -90,6 +90,52 @@ TEST_F(RenderSkin, FailsWithATagThatIsNotGuarded) {
     EXPECT_EQ(Page(u"<DP NAME=\"SKIN_NAME\">"_s, u"Key_none"_s), u"Plain"_s) << "and this one needs none";
 }
 
+TEST_F(RenderSkin, AGuardedTagThatFailsIsEmptyAndToldByItsTitle) {
+    const struct {
+        QString tag, title;
+        QString table = {}; ///< that is missing
+    } cases[] = {
+        {u"TITLE\" ShowTitle=\"perhaps"_s, u"TITLE"_s},
+        {u"ORIGINAL_TITLE\" ShowDesc=\"perhaps"_s, u"ORIGINAL_TITLE"_s},
+        {u"ORIGINAL_SORTTITLE\" UseSortTitleIfBlank=\"perhaps"_s, u"ORIGINALTITLE"_s},
+        {u"CUSTOM_TITLE\" UseTitleIfBlank=\"perhaps"_s, u"CUSTOM_TITLE"_s},
+        {u"RATING\" ShowDetails=\"perhaps"_s, u"RATING"_s},
+        {u"ACTORS\" ShowRoles=\"perhaps"_s, u"CAST"_s},
+        {u"DIRECTORS\" ShowRoles=\"perhaps"_s, u"CREW_Direction"_s},
+        {u"CREW\" ShowRoles=\"perhaps\" Category=\"Head"_s, u"CREW_Head"_s},
+        {u"CREW\" ShowRoles=\"perhaps"_s, u"CREW_"_s},
+        {u"UPC\" Formatted=\"perhaps"_s, u"UPC"_s},
+        {u"RUNTIME\" MinsOnly=\"perhaps"_s, u"RUNTIME"_s},
+        {u"REGION"_s, u"REGIONS"_s, u"Regions"_s},
+        {u"REGIONS"_s, u"REGIONS"_s, u"Regions"_s},
+        {u"SRP"_s, u"SRP"_s, u"SRPInfo"_s},
+        {u"RELDATE\" YearOnly=\"perhaps"_s, u"RELEASEDATE"_s},
+        {u"SIDES"_s, u"SIDES_LAYERS"_s, u"Discs"_s},
+        {u"LAYERS"_s, u"SIDES_LAYERS"_s, u"Discs"_s},
+        {u"VIDFORMATS\" Ratios=\"perhaps"_s, u"VIDFORMATS"_s},
+        {u"AUDIOTRACKS\" Translate=\"perhaps"_s, u"AUDIOTRACKS"_s},
+        {u"BOXSETCONTENTS\" ShowUPCs=\"perhaps"_s, u"BOXSETCONTENTS"_s},
+        {u"PARENT\" ShowCover=\"perhaps"_s, u"PARENT"_s},
+        {u"LAST_WATCHED_BY"_s, u"LASTWATCHED"_s, u"Events"_s},
+        {u"LAST_WATCHED_ON"_s, u"LASTWATCHED"_s, u"Events"_s},
+        {u"LOANDUE"_s, u"LOANEDDUE"_s, u"LoanInfo"_s},
+        {u"DISCS\" ShowSides=\"perhaps"_s, u"DISCS"_s},
+        {u"REVIEW"_s, u"REVIEW"_s, u"Reviews"_s},
+    };
+    QSet<QString> missing;
+    for (const auto &c : cases) {
+        if (!c.table.isEmpty() && !missing.contains(c.table)) {
+            missing.insert(c.table);
+            Run(u"DROP TABLE "_s + c.table);
+        }
+        // Twice the same tag tells it twice.
+        Expect({}, c.title, MessageIcon::Warning);
+        Expect({}, c.title, MessageIcon::Warning);
+        const QString tag = u"<DP NAME=\""_s + c.tag + u"\">"_s;
+        EXPECT_EQ(Page(u"["_s + tag + u"]<DP NAME=\"MEDIUM\">["_s + tag + u']'), u"[]DVD[]"_s) << qPrintable(c.tag);
+    }
+}
+
 TEST_F(RenderSkin, APageDoesNotGrowWithoutEnd) {
     // Each tag multiplies what the one before it wrote.
     const QString tag = u"<DP NAME=\"OVERVIEW\">"_s;

@@ -123,14 +123,19 @@ TEST(TagAttributes, AsTruthValues) {
         EXPECT_EQ(GetTagFlag(u"<DP NAME=\"A\" X=\""_s + c.text + u"\">"_s, u"X", c.preset), c.value)
             << qPrintable(c.text);
     }
-    EXPECT_THROW(GetTagFlag(u"<DP NAME=\"A\" X=\"maybe\">"_s, u"X", true), SkinFailure);
+    // Words that only a reader of numbers knows are words too.
+    for (const auto &text : {u"maybe"_s, u"nan"_s, u"inf"_s, u"-Infinity"_s, u"1e999"_s, u"0x1"_s, u"1 0"_s, u" "_s}) {
+        EXPECT_THROW(GetTagFlag(u"<DP NAME=\"A\" X=\""_s + text + u"\">"_s, u"X", true), SkinFailure)
+            << qPrintable(text);
+    }
 }
 
 TEST(TagAttributes, AsNumbers) {
     const struct {
         QString text;
         int value;
-    } cases[] = {{u"3"_s, 3}, {u"-2"_s, -2}, {u"abc"_s, 7}, {{}, 7}, {u"2.5"_s, 2}, {u"3.5"_s, 4}, {u"1e99"_s, 7}};
+    } cases[] = {{u"3"_s, 3},   {u"-2"_s, -2},  {u"abc"_s, 7}, {{}, 7},      {u"2.5"_s, 2},
+                 {u"3.5"_s, 4}, {u"1e99"_s, 7}, {u"nan"_s, 7}, {u"inf"_s, 7}};
     for (const auto &c : cases) {
         EXPECT_EQ(GetTagNumber(u"<DP NAME=\"A\" X=\""_s + c.text + u"\">"_s, u"X", 7), c.value) << qPrintable(c.text);
     }
