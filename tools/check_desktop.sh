@@ -70,6 +70,22 @@ for skin in Classic Modern Episode Script; do
 done
 echo "pages of skins were shown"
 
+# A link of a page into the program, with characters that URLs escape.
+"$programs/ostrand-batch" --sql "$home/sample.mdb" >/dev/null \
+    <<<"INSERT INTO Profiles (ProfileID, Title, ColType) VALUES ('Key_O''Hale & Söhne+1', 'Linked', 'Owned');"
+mkdir "$skins/Links"
+cat >"$skins/Links/Skin.html" <<'PAGE'
+<script>
+const key = "<DP NAME="UPC" Formatted="NO">", linked = "O'Hale & S\u00f6hne+1";
+console.error('page of ' + (key === linked ? 'the link' : 'another'));
+if (key !== linked) { location.href = 'blank.html?profileid=' + linked; }
+</script>
+PAGE
+show_skin Links
+grep -q 'page of another' "$home/page.log" || { echo "no page was shown"; cat "$home/page.log"; exit 1; }
+grep -q 'page of the link' "$home/page.log" || { echo "a link led nowhere"; cat "$home/page.log"; exit 1; }
+echo "a link led to its title"
+
 # What a script may reach: its skin's files, and nothing of the data folder, the computer or the network.
 data=$(dirname "$skins")
 mkdir -p "$skins/Guest/Images"
