@@ -73,11 +73,11 @@ echo "pages of skins were shown"
 
 # A link of a page into the program, with characters that URLs escape.
 "$programs/ostrand-batch" --sql "$home/sample.mdb" >/dev/null \
-    <<<"INSERT INTO Profiles (ProfileID, Title, ColType) VALUES ('Key_O''Hale & Söhne+1', 'Linked', 'Owned');"
+    <<<"INSERT INTO Profiles (ProfileID, Title, ColType) VALUES ('Key_O''Hale & Söhne+100%', 'Linked', 'Owned');"
 mkdir "$skins/Links"
 cat >"$skins/Links/Skin.html" <<'PAGE'
 <script>
-const key = "<DP NAME="UPC" Formatted="NO">", linked = "O'Hale & S\u00f6hne+1";
+const key = "<DP NAME="UPC" Formatted="NO">", linked = "O'Hale & S\u00f6hne+100%";
 console.error('page of ' + (key === linked ? 'the link' : 'another'));
 if (key !== linked) { location.href = 'blank.html?profileid=' + linked; }
 </script>

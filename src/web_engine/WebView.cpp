@@ -1,5 +1,7 @@
 #include "web_engine/WebView.h"
 
+#include "platform_qt/PageAddress.h"
+
 #include <QLoggingCategory>
 #include <QTimer>
 #include <QWebEngineDownloadRequest>
@@ -62,7 +64,7 @@ WebPage::WebPage(QWebEngineProfile *profile, WebView &view, WebEngineRules rules
 }
 
 bool WebPage::acceptNavigationRequest(const QUrl &url, NavigationType type, bool is_main_frame) {
-    const QString text = url.toString(QUrl::FullyEncoded);
+    const QString text = PageAddress(url);
     if (view_.before_navigate && view_.before_navigate(text)) {
         return false;
     }
