@@ -70,3 +70,54 @@ for skin in Classic Modern Episode Script; do
     ! grep 'Temp\.html' "$home/page.log" || { echo "the skin $skin has a fault"; exit 1; }
 done
 echo "pages of skins were shown"
+
+# A link of a page into the program, with characters that URLs escape.
+"$programs/ostrand-batch" --sql "$home/sample.mdb" >/dev/null \
+    <<<"INSERT INTO Profiles (ProfileID, Title, ColType) VALUES ('Key_O''Hale & Söhne+100%', 'Linked', 'Owned');"
+mkdir "$skins/Links"
+cat >"$skins/Links/Skin.html" <<'PAGE'
+<script>
+const key = "<DP NAME="UPC" Formatted="NO">", linked = "O'Hale & S\u00f6hne+100%";
+console.error('page of ' + (key === linked ? 'the link' : 'another'));
+if (key !== linked) { location.href = 'blank.html?profileid=' + linked; }
+</script>
+PAGE
+show_skin Links
+grep -q 'page of another' "$home/page.log" || { echo "no page was shown"; cat "$home/page.log"; exit 1; }
+grep -q 'page of the link' "$home/page.log" || { echo "a link led nowhere"; cat "$home/page.log"; exit 1; }
+echo "a link led to its title"
+
+# What a script may reach: its skin's files, and nothing of the data folder, the computer or the network.
+data=$(dirname "$skins")
+mkdir -p "$skins/Guest/Images"
+echo "image" >"$skins/Guest/Images/own.txt"
+echo "secret" >"$data/secret.txt"
+ln -s "$data/secret.txt" "$skins/Guest/Images/link.txt"
+cat >"$skins/Guest/Skin.html" <<PAGE
+<DP NAME="SKIN_NAME"><iframe src="https://example.invalid/"></iframe><script>
+async function reach(name, url) {
+    await new Promise(function (resolve) {
+        const request = new XMLHttpRequest();
+        request.onload = function () { if (request.response) { console.error('reached ' + name); } resolve(); };
+        request.onerror = resolve;
+        try { request.open('GET', url); request.send(); } catch (error) { resolve(); }
+    });
+}
+window.onload = async function () {
+    await reach('own', '\$DPIMAGES.own.txt');
+    await reach('settings', 'file://$data/Settings.ini');
+    await reach('secret', 'file://$data/secret.txt');
+    await reach('parent', '\$DPIMAGES.../../../secret.txt');
+    await reach('link', '\$DPIMAGES.link.txt');
+    await reach('system', 'file:///etc/passwd');
+    await reach('network', 'http://127.0.0.1:1/');
+    if (window.RTCPeerConnection) { console.error('reached peers'); }
+    console.error('tried all');
+};
+</script>
+PAGE
+show_skin Guest
+grep -q 'tried all' "$home/page.log" || { echo "the script did not run to its end"; cat "$home/page.log"; exit 1; }
+grep -q 'reached own' "$home/page.log" || { echo "a skin does not reach its own files"; cat "$home/page.log"; exit 1; }
+! grep 'reached' "$home/page.log" | grep -v 'reached own' || { echo "a page left its folders"; exit 1; }
+echo "a page stayed in its folders"

@@ -3,14 +3,25 @@
 
 #include "platform_qt/LazyHtmlView.h"
 
+#include <QUrl>
 #include <QtPlugin>
 
 namespace ostrand {
 
-/// What a page may read, and where its ordinary links go.
+/// What becomes of a navigation that the program itself has no use for.
+enum class PageLink {
+    Load,   ///< the view shows it
+    Open,   ///< it leads out of the program
+    Nothing ///< it leads nowhere
+};
+
+/// What a page may read, and where its ordinary links go. Asked at each request, since a database brings its own
+/// folders.
 struct WebEngineRules {
-    /// Folders whose files pages may load; asked for at each request, since a database brings its own.
-    std::function<QStringList()> folders;
+    /// True for what pages may load.
+    std::function<bool(const QUrl &url)> may_load;
+    /// `by_click` tells a link that was clicked, `is_main_frame` one that takes the place of the page.
+    std::function<PageLink(const QUrl &url, bool by_click, bool is_main_frame)> follow;
     /// Takes a link that leads out of the program.
     std::function<void(const QString &url)> open_link;
 };

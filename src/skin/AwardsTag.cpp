@@ -1,4 +1,4 @@
-#include "database/DatabaseFunctions.h"
+#include "skin/AwardRows.h"
 #include "skin/PersonLinks.h"
 #include "skin/SkinTags.h"
 #include "skin/TextConversion.h"
@@ -44,42 +44,6 @@ struct AwardStyle {
     QString if_not_won;
     PersonStyle person;
 };
-
-QString OriginalOrTitle(const sql::Recordset &row) {
-    const QString original = row.Text(u"OriginalTitle");
-    return original.isEmpty() ? row.Text(u"Title") : original;
-}
-
-QString OfMovie(const QString &title) {
-    return u"MovieTitle = '"_s + EscapeSql(title) + u'\'';
-}
-
-/// An episode's awards are its series' awards that name it. Its title stands in the pattern as it is, wild cards and
-/// all.
-QString OfEpisode(const TagCall &call, const QString &title) {
-    const sql::Recordset series =
-        call.Rows(u"SELECT * FROM TVSeries WHERE SeriesID = '"_s + EscapeSql(call.Field(u"SeriesID")) + u'\'');
-    return OfMovie(series.Eof() ? QString() : OriginalOrTitle(series)) + u" AND Nominee LIKE '*"_s + EscapeSql(title) +
-           u"*'"_s;
-}
-
-/// Ceremonies from the year before the film's to two years behind it.
-QString OfProfile(const TagCall &call, const QString &title) {
-    const qint64 year = call.row.Integer(u"ProdYear");
-    if (year == 0) {
-        return OfMovie(title);
-    }
-    return OfMovie(title) + u" AND (Year BETWEEN %1 AND %2)"_s.arg(year - 1).arg(year + 2);
-}
-
-sql::Recordset AwardRows(const TagCall &call, const AwardStyle &style, const QString &title) {
-    QString statement = style.list_awards ? u"SELECT DISTINCT Award "_s : u"SELECT * "_s;
-    statement += u" FROM Awards WHERE "_s + (call.is_episode ? OfEpisode(call, title) : OfProfile(call, title));
-    if (!style.only_award.isEmpty()) {
-        statement += u" AND Award = '"_s + EscapeSql(style.only_award) + u'\'';
-    }
-    return call.Rows(statement + (style.list_awards ? u" ORDER BY Award"_s : u" ORDER BY Award, Category, Year"_s));
-}
 
 /// A nominee with a remark in brackets behind the name.
 struct Nominee {
@@ -138,15 +102,16 @@ QString AwardText(const TagCall &call, const AwardStyle &style, const sql::Recor
 
 void GetOSVAwards(const TagCall &call, QString &text) {
     const AwardStyle style(call);
-    const QString title = OriginalOrTitle(call.row);
-    if (title.isEmpty()) {
+    std::optional<sql::Recordset> awards =
+        FindAwards(call, {.only_award = style.only_award, .names_only = style.list_awards});
+    if (!awards) {
         return;
     }
     // An award of this very name counts as printed already, deliberately.
     QString last_award = u"None"_s;
     const QString no_award = last_award;
-    for (sql::Recordset awards = AwardRows(call, style, title); !awards.Eof(); awards.MoveNext()) {
-        const QString award = awards.Text(u"Award");
+    for (; !awards->Eof(); awards->MoveNext()) {
+        const QString award = awards->Text(u"Award");
         if (style.list_awards) {
             text += award + style.divider;
             continue;
@@ -156,7 +121,7 @@ void GetOSVAwards(const TagCall &call, QString &text) {
             text.chop(style.divider.size());
             text += style.award_divider;
         }
-        text += AwardText(call, style, awards, style.show_name && !is_repeated) + style.divider;
+        text += AwardText(call, style, *awards, style.show_name && !is_repeated) + style.divider;
         last_award = award;
     }
     text.chop(style.divider.size());

@@ -49,6 +49,8 @@ void GetOSVEvents(const TagCall &call, QString &text) {
     QString last = none;
     for (sql::Recordset events = EventRows(call, style); !events.Eof(); events.MoveNext()) {
         const QString stamp = Stamp(events, style.date_format);
+        // Before anything of the event is written, so that an attribute that fails leaves no piece of it.
+        const QString type = style.show_type ? call.TranslateByTag(events.Text(u"EventType")) : QString();
         const bool is_new = stamp != last;
         if (style.group_names && is_new && last != none) {
             text += style.divider;
@@ -57,8 +59,7 @@ void GetOSVEvents(const TagCall &call, QString &text) {
             text += stamp;
         }
         if (style.show_type) {
-            text += style.group_names ? style.name_divider : style.sub_divider;
-            text += call.TranslateByTag(events.Text(u"EventType"));
+            text += (style.group_names ? style.name_divider : style.sub_divider) + type;
         }
         text += style.sub_divider + events.Text(u"UserID");
         if (!style.group_names) {

@@ -19,8 +19,9 @@ bool HasImage(const TagCall &call, const QString &name, qint64 birth_year) {
 
 sql::Recordset CreditRows(const TagCall &call, bool cast) {
     const QString from = call.is_episode ? u"TVCastCrew WHERE EpisodeID = "_s : u"CastCrew WHERE ProfileID = "_s;
-    return call.Rows(u"SELECT * FROM "_s + from + call.QuotedKey() + u" AND IsCast = "_s +
-                     (cast ? u"true"_s : u"no"_s) + u" ORDER BY Position"_s);
+    const QString kind = cast ? u"true"_s : call.is_episode ? u"no"_s : u"false"_s;
+    return call.Rows(u"SELECT * FROM "_s + from + call.QuotedKey() + u" AND IsCast = "_s + kind +
+                     u" ORDER BY Position"_s);
 }
 
 ScriptCredit ReadCredit(const TagCall &call, const sql::Recordset &row) {

@@ -2,6 +2,8 @@
 
 #include "base/Text.h"
 
+#include <QRegularExpression>
+
 namespace ostrand {
 
 namespace {
@@ -47,11 +49,11 @@ const FeatureFlag *FindFeature(const QString &feature) {
     return nullptr;
 }
 
-/// The text itself where a script can read it as a number.
+/// The text as a script can read it as a number: a leading zero would make an octal number of it, or none at all.
 QString AspectRatio(const QString &text) {
-    bool is_number = false;
-    text.toDouble(&is_number);
-    return is_number && !text.contains(u'n', Qt::CaseInsensitive) ? text : u"1"_s;
+    static const QRegularExpression kNumber(uR"(^(?:0+(?=\d))?(\d+\.?\d*|\.\d+)$)"_s);
+    const QRegularExpressionMatch match = kNumber.match(text.trimmed());
+    return match.hasMatch() ? match.captured(1) : u"1"_s;
 }
 
 } // namespace

@@ -118,8 +118,9 @@ void WriteGeneralInformation(const TagCall &call, ScriptWriter &script) {
     script.Text(u"DP_UPC"_s, RowText(call, u"UPC"));
     script.Text(u"DP_Locality"_s, RowText(call, u"Locality"));
     WriteRegions(call, script);
-    script.Text(u"DP_ImageFileFront"_s, call.KeyWithoutPrefix() + u"f.jpg"_s);
-    script.Text(u"DP_ImageFileBack"_s, call.KeyWithoutPrefix() + u"b.jpg"_s);
+    const QString cover = SafeFileName(call.KeyWithoutPrefix());
+    script.Text(u"DP_ImageFileFront"_s, cover + u"f.jpg"_s);
+    script.Text(u"DP_ImageFileBack"_s, cover + u"b.jpg"_s);
     script.Text(u"DP_Title"_s, RowText(call, u"Title"));
     script.Text(u"DP_RatingSystem"_s, RowText(call, u"RatingSystem"));
     script.Text(u"DP_Rating"_s, RowText(call, u"Rating"));

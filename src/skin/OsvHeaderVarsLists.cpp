@@ -1,7 +1,7 @@
 #include "skin/OsvHeaderVars.h"
 
 #include "database/CrewRoleMaps.h"
-#include "database/DatabaseFunctions.h"
+#include "skin/AwardRows.h"
 #include "skin/HeaderVars.h"
 
 namespace ostrand {
@@ -13,37 +13,6 @@ using namespace Qt::StringLiterals;
 /// The value of a column as script.
 QString Quoted(const sql::Recordset &row, QStringView column) {
     return ScriptString(row.Text(column));
-}
-
-QString QuotedSql(const QString &text) {
-    return u'\'' + EscapeSql(text) + u'\'';
-}
-
-/// The title of the series that the row of an episode belongs to.
-QString SeriesTitle(const TagCall &call) {
-    const sql::Recordset series =
-        call.Rows(u"SELECT * FROM TVSeries WHERE SeriesID = "_s + QuotedSql(RowText(call, u"SeriesID")));
-    if (series.Eof()) {
-        return {};
-    }
-    const QString original = series.Text(u"OriginalTitle");
-    return original.isEmpty() ? series.Text(u"Title") : original;
-}
-
-/// The condition that finds the awards of the row; empty for a row without a title.
-QString AwardCondition(const TagCall &call) {
-    const QString original = RowText(call, call.is_episode ? u"EpisodeOriginalTitle" : u"OriginalTitle");
-    const QString title = original.isEmpty() ? RowText(call, u"Title") : original;
-    if (title.isEmpty()) {
-        return {};
-    }
-    if (call.is_episode) {
-        return u"MovieTitle = "_s + QuotedSql(SeriesTitle(call)) + u" AND Nominee LIKE "_s +
-               QuotedSql(u'*' + title + u'*');
-    }
-    const qint64 year = RowValue(call, u"ProdYear").Integer();
-    const QString years = year == 0 ? QString() : u" AND (Year BETWEEN %1 AND %2)"_s.arg(year - 1).arg(year + 2);
-    return u"MovieTitle = "_s + QuotedSql(title) + years;
 }
 
 QString CastEntry(const ScriptCredit &credit) {
@@ -84,17 +53,11 @@ QStringList OsvCrew(const TagCall &call) {
 }
 
 QStringList OsvAwards(const TagCall &call) {
-    const QString condition = AwardCondition(call);
-    if (condition.isEmpty()) {
-        return {};
-    }
     QStringList entries;
-    for (sql::Recordset rows =
-             call.Rows(u"SELECT * FROM Awards WHERE "_s + condition + u" ORDER BY Award, Category, Year"_s);
-         !rows.Eof(); rows.MoveNext()) {
-        entries.append(ScriptNew(u"OSV_AwardEntry"_s, {Quoted(rows, u"Award"), QString::number(rows.Integer(u"Year")),
-                                                       Quoted(rows, u"Category"), Quoted(rows, u"MovieTitle"),
-                                                       ScriptFlag(rows.Boolean(u"Won")), Quoted(rows, u"Nominee")}));
+    for (std::optional<sql::Recordset> rows = FindAwards(call); rows && !rows->Eof(); rows->MoveNext()) {
+        entries.append(ScriptNew(u"OSV_AwardEntry"_s, {Quoted(*rows, u"Award"), QString::number(rows->Integer(u"Year")),
+                                                       Quoted(*rows, u"Category"), Quoted(*rows, u"MovieTitle"),
+                                                       ScriptFlag(rows->Boolean(u"Won")), Quoted(*rows, u"Nominee")}));
     }
     return entries;
 }

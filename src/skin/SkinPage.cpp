@@ -11,6 +11,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 namespace ostrand {
 
@@ -91,7 +92,8 @@ QString SkinFolder(const Session &session, const QString &skin_name) {
 }
 
 QString SkinFileIn(const QString &folder) {
-    return FindIgnoringCase(folder, u"Skin.html"_s);
+    const QString found = FindIgnoringCase(folder, u"Skin.html"_s);
+    return QFileInfo(found).isFile() ? found : QString();
 }
 
 QString SkinFile(const Session &session, const QString &skin_name) {

@@ -30,6 +30,8 @@ struct SkinState {
     QString ActiveSkin;
     FolderIndex headshots;
     FolderIndex covers;
+    /// Told of each attribute that a producer looks for, whether or not the tag has it; may be empty.
+    std::function<void(const QString &tag, QStringView attribute)> attribute_read;
 };
 
 /// One tag of a page, the row it is filled from, and what it is rendered for.
@@ -46,10 +48,10 @@ struct TagCall {
     QString argument = {};
 
     QString Text(QStringView attribute, const QString &preset = {}) const {
-        return GetTagAttribute(tag, attribute, preset);
+        return GetTagAttribute(TagWith(attribute), attribute, preset);
     }
-    bool Flag(QStringView attribute, bool preset) const { return GetTagFlag(tag, attribute, preset); }
-    int Number(QStringView attribute, int preset) const { return GetTagNumber(tag, attribute, preset); }
+    bool Flag(QStringView attribute, bool preset) const { return GetTagFlag(TagWith(attribute), attribute, preset); }
+    int Number(QStringView attribute, int preset) const { return GetTagNumber(TagWith(attribute), attribute, preset); }
     /// The raw text of a column of the row, NULL as empty.
     QString Field(QStringView column) const { return row.Text(column); }
     /// A text in the user's language when the tag's attribute `Translate` is true, else as it stands.
@@ -61,6 +63,15 @@ struct TagCall {
     /// `WHERE ProfileID = '...'` and the like: the key with quotes doubled, in single quotes.
     QString QuotedKey() const;
     QString KeyWithoutPrefix() const;
+
+private:
+    /// The tag, for a look into this attribute.
+    const QString &TagWith(QStringView attribute) const {
+        if (skin.attribute_read) {
+            skin.attribute_read(tag, attribute);
+        }
+        return tag;
+    }
 };
 
 /// Writes the text of a tag into `text`. A failure throws; what was written until then counts where the tag is guarded.

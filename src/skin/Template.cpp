@@ -1,5 +1,7 @@
 #include "skin/Template.h"
 
+#include "sql/Conversion.h"
+
 #include <cmath>
 
 namespace ostrand {
@@ -106,6 +108,11 @@ QStringView RawAttribute(QStringView tag, QStringView name) {
     return {};
 }
 
+/// By one decimal mark on every computer, since a skin travels.
+std::optional<double> NumberIn(QStringView text) {
+    return sql::TextToNumber(text, u'.');
+}
+
 } // namespace
 
 QStringList FindSkinTags(const QString &page) {
@@ -159,23 +166,21 @@ bool GetTagFlag(const QString &tag, QStringView name, bool preset) {
     if (value.isEmpty()) {
         return preset;
     }
-    const QString trimmed = value.trimmed().toLower();
-    if (trimmed == "true"_L1 || trimmed == "false"_L1) {
-        return trimmed == "true"_L1;
+    const QString lower = value.toLower();
+    if (lower == "true"_L1 || lower == "false"_L1) {
+        return lower == "true"_L1;
     }
-    bool numeric = false;
-    const double number = trimmed.toDouble(&numeric);
-    if (!numeric) {
+    const std::optional<double> number = NumberIn(value);
+    if (!number) {
         throw SkinFailure(u"Type mismatch: %1=\"%2\""_s.arg(name, value));
     }
-    return number != 0;
+    return *number != 0;
 }
 
 int GetTagNumber(const QString &tag, QStringView name, int preset) {
-    bool numeric = false;
-    const double number = GetTagAttribute(tag, name, {}).trimmed().toDouble(&numeric);
+    const std::optional<double> number = NumberIn(GetTagAttribute(tag, name, {}));
     constexpr double kMost = 2147483647.0;
-    return numeric && std::abs(number) <= kMost ? int(std::nearbyint(number)) : preset;
+    return number && std::abs(*number) <= kMost ? int(std::nearbyint(*number)) : preset;
 }
 
 } // namespace ostrand

@@ -33,7 +33,7 @@ bool EndsInTagOpening(QStringView text);
 /// The value of an attribute, or the default where the tag has none or an empty one; "yes", "no" and "break" in any
 /// case become "true", "false" and "<br/>", in defaults too. Only the first attribute of a name counts.
 QString GetTagAttribute(const QString &tag, QStringView name, const QString &preset);
-/// The same as a truth value: "true", "false" or a number. Any other text throws SkinFailure.
+/// The same as a truth value: "true" or "false" in any case, or a number. Any other text throws SkinFailure.
 bool GetTagFlag(const QString &tag, QStringView name, bool preset);
 /// The same as a whole number; the default where the text is no number.
 int GetTagNumber(const QString &tag, QStringView name, int preset);

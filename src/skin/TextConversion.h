@@ -9,7 +9,7 @@ namespace ostrand {
 struct Session;
 
 /// A file URL of a path: blanks and apostrophes escaped, slashes for the platform's separators. An absolute path has
-/// three slashes in front.
+/// three slashes in front, one of a server four, as views of pages read them.
 QString PathToFileUrl(QString path);
 /// The relative beginnings "..\" and "../" of a note's paths, as URLs of the data folder.
 QString FixRelativePaths(const Session &session, QString text);

@@ -1,11 +1,13 @@
 #include "web_engine/WebView.h"
 
-#include <QDir>
-#include <QFileInfo>
+#include "platform_qt/PageAddress.h"
+
 #include <QLoggingCategory>
 #include <QTimer>
 #include <QWebEngineDownloadRequest>
 #include <QWebEngineProfile>
+#include <QWebEngineScript>
+#include <QWebEngineScriptCollection>
 #include <QWebEngineSettings>
 
 namespace ostrand {
@@ -19,48 +21,37 @@ Q_LOGGING_CATEGORY(kPages, "ostrand.pages")
 void Restrict(QWebEngineSettings &settings) {
     settings.setAttribute(QWebEngineSettings::LocalContentCanAccessRemoteUrls, false);
     settings.setAttribute(QWebEngineSettings::LocalContentCanAccessFileUrls, true);
+    settings.setAttribute(QWebEngineSettings::WebRTCPublicInterfacesOnly, true);
     for (const auto attribute :
          {QWebEngineSettings::JavascriptCanOpenWindows, QWebEngineSettings::JavascriptCanAccessClipboard,
           QWebEngineSettings::JavascriptCanPaste, QWebEngineSettings::LocalStorageEnabled,
           QWebEngineSettings::PluginsEnabled, QWebEngineSettings::HyperlinkAuditingEnabled,
-          QWebEngineSettings::WebRTCPublicInterfacesOnly, QWebEngineSettings::ScreenCaptureEnabled,
-          QWebEngineSettings::FullScreenSupportEnabled}) {
+          QWebEngineSettings::ScreenCaptureEnabled, QWebEngineSettings::FullScreenSupportEnabled,
+          QWebEngineSettings::NavigateOnDropEnabled}) {
         settings.setAttribute(attribute, false);
     }
 }
 
-bool Leaves(const QUrl &url) {
-    const QString scheme = url.scheme();
-    return scheme == "http"_L1 || scheme == "https"_L1 || scheme == "mailto"_L1;
+/// Connections that no interceptor sees are taken from the scripts of pages.
+void CloseUnseenConnections(QWebEngineProfile &profile) {
+    QWebEngineScript script;
+    script.setName(u"connections"_s);
+    script.setInjectionPoint(QWebEngineScript::DocumentCreation);
+    script.setWorldId(QWebEngineScript::MainWorld);
+    script.setRunsOnSubFrames(true);
+    script.setSourceCode(u"for (const name of ['RTCPeerConnection', 'webkitRTCPeerConnection', 'WebTransport']) {"
+                         "    delete window[name];"
+                         "}"_s);
+    profile.scripts()->insert(script);
 }
 
 } // namespace
 
-FolderInterceptor::FolderInterceptor(WebEngineRules rules, QObject *parent) :
+RuleInterceptor::RuleInterceptor(WebEngineRules rules, QObject *parent) :
     QWebEngineUrlRequestInterceptor(parent), rules_(std::move(rules)) {}
 
-bool FolderInterceptor::IsAllowed(const QUrl &url) const {
-    const QString scheme = url.scheme();
-    if (scheme == "data"_L1 || scheme == "about"_L1 || scheme == "blob"_L1) {
-        return true;
-    }
-    if (!url.isLocalFile()) {
-        return false;
-    }
-    // Links are followed first: one inside a skin must not lead out of it.
-    QString file = QFileInfo(url.toLocalFile()).canonicalFilePath();
-    if (file.isEmpty()) {
-        file = QDir::cleanPath(url.toLocalFile());
-    }
-    const QStringList folders = rules_.folders();
-    return std::any_of(folders.begin(), folders.end(), [&](const QString &folder) {
-        const QString canonical = QFileInfo(folder).canonicalFilePath();
-        return !canonical.isEmpty() && file.startsWith(canonical + u'/');
-    });
-}
-
-void FolderInterceptor::interceptRequest(QWebEngineUrlRequestInfo &info) {
-    if (!IsAllowed(info.requestUrl())) {
+void RuleInterceptor::interceptRequest(QWebEngineUrlRequestInfo &info) {
+    if (!rules_.may_load(info.requestUrl())) {
         info.block(true);
     }
 }
@@ -72,17 +63,17 @@ WebPage::WebPage(QWebEngineProfile *profile, WebView &view, WebEngineRules rules
     });
 }
 
-bool WebPage::acceptNavigationRequest(const QUrl &url, NavigationType, bool) {
-    const QString text = url.toString(QUrl::FullyEncoded);
+bool WebPage::acceptNavigationRequest(const QUrl &url, NavigationType type, bool is_main_frame) {
+    const QString text = PageAddress(url);
     if (view_.before_navigate && view_.before_navigate(text)) {
         return false;
     }
-    if (Leaves(url)) {
+    const PageLink link = rules_.follow(url, type == NavigationTypeLinkClicked, is_main_frame);
+    if (link == PageLink::Open) {
         // Outside of the call, since the engine waits for its answer.
         QTimer::singleShot(0, this, [this, text] { rules_.open_link(text); });
-        return false;
     }
-    return true;
+    return link == PageLink::Load;
 }
 
 QWebEnginePage *WebPage::createWindow(WebWindowType) {
@@ -103,11 +94,12 @@ void WebPage::javaScriptConsoleMessage(JavaScriptConsoleMessageLevel level, cons
 
 WebView::WebView(const WebEngineRules &rules, QWidget *parent) :
     QWebEngineView(parent), profile_(new QWebEngineProfile(this)) {
-    profile_->setUrlRequestInterceptor(new FolderInterceptor(rules, profile_));
+    profile_->setUrlRequestInterceptor(new RuleInterceptor(rules, profile_));
     profile_->setHttpCacheType(QWebEngineProfile::NoCache);
     profile_->setPersistentCookiesPolicy(QWebEngineProfile::NoPersistentCookies);
     connect(profile_, &QWebEngineProfile::downloadRequested, this,
             [](QWebEngineDownloadRequest *download) { download->cancel(); });
+    CloseUnseenConnections(*profile_);
     setPage(new WebPage(profile_, *this, rules));
     Restrict(*page()->settings());
     setContextMenuPolicy(Qt::NoContextMenu);

@@ -11,16 +11,14 @@ class QWebEngineProfile;
 
 namespace ostrand {
 
-/// Lets nothing pass but files of the allowed folders and what a page carries within itself.
-class FolderInterceptor : public QWebEngineUrlRequestInterceptor {
+/// Lets nothing pass but what pages may load.
+class RuleInterceptor : public QWebEngineUrlRequestInterceptor {
     Q_OBJECT
 public:
-    FolderInterceptor(WebEngineRules rules, QObject *parent);
+    RuleInterceptor(WebEngineRules rules, QObject *parent);
     void interceptRequest(QWebEngineUrlRequestInfo &info) override;
 
 private:
-    bool IsAllowed(const QUrl &url) const;
-
     WebEngineRules rules_;
 };
 

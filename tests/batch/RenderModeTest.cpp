@@ -110,6 +110,14 @@ TEST_F(RenderModeTest, TellsWhatCannotBeFound) {
     }
 }
 
+TEST_F(RenderModeTest, TellsOfATagThatFailsAndGoesOn) {
+    Skin("[<OSV NAME=\"EPISODES\" ShowTitle=\"maybe\">]<DP NAME=\"MEDIUM\">");
+    const BatchResult result = Render(u"Plain"_s, u"Key_1"_s);
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.output, "[Warning] EPISODES: Type mismatch: ShowTitle=\"maybe\"\n");
+    EXPECT_EQ(program.folder.Read(u"out.html"_s), kMark + "[]DVD");
+}
+
 TEST_F(RenderModeTest, WhatCannotBeRenderedIsWrittenAsItWasRead) {
     for (const QByteArray page : {"plain", "<DP NAME=\"MEDIUM\"><DP NAME=\"CASETYPE\" Translate=\"maybe\">"}) {
         Skin(page);

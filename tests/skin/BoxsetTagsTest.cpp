@@ -31,6 +31,8 @@ protected:
 
 TEST_F(BoxsetTagsTest, Contents) {
     Check(GetDPBoxsetContent, {{"no children", {}, {}}});
+    Run(u"INSERT INTO BoxSet (ChildID, BoxSetID) VALUES ('Key_9', '%1')"_s.arg(Escaped()));
+    Check(GetDPBoxsetContent, {{"a child that is not in the collection", {}, {}}});
     AddTwoChildren();
     const QString zeal = u"blank.html?profileid=Key_c'1"_s;
     const QString alder = u"blank.html?profileid=OSV2"_s;

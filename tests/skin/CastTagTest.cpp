@@ -201,6 +201,30 @@ TEST_F(CastTagTest, NamesAndRolesStandAsTheyAre) {
               Entry(Link(u"A'nn \"Bo\" <i>100%</i>"_s) + u" as %1 & <b>'"_s) + u", "_s + Entry(Link({})));
 }
 
+TEST_F(CastTagTest, NamesOfEveryKindAreColoured) {
+    const auto span = [](const char *colour, const QString &part) {
+        return u"<FONT COLOR='#%1'>%2</FONT>"_s.arg(QLatin1String(colour), part);
+    };
+    const struct {
+        QString name;
+        QString text;
+    } cases[] = {
+        {{}, {}},
+        {u"Corvo"_s, span("000080", u"Corvo"_s)},
+        {u"\u00C9mile O'Brien"_s, span("000080", u"\u00C9mile"_s) + u' ' + span("008000", u"O'Brien"_s)},
+        {u"Ann </script> \"Lee\""_s,
+         span("000080", u"Ann"_s) + u' ' + span("800000", u"</script>"_s) + u' ' + span("008000", u"\"Lee\""_s)},
+    };
+    for (const auto &c : cases) {
+        Run(u"DELETE FROM CastCrew");
+        Run(u"DELETE FROM TVCastCrew");
+        Credit(c.name, {}, {}, u"1950"_s);
+        EXPECT_EQ(Cast(u"ColorNames=\"yes\" ShowHeadshot=\"yes\" HeadshotRight=\"yes\""_s),
+                  Entry(u"<A HREF=\"blank.html?actorid="_s + c.name + u"|1950\">"_s + c.text + u"</A>"_s))
+            << qPrintable(c.name);
+    }
+}
+
 TEST_F(CastTagTest, AnAttributeThatIsNoTruthValueFails) {
     for (const auto &name :
          {u"ShowRoles"_s, u"RolesFirst"_s, u"RoleDivIfBlank"_s, u"RoleTypes"_s, u"ColorNames"_s, u"ShowHeadshot"_s,

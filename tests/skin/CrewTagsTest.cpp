@@ -152,6 +152,21 @@ TEST_F(CrewTagsTest, AttributesShapeAnEntry) {
     }
 }
 
+TEST_F(CrewTagsTest, NamesAndRolesStandAsTheyAre) {
+    const QString name = u"\u00C9mile \"Bo\" O'Brien </script>"_s;
+    Credit(name, u"Key & <b>'Grip'</b>"_s);
+    Credit({}, {});
+    EXPECT_EQ(Standard(u"Other"_s, u"ShowRoles=\"yes\" UseCommonName=\"yes\" ShowHeadshot=\"yes\""_s),
+              Entry(Link(name) + u"...Key & <b>'Grip'</b>"_s) + u", "_s + Entry(Link({}) + u"..."_s));
+    options.offline = true;
+    options.chkGenerateCrosslinks = true;
+    const auto site_link = [](const QString &id, const QString &text) {
+        return u"<a href=\"#\" onclick=\"displayCrossLink('person-"_s + id + u"'); return false;\">"_s + text +
+               u"</a>"_s;
+    };
+    EXPECT_EQ(Mapped(), Entry(site_link(u"\u00E9mile_bo_obrien_script"_s, name)) + u", "_s + Entry(site_link({}, {})));
+}
+
 TEST_F(CrewTagsTest, PrefixAndSuffixNeedSomethingBetween) {
     EXPECT_EQ(Mapped(u"Prefix=\"P\" Suffix=\"S\""_s), QString());
     Credit(u"A"_s, u"Director"_s);

@@ -88,6 +88,9 @@ TEST_F(EventsTagTest, ATruthValueIsNeeded) {
     for (const auto &name : {u"ShowType"_s, u"GroupNames"_s}) {
         EXPECT_THROW(Render(GetOSVEvents, name + u"=\"perhaps\""_s), SkinFailure);
     }
+    Event(u"#3/7/2020#"_s, u"Ann"_s, u"A"_s);
+    EXPECT_THROW(Render(GetOSVEvents, u"Translate=\"perhaps\""_s), SkinFailure);
+    EXPECT_EQ(Events(u"Translate=\"perhaps\" ShowType=\"no\""_s), u"2020-03-07, Ann"_s) << "no type, no translation";
 }
 
 TEST_F(EventsTagTest, EventsAreLookedUp) {

@@ -1,6 +1,8 @@
 // Cast and crew as script variables.
 #include "HeaderVarsFixture.h"
 
+#include <QFile>
+
 namespace ostrand {
 namespace {
 
@@ -62,6 +64,75 @@ TEST_F(HeaderVarsCredits, TellTheCommonNameAndTheCreditedOne) {
               QStringList{u"DP_CastEntry(\"Ann\", \"\", \"Lee\", \"Herself\", false, false, \"A. Lee\", false, 0);"_s});
     EXPECT_EQ(Crew(), QStringList{u"DP_CrewEntry(\"Ann\", \"\", \"Lee\", \"Direction\", \"Director\", \"A. Lee\", "
                                   "\"Direction\", \"Director\", \"\", false, 0);"_s});
+}
+
+TEST_F(HeaderVarsCredits, TellTheCommonNameOfTheirBirthYear) {
+    Run(u"INSERT INTO Alias VALUES ('A. Lee', 'Ann Lee', 1950, '')"_s);
+    Run(u"INSERT INTO Alias VALUES ('Old Friends', 'New Friends', 0, '')"_s);
+    Credit(u"'A. Lee', '', 1, 1950, false, false, true"_s);
+    Credit(u"'A. Lee', '', 2, 1960, false, false, true"_s);
+    Credit(u"'A. Lee', '', 3, NULL, false, false, true"_s); // finds the link of any year
+    Credit(u"'Old Friends', '[Divider]', 4, 0, false, false, true"_s);
+    EXPECT_EQ(Cast(),
+              (QStringList{u"DP_CastEntry(\"Ann\", \"\", \"Lee\", \"\", false, false, \"A. Lee\", false, 1950);"_s,
+                           u"DP_CastEntry(\"A.\", \"\", \"Lee\", \"\", false, false, \"\", false, 1960);"_s,
+                           u"DP_CastEntry(\"Ann\", \"\", \"Lee\", \"\", false, false, \"A. Lee\", false, 0);"_s,
+                           u"DP_CastEntry(\"\", \"\", \"\", \"\", false, false, \"Old Friends\", false, 0);"_s}));
+}
+
+TEST_F(HeaderVarsCredits, TakeAnyNameApart) {
+    const struct {
+        QString name;
+        QString parts;
+    } cases[] = {
+        {u""_s, u"\"\", \"\", \"\""_s},
+        {u"Zora"_s, u"\"Zora\", \"\", \"\""_s},
+        {u"\u00C9mile O'Brien"_s, u"\"\u00C9mile\", \"\", \"O\\'Brien\""_s},
+        {u"Ann \"Bo\" Lee-Roe"_s, u"\"Ann\", \"\\\"Bo\\\"\", \"Lee-Roe\""_s},
+        {u"Mary Ann van der Mire jr."_s, u"\"Mary\", \"Ann\", \"van der Mire jr.\""_s},
+        {u"The Brook & Choir"_s, u"\"The Brook & Choir\", \"\", \"\""_s},
+        {u"</script><b> A\\B"_s, u"\"</script><b>\", \"\", \"A\\\\B\""_s},
+        {u"Ann\r\nBo"_s, u"\"Ann\\r\\nBo\", \"\", \"\""_s},
+        {u"%1 %2 100%"_s, u"\"%1\", \"%2\", \"100%\""_s},
+    };
+    for (const auto &row : cases) {
+        Run(u"DELETE FROM CastCrew"_s);
+        const QString name = u'\'' + EscapeSql(row.name) + u'\'';
+        Credit(name + u", 'Kite', 1, 0, false, false, true"_s);
+        Credit(name + u", 'Writer', 1, 0, false, false, false"_s);
+        EXPECT_EQ(Cast(),
+                  QStringList(u"DP_CastEntry("_s + row.parts + u", \"Kite\", false, false, \"\", false, 0);"_s));
+        EXPECT_EQ(Crew(), QStringList(u"DP_CrewEntry("_s + row.parts +
+                                      u", \"Writing\", \"Writer\", \"\", \"Writing\", \"Writer\", \"\", false, 0);"_s));
+    }
+}
+
+TEST_F(HeaderVarsCredits, LookForPicturesUnderEveryName) {
+    Run(u"INSERT INTO Alias VALUES ('A. Lee', 'Ann Lee', 1950, '')"_s);
+    Credit(u"'A. Lee', '', 1, 1950, false, false, true"_s);
+    Credit(u"'Zora', '[Divider]', 2, 0, false, false, true"_s);
+    Credit(u"'Bo Tarn', '', 3, 0, false, false, true"_s);
+    folder.Write(u"heads/Zora.jpg"_s, "x");          // a caption has none
+    folder.Write(u"heads/Bo Tarn(1960).jpg"_s, "x"); // that of another person
+    folder.Write(u"heads/Bo Tarn_1.jpg"_s, "x");     // a further one alone
+    const auto pictures = [&] {
+        QString flags;
+        for (const QString &entry : Cast()) {
+            flags += entry.contains(u", true, "_s) ? u'1' : u'0';
+        }
+        return flags;
+    };
+    EXPECT_EQ(pictures(), u"000"_s);
+    for (const QString &file :
+         {u"Ann Lee(1950).jpg"_s, u"A. Lee(1950).jpg"_s, u"Ann Lee.jpg"_s}) { // the last without its year
+        const QString path = folder.Write(u"heads/"_s + file, "x");
+        skin.headshots = FolderIndex();
+        EXPECT_EQ(pictures(), u"100"_s) << file.toStdString();
+        ASSERT_TRUE(QFile::remove(path));
+        skin.headshots = FolderIndex();
+    }
+    folder.Write(u"heads/A. Lee.jpg"_s, "x");
+    EXPECT_EQ(pictures(), u"000"_s);
 }
 
 TEST_F(HeaderVarsCredits, KnowWhoHasAPicture) {

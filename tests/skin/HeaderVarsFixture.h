@@ -36,14 +36,14 @@ protected:
         const QString statement =
             is_episode ? QStringLiteral("SELECT *, EpisodeTitle as [Title], EpisodeOriginalTitle as [OriginalTitle], "
                                         "AirDate as [Released] FROM Episodes WHERE EpisodeID = 'E1'")
-                       : QStringLiteral("SELECT * FROM Profiles WHERE ProfileID = 'Key_100.4'");
+                       : QStringLiteral("SELECT * FROM Profiles WHERE ProfileID = '") + EscapeSql(profile_id) + u'\'';
         const sql::Recordset row = session.Database->OpenRecordset(statement);
         QString text;
         producer({.session = session,
                   .skin = skin,
                   .options = options,
                   .row = row,
-                  .key = is_episode ? QStringLiteral("E1") : QStringLiteral("Key_100.4"),
+                  .key = is_episode ? QStringLiteral("E1") : profile_id,
                   .is_episode = is_episode,
                   .tag = QStringLiteral("<DP Name=\"HEADER_VARS\" ") + attributes + QStringLiteral("/>")},
                  text);
@@ -81,6 +81,8 @@ protected:
     Session session{services.services};
     SkinState skin;
     RenderOptions options;
+    /// Whose variables are read.
+    QString profile_id = QStringLiteral("Key_100.4");
 };
 
 } // namespace ostrand::test

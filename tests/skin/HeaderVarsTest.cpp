@@ -194,6 +194,19 @@ TEST_F(HeaderVars, TellTheGeneralInformation) {
                            u"\tvar DP_SRP = \"kr149.5\";"_s}));
 }
 
+TEST_F(HeaderVars, NameTheCoversAsTheirFilesAreNamed) {
+    for (const auto &[key, cover] : {std::pair{u"Key_osv-7"_s, u"osv-7"_s},
+                                     {u"Key_Moss: Who?Key_1/2"_s, u"Moss - Who12"_s},
+                                     {u"Key_own: 1/2 it's?"_s, u"own - 12 it\\'s"_s},
+                                     {u"M_Moss*1"_s, u"M_Moss1"_s}}) {
+        profile_id = key;
+        Run(u"INSERT INTO Profiles (ProfileID, Title) VALUES ('"_s + EscapeSql(key) + u"', 'x')"_s);
+        const QString text = DPVars();
+        EXPECT_EQ(ValueOf(text, u"DP_ImageFileFront"_s), u'"' + cover + u"f.jpg\""_s) << key.toStdString();
+        EXPECT_EQ(ValueOf(text, u"DP_ImageFileBack"_s), u'"' + cover + u"b.jpg\""_s) << key.toStdString();
+    }
+}
+
 TEST_F(HeaderVars, HaveTheirValuesForNothing) {
     AddProfile();
     const QString text = DPVars();
@@ -351,10 +364,37 @@ TEST_F(HeaderVars, TellTheFormats) {
     Run(u"UPDATE VideoFormat SET VideoStandard = 'SECAM'"_s);
     EXPECT_EQ(ValueOf(DPVars(), u"DP_VideoStandardNTSC"_s), u"false"_s);
     EXPECT_EQ(ValueOf(DPVars(), u"DP_VideoStandardPAL"_s), u"false"_s);
-    for (const QString &ratio : {u"x();"_s, u"nan"_s, u"inf"_s, u"2,35"_s, u"1:1"_s}) { // would end the script
-        Run(u"UPDATE VideoFormat SET AspectRatio = '"_s + ratio + u'\'');
-        EXPECT_EQ(ValueOf(DPVars(), u"DP_AspectRatio"_s), u"1"_s) << ratio.toStdString();
+    const struct {
+        QString text, number;
+    } ratios[] = {
+        {u"2.35"_s, u"2.35"_s},
+        {u"1"_s, u"1"_s},
+        {u"16"_s, u"16"_s},
+        {u".85"_s, u".85"_s},
+        {u"0.85"_s, u"0.85"_s},
+        {u"2."_s, u"2."_s},
+        {u"0"_s, u"0"_s},
+        {u" 1.9"_s, u"1.9"_s},
+        // What is no number of a script, or another one than it looks, would end the script or mislead it.
+        {u"01.8"_s, u"1.8"_s},
+        {u"012"_s, u"12"_s},
+        {u"000"_s, u"0"_s},
+        {u"x();"_s, u"1"_s},
+        {u"nan"_s, u"1"_s},
+        {u"inf"_s, u"1"_s},
+        {u"2,35"_s, u"1"_s},
+        {u"1:1"_s, u"1"_s},
+        {u"."_s, u"1"_s},
+        {u"1.2."_s, u"1"_s},
+        {u""_s, u"1"_s},
+        {u"\u0662"_s, u"1"_s},
+    };
+    for (const auto &row : ratios) {
+        Run(u"UPDATE VideoFormat SET AspectRatio = '"_s + row.text + u'\'');
+        EXPECT_EQ(ValueOf(DPVars(), u"DP_AspectRatio"_s), row.number) << row.text.toStdString();
     }
+    Run(u"UPDATE VideoFormat SET AspectRatio = NULL"_s);
+    EXPECT_EQ(ValueOf(DPVars(), u"DP_AspectRatio"_s), u"1"_s);
 }
 
 struct FeatureName {

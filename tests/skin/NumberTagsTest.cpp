@@ -108,7 +108,12 @@ TEST_F(NumberTagsTest, Regions) {
         {"one", {2}, u"DVD"_s, {}, u"2"_s, u"2"_s},
         {"ascending", {4, 1, 2}, u"DVD"_s, {}, u"1,2,4"_s, u"1"_s},
         {"prefix", {4, 2}, u"DVD"_s, uR"(Prefix="Region ")"_s, u"Region 2,4"_s, u"Region 2"_s},
+        {"a no is false in a prefix too", {2}, u"DVD"_s, uR"(Prefix="No")"_s, u"false2"_s, u"false2"_s},
+        {"markup in both texts", {2}, u"DVD"_s, uR"(Prefix="<i>" NoRegion="break")"_s, u"<i>2"_s, u"<i>2"_s},
+        {"a break for no region", {0}, u"DVD"_s, uR"(NoRegion="break")"_s, u"<br/>"_s, u"<br/>"_s},
         {"region 0 and another", {0, 1}, u"DVD"_s, uR"(Prefix="R")"_s, u"R0,1"_s, u"Region 0"_s},
+        {"one letter", {1}, u"Blu-ray Disc"_s, uR"(Prefix="Region ")"_s, u"Region A"_s, u"Region A"_s},
+        {"no letter for 0", {0}, u"Blu-ray Disc"_s, {}, u"Region 0"_s, u"Region 0"_s},
         {"letters", {1, 2, 3, 4}, u"Blu-ray Disc"_s, {}, u"A,B,C,4"_s, u"A"_s},
         {"letters by the other name", {3, 2}, u"BluRay"_s, {}, u"B,C"_s, u"B"_s},
         {"the name in another case", {1}, u"bluray"_s, {}, u"1"_s, u"1"_s},
@@ -160,6 +165,35 @@ TEST_F(NumberTagsTest, ReleaseDate) {
         EXPECT_EQ(ProduceForEpisode(GetDPReleaseDate, c.attributes), c.text) << c.name;
     }
     ExpectFailure(GetDPReleaseDate, u"YearOnly"_s);
+}
+
+TEST_F(NumberTagsTest, FormatsOfTheReleaseDate) {
+    const struct {
+        QString released;
+        QString format;
+        QString text;
+    } cases[] = {
+        {u"#2004-07-09#"_s, u"d dd ddd dddd"_s, u"9 09 Fri Friday"_s},
+        {u"#2004-07-09#"_s, u"m mm mmm mmmm"_s, u"7 07 Jul July"_s},
+        {u"#2004-07-09#"_s, u"yy yyyy"_s, u"04 2004"_s},
+        {u"#2004-07-09#"_s, u"DD.MM.YYYY"_s, u"09.07.2004"_s},
+        {u"#2004-07-09#"_s, u"yyyy-mm-dd hh:nn:ss"_s, u"2004-07-09 00:00:00"_s},
+        {u"#2004-07-09 08:05:03#"_s, u"h:n:s hh:nn:ss"_s, u"8:5:3 08:05:03"_s},
+        {u"#2004-07-09 20:05:03#"_s, u"h:m"_s, u"20:5"_s},
+        {u"#2004-07-09 20:05:03#"_s, u"mm/dd hh.mm"_s, u"07/09 20.05"_s},
+        {u"#2004-07-09 20:05:03#"_s, u"h mmm"_s, u"20 Jul"_s},
+        {u"#2004-07-09 20:05:03#"_s, u"n m"_s, u"5 7"_s},
+        {u"#2004-07-09 20:05:03#"_s, u"h:nn AM/PM"_s, u"8:05 PM"_s},
+        {u"#2004-07-09 00:05:03#"_s, u"hh:mm am/pm"_s, u"12:05 am"_s},
+        {u"#2004-07-09#"_s, u"\\d\\e\\m d. <b>mmmm</b>"_s, u"dem 9. <b>July</b>"_s},
+        {u"#2004-07-09#"_s, u"Long Date"_s, u"Friday, July 9, 2004"_s},
+        {u"#1896-02-29#"_s, u"d mmm yy"_s, u"29 Feb 96"_s},
+        {u"#1899-12-31#"_s, u"dd.mm.yy"_s, u"31.12.99"_s},
+    };
+    for (const auto &c : cases) {
+        SetProfile(u"Released = "_s + c.released);
+        EXPECT_EQ(Produce(GetDPReleaseDate, u"DateFormat=\"%1\""_s.arg(c.format)), c.text) << qPrintable(c.format);
+    }
 }
 
 } // namespace

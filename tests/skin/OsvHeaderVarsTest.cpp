@@ -139,6 +139,28 @@ TEST_F(OsvHeaderVars, TellTheCredits) {
         << text.toStdString();
 }
 
+TEST_F(OsvHeaderVars, TellAnyNameWhole) {
+    AddProfile();
+    for (const auto &[name, script] : {std::pair{u""_s, u"\"\""_s},
+                                       {u"\u00C9mile O'Brien"_s, u"\"\u00C9mile O\\'Brien\""_s},
+                                       {u"Ann \"Bo\" Lee"_s, u"\"Ann \\\"Bo\\\" Lee\""_s},
+                                       {u"</script>\\<b>"_s, u"\"</script>\\\\<b>\""_s}}) {
+        Run(u"DELETE FROM CastCrew"_s);
+        const QString insert =
+            u"INSERT INTO CastCrew (ProfileID, Name, Role, Position, IsCast) VALUES ('Key_100.4', '"_s +
+            EscapeSql(name) + u"', NULL, 1, "_s;
+        Run(insert + u"true)"_s);
+        Run(insert + u"false)"_s);
+        const QString text = OSVVars(Only(u"Cast"_s) + u" IncludeCrew=\"yes\""_s);
+        EXPECT_TRUE(text.contains(u"\tOSV_CastEntries[0] = new OSV_CastEntry("_s + script +
+                                  u", \"\", false, false, false, "_s + script + u", false, 0);\r\n"_s))
+            << text.toStdString();
+        EXPECT_TRUE(text.contains(u"\tOSV_CrewEntries[0] = new OSV_CrewEntry("_s + script + u", \"Other\", \"\", "_s +
+                                  script + u", false, 0);\r\n"_s))
+            << text.toStdString();
+    }
+}
+
 TEST_F(OsvHeaderVars, TellTheCreditsOfAnEpisode) {
     AddEpisode();
     Run(u"INSERT INTO TVCastCrew (EpisodeID, Name, Role, Position, BirthYear, IsCast) VALUES "

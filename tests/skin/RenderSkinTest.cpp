@@ -42,6 +42,48 @@ TEST_F(RenderSkin, FillsEveryTag) {
     }
 }
 
+TEST_F(RenderSkin, SkinsCountOnTheseRules) {
+    TranslateAs(u"TV"_s, u"Fernsehen"_s);
+    Run(u"INSERT INTO Genres (ProfileID, Genre) VALUES ('Key_1', 'Drama')");
+    Run(u"INSERT INTO Genres (ProfileID, Genre) VALUES ('Key_1', 'Opera')");
+    Run(u"INSERT INTO Retailers (Name) VALUES ('Shop')");
+    Run(u"INSERT INTO PurchaseInfo (ProfileID, PurchasePlace) VALUES ('Key_1', 'Shop')");
+    for (const QString &name : {u"Mara Hale"_s, u"Bo Mire"_s}) {
+        Run(u"INSERT INTO CastCrew (ProfileID, Name, Role, IsCast, BirthYear, Position) VALUES ('Key_1', '%1', 'Tree', "
+            "True, 0, 1)"_s.arg(name));
+    }
+    const QString bo = u"<NOBREAK><A HREF=\"blank.html?actorid=Bo Mire|0\">Bo Mire</A> as Tree</NOBREAK>"_s;
+    const QString mara = u"<NOBREAK><A HREF=\"blank.html?actorid=Mara Hale|0\">Mara Hale</A> as Tree</NOBREAK>"_s;
+    const struct {
+        const char *name;
+        QString page, profile, episode;
+    } cases[] = {
+        {"one tag in three spellings", u"<DP Name=\"TITLE\"/>|<dp name=\"TITLE\" >|<OSV NAME=\"TITLE\">"_s,
+         u"Amber|Amber|Amber"_s, u"Storm|Storm|Storm"_s},
+        {"no tags", u"<DP  NAME=\"TITLE\"><DP NAME='TITLE'>[<DP NAME=\"NONE\">]"_s,
+         u"<DP  NAME=\"TITLE\"><DP NAME='TITLE'>[]"_s, u"<DP  NAME=\"TITLE\"><DP NAME='TITLE'>[]"_s},
+        {"a tag stands on one line", u"<DP NAME=\"TITLE\"\r\n ShowDesc=\"yes\">[<DP NAME=\"NONE\">]"_s,
+         u"<DP NAME=\"TITLE\"\r\n ShowDesc=\"yes\">[]"_s, u"<DP NAME=\"TITLE\"\r\n ShowDesc=\"yes\">[]"_s},
+        {"two attributes", u"<DP NAME=\"CAST\" Divider=\"; \" ShowRoles=\"yes\">"_s, mara + u"; "_s + bo, {}},
+        {"an empty divider is the default",
+         u"<DP NAME=\"CAST\" Divider=\"\" ShowRoles=\"yes\">"_s,
+         mara + u", "_s + bo,
+         {}},
+        {"a break", u"<DP NAME=\"GENRES\" Divider=\"break\">"_s, u"Drama<br/>Opera"_s, {}},
+        {"a no of a text", u"<DP NAME=\"PURCHPLACE\" Prefix=\"No\">"_s, u"falseShop"_s, {}},
+        {"a sort title is one of profiles", u"<DP NAME=\"SORTTITLE\">"_s, u"Amber, The"_s, {}},
+        {"an episode belongs to television", u"<DP NAME=\"OWNERSHIP\" Translate=\"yes\">|<DP NAME=\"STATUS\">"_s,
+         u"|"_s, u"Fernsehen|TV"_s},
+        {"an attribute without quotes takes the tag behind it",
+         u"<DP NAME=\"TITLE\" ShowDesc=no> <DP NAME=\"MEDIUM\">"_s, u"Amber"_s, u"Storm"_s},
+        {"a value ends a tag where a bracket follows it", u"<DP NAME=\"TITLE\">\">"_s, u"Amber\">"_s, u"Storm\">"_s},
+    };
+    for (const auto &c : cases) {
+        EXPECT_EQ(Page(c.page), c.profile) << c.name;
+        EXPECT_EQ(Page(c.page, u"E1"_s, true), c.episode) << c.name;
+    }
+}
+
 TEST_F(RenderSkin, TagsInTextsOfTheDatabaseAreInert) {
     SetColumn(u"Key_1"_s, u"Overview"_s, u"<DP NAME=\"COLLNUM\">"_s);
     EXPECT_EQ(Page(u"<DP NAME=\"OVERVIEW\">"_s), u"<DP NAME=\"COLLNUM\">"_s);
@@ -88,6 +130,52 @@ TEST_F(RenderSkin, FailsWithATagThatIsNotGuarded) {
     EXPECT_THROW(Page(u"<DP NAME=\"CASETYPE\" Translate=\"maybe\">"_s), SkinFailure);
     EXPECT_THROW(Page(u"<DP NAME=\"MEDIUM\">"_s, u"Key_none"_s), sql::SqlError) << "there is no such row";
     EXPECT_EQ(Page(u"<DP NAME=\"SKIN_NAME\">"_s, u"Key_none"_s), u"Plain"_s) << "and this one needs none";
+}
+
+TEST_F(RenderSkin, AGuardedTagThatFailsIsEmptyAndToldByItsTitle) {
+    const struct {
+        QString tag, title;
+        QString table = {}; ///< that is missing
+    } cases[] = {
+        {u"TITLE\" ShowTitle=\"perhaps"_s, u"TITLE"_s},
+        {u"ORIGINAL_TITLE\" ShowDesc=\"perhaps"_s, u"ORIGINAL_TITLE"_s},
+        {u"ORIGINAL_SORTTITLE\" UseSortTitleIfBlank=\"perhaps"_s, u"ORIGINALTITLE"_s},
+        {u"CUSTOM_TITLE\" UseTitleIfBlank=\"perhaps"_s, u"CUSTOM_TITLE"_s},
+        {u"RATING\" ShowDetails=\"perhaps"_s, u"RATING"_s},
+        {u"ACTORS\" ShowRoles=\"perhaps"_s, u"CAST"_s},
+        {u"DIRECTORS\" ShowRoles=\"perhaps"_s, u"CREW_Direction"_s},
+        {u"CREW\" ShowRoles=\"perhaps\" Category=\"Head"_s, u"CREW_Head"_s},
+        {u"CREW\" ShowRoles=\"perhaps"_s, u"CREW_"_s},
+        {u"UPC\" Formatted=\"perhaps"_s, u"UPC"_s},
+        {u"RUNTIME\" MinsOnly=\"perhaps"_s, u"RUNTIME"_s},
+        {u"REGION"_s, u"REGIONS"_s, u"Regions"_s},
+        {u"REGIONS"_s, u"REGIONS"_s, u"Regions"_s},
+        {u"SRP"_s, u"SRP"_s, u"SRPInfo"_s},
+        {u"RELDATE\" YearOnly=\"perhaps"_s, u"RELEASEDATE"_s},
+        {u"SIDES"_s, u"SIDES_LAYERS"_s, u"Discs"_s},
+        {u"LAYERS"_s, u"SIDES_LAYERS"_s, u"Discs"_s},
+        {u"VIDFORMATS\" Ratios=\"perhaps"_s, u"VIDFORMATS"_s},
+        {u"AUDIOTRACKS\" Translate=\"perhaps"_s, u"AUDIOTRACKS"_s},
+        {u"BOXSETCONTENTS\" ShowUPCs=\"perhaps"_s, u"BOXSETCONTENTS"_s},
+        {u"PARENT\" ShowCover=\"perhaps"_s, u"PARENT"_s},
+        {u"LAST_WATCHED_BY"_s, u"LASTWATCHED"_s, u"Events"_s},
+        {u"LAST_WATCHED_ON"_s, u"LASTWATCHED"_s, u"Events"_s},
+        {u"LOANDUE"_s, u"LOANEDDUE"_s, u"LoanInfo"_s},
+        {u"DISCS\" ShowSides=\"perhaps"_s, u"DISCS"_s},
+        {u"REVIEW"_s, u"REVIEW"_s, u"Reviews"_s},
+    };
+    QSet<QString> missing;
+    for (const auto &c : cases) {
+        if (!c.table.isEmpty() && !missing.contains(c.table)) {
+            missing.insert(c.table);
+            Run(u"DROP TABLE "_s + c.table);
+        }
+        // Twice the same tag tells it twice.
+        Expect({}, c.title, MessageIcon::Warning);
+        Expect({}, c.title, MessageIcon::Warning);
+        const QString tag = u"<DP NAME=\""_s + c.tag + u"\">"_s;
+        EXPECT_EQ(Page(u"["_s + tag + u"]<DP NAME=\"MEDIUM\">["_s + tag + u']'), u"[]DVD[]"_s) << qPrintable(c.tag);
+    }
 }
 
 TEST_F(RenderSkin, APageDoesNotGrowWithoutEnd) {

@@ -165,6 +165,23 @@ TEST_F(SkinPage, AMissingTemplateIsTold) {
     EXPECT_EQ(Shown(), "DVD");
 }
 
+TEST_F(SkinPage, AFolderIsNoTemplate) {
+    QDir().mkpath(SkinPath(u"Plain/Skin.html"_s));
+    Expect(u"Skin Plain does not exist!"_s, u"Skin.html missing"_s, MessageIcon::Warning);
+    EXPECT_FALSE(Show());
+}
+
+TEST_F(SkinPage, MayBeAnyLength) {
+    const QByteArray line = QByteArray(200, '\xE9') + "<DP NAME=\"MEDIUM\">\r\n";
+    const QByteArray shown = QByteArray("\xC3\xA9").repeated(200) + "DVD\r\n";
+    WriteSkin(line.repeated(40000));
+    EXPECT_TRUE(Show());
+    EXPECT_EQ(Shown(), shown.repeated(40000));
+    WriteSkin(QByteArray(20000000, '<') + "<DP NAME=\"MEDIUM\">");
+    EXPECT_TRUE(Show());
+    EXPECT_EQ(Shown(), QByteArray(20000000, '<') + "DVD");
+}
+
 TEST_F(SkinPage, WhatCannotBeRenderedIsShownAsItWasRead) {
     const struct {
         const char *name;

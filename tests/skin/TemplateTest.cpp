@@ -115,22 +115,35 @@ TEST(TagAttributes, AsTruthValues) {
         QString text;
         bool preset, value;
     } cases[] = {
-        {u"yes"_s, false, true},   {u"NO"_s, true, false}, {u"True"_s, false, true},
-        {u"FALSE"_s, true, false}, {u"0"_s, true, false},  {u"2"_s, false, true},
-        {u"-1"_s, false, true},    {{}, true, true},       {{}, false, false},
+        {u"yes"_s, false, true}, {u"NO"_s, true, false},  {u"True"_s, false, true}, {u"FALSE"_s, true, false},
+        {u"0"_s, true, false},   {u"0.0"_s, true, false}, {u"2"_s, false, true},    {u"-1"_s, false, true},
+        {u"0.1"_s, false, true}, {u" 1 "_s, false, true}, {u"1e1"_s, false, true},  {u"&H0"_s, true, false},
+        {{}, true, true},        {{}, false, false},
     };
     for (const auto &c : cases) {
         EXPECT_EQ(GetTagFlag(u"<DP NAME=\"A\" X=\""_s + c.text + u"\">"_s, u"X", c.preset), c.value)
             << qPrintable(c.text);
     }
-    EXPECT_THROW(GetTagFlag(u"<DP NAME=\"A\" X=\"maybe\">"_s, u"X", true), SkinFailure);
+}
+
+TEST(TagAttributes, OfAnotherKindAreNoTruthValues) {
+    for (const QString &text :
+         {u"maybe"_s, u" true"_s, u"yes "_s, u" "_s, u"on"_s, u"y"_s, u"1x"_s, u"break"_s, u"nan"_s, u"inf"_s,
+          u"-Infinity"_s, u"&H"_s, u"truefalse"_s, u"1e999"_s, u"0x1"_s, u"1 0"_s}) {
+        EXPECT_THROW(GetTagFlag(u"<DP NAME=\"A\" X=\""_s + text + u"\">"_s, u"X", true), SkinFailure)
+            << qPrintable(text);
+    }
 }
 
 TEST(TagAttributes, AsNumbers) {
     const struct {
         QString text;
         int value;
-    } cases[] = {{u"3"_s, 3}, {u"-2"_s, -2}, {u"abc"_s, 7}, {{}, 7}, {u"2.5"_s, 2}, {u"3.5"_s, 4}, {u"1e99"_s, 7}};
+    } cases[] = {
+        {u"3"_s, 3},   {u"-2"_s, -2}, {u" 3 "_s, 3},  {u"abc"_s, 7},  {{}, 7},
+        {u"2.5"_s, 2}, {u"3.5"_s, 4}, {u"1e99"_s, 7}, {u"1e1"_s, 10}, {u"&H10"_s, 16},
+        {u"3x"_s, 7},  {u"nan"_s, 7}, {u"inf"_s, 7},  {u"no"_s, 7},   {u"yes"_s, 7},
+    };
     for (const auto &c : cases) {
         EXPECT_EQ(GetTagNumber(u"<DP NAME=\"A\" X=\""_s + c.text + u"\">"_s, u"X", 7), c.value) << qPrintable(c.text);
     }

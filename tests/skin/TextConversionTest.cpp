@@ -25,6 +25,7 @@ TEST(PathToFileUrl, EscapesBlanksAndApostrophes) {
         {
             {"an absolute path has three slashes", u"/home/user/x.html"_s, u"file:///home/user/x.html"_s},
             {"a drive", u"C:\\My Files\\x.html"_s, u"file:///C:/My%20Files/x.html"_s},
+            {"a server", u"\\\\host\\my share\\x.html"_s, u"file:////host/my%20share/x.html"_s},
             {"an apostrophe", u"/o'brien's/"_s, u"file:///o%27brien%27s/"_s},
             {"a blank in front of an apostrophe", u"/a 'b"_s, u"file:///a%20%27b"_s},
             {"a percent sign stays", u"/100%/%20"_s, u"file:///100%/%20"_s},
@@ -81,6 +82,8 @@ TEST(PersonCrossLinkId, IsLowerCaseWithoutBlanksAndApostrophes) {
         {
             {"name", u"Mara O'Hale"_s, u"mara_ohale"_s},
             {"marks of file names go", u"A: \"B\" C?"_s, u"a_-_b_c"_s},
+            {"markup", u"</b>Mara \\ | Hale*"_s, u"bmara__|_hale"_s},
+            {"empty", {}, {}},
             {"accents stay", u"\u00C9mile L"_s, u"\u00E9mile_l"_s},
         },
         PersonCrossLinkId);
@@ -93,6 +96,8 @@ TEST(PeopleScriptFileName, HoldsTheFirstTwoCharacters) {
             {"a blank as the second", u"U Hale"_s, u"people-u_.js"_s},
             {"one character", u"Q"_s, u"people-q.js"_s},
             {"empty", {}, u"people-.js"_s},
+            {"an accent", u"\u00C9mile L"_s, u"people-\u00E9m.js"_s},
+            {"an apostrophe stays", u"O'Hale"_s, u"people-o'.js"_s},
             {"made safe", u"?:"_s, u"people- -.js"_s},
         },
         PeopleScriptFileName);
@@ -112,6 +117,14 @@ TEST(SplitNominees, SplitsAtEverySeparator) {
         {"and within a word", u"Sandy Lee"_s, {u"Sandy Lee"_s}},
         {"Jr", u"Al Roe, Jr, Bo Mire"_s, {u"Al Roe Jr"_s, u"Bo Mire"_s}},
         {"jr.", u"Al Roe, jr."_s, {u"Al Roe jr."_s}},
+        {"Jr. and others", u"Al Roe, Jr., Bo Mire and Cy, Sr."_s, {u"Al Roe Jr."_s, u"Bo Mire"_s, u"Cy Sr."_s}},
+        {"a name that begins with the suffix", u"Ann Lee, Srdja Mire"_s, {u"Ann Lee Srdja Mire"_s}},
+        {"the suffix without a blank", u"Al Roe,Jr"_s, {u"Al Roe"_s, u"Jr"_s}},
+        {"all separators",
+         u"Ann, Bo; Cy & Dee and Eve,Fay"_s,
+         {u"Ann"_s, u"Bo"_s, u"Cy"_s, u"Dee"_s, u"Eve"_s, u"Fay"_s}},
+        {"the blank behind a comma is used up", u"Ann, and Bo"_s, {u"Ann"_s, u"and Bo"_s}},
+        {"two commas", u"Ann,, Bo"_s, {u"Ann"_s, {}, u"Bo"_s}},
         {"Sr", u"Al Roe, Sr"_s, {u"Al Roe Sr"_s}},
         {"sr", u"Al Roe, sr"_s, {u"Al Roe sr"_s}},
         {"JR is a name of its own", u"Al Roe, JR"_s, {u"Al Roe"_s, u"JR"_s}},
