@@ -11,7 +11,7 @@ import sys
 
 ROOT = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..")
 
-CORE = ["shell", "database", "collection_files", "people", "audit", "queries", "browser", "skin"]
+CORE = ["shell", "database", "collection_files", "people", "audit", "queries", "browser", "skin", "html_export"]
 BELOW_CORE = ["base", "platform", "sql", "xml"]
 
 # Folder: folders that its files may include besides their own.

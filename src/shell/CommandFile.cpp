@@ -5,6 +5,7 @@
 #include "collection_files/AdditionalInfos.h"
 #include "collection_files/ProfilerImport.h"
 #include "database/DatabaseFunctions.h"
+#include "html_export/CreateOfflineHtml.h"
 #include "shell/Session.h"
 
 namespace ostrand {
@@ -57,7 +58,7 @@ constexpr FileCommand kCommands[] = {
     {u"exporttvasprofiler3dataseparated", nullptr},
     {u"createdatabase", [](Session &s, const QString &file) { NewCollectionDatabase(s, file); }},
     {u"exportprofiler3database", nullptr},
-    {u"createhtmlcollection", nullptr},
+    {u"createhtmlcollection", CreateHTMLCollection},
     {u"compactdatabase", [](Session &s, const QString &file) { CompactCollectionDatabase(s, file); }},
     {u"exportawardsfile", nullptr},
     {u"setskin", SetSkin},
