@@ -74,6 +74,16 @@ def names_of_people(folder):
     return [json.loads(line.rstrip(","))[0] for line in lines if line.startswith("[")]
 
 
+def keys_with_people(folder):
+    """The titles whose pages name a person."""
+    keys = set()
+    for path in (folder / "crosslink").glob("load-*.js"):
+        for line in path.read_text("utf-8-sig").splitlines():
+            if line.startswith("["):
+                keys.update(json.loads(line.rstrip(","))[2:])
+    return keys
+
+
 def start_browser(width, height, dark=False):
     options = webdriver.ChromeOptions()
     for argument in ("--headless=new", "--no-sandbox", "--disable-gpu", "--hide-scrollbars=false",
@@ -146,6 +156,10 @@ class Visit:
     def into(self, frame):
         self.browser.switch_to.default_content()
         self.browser.switch_to.frame(frame)
+
+
+def page_of(link):
+    return link.get_attribute("href").rsplit("/", 1)[1]
 
 
 SHOWN_ROWS = ".listing > table:first-of-type > tbody > tr:not(.space)"
@@ -226,15 +240,17 @@ def walk_people(visit, people):
         visit.keep("person")
 
 
-def walk_frames(visit, people):
+def walk_frames(visit, keys):
     """The list with a page beside it, links between them, and the address of each."""
     visit.go("index.html")
     visit.wait(lambda: "index2.html" in visit.browser.current_url, "the entrance does not lead to the frames")
     narrow = visit.script("return innerWidth <= 760")
     visit.into("list")
     visit.wait(lambda: visit.shown(".listing a"), "the list is empty")
-    link = visit.shown(".listing a")[0]
-    target = link.get_attribute("href").rsplit("/", 1)[1]
+    links = visit.shown(".listing a")
+    named = [link for link in links if urllib.parse.unquote(page_of(link))[:-len(".html")] in keys]
+    link = (named or links)[0]
+    target = page_of(link)
     link.click()
     visit.browser.switch_to.default_content()
     visit.wait(lambda: visit.browser.current_url.endswith("#Profiles/" + target), "the address does not name the title")
@@ -251,7 +267,9 @@ def walk_frames(visit, people):
     visit.into("profiles")
     visit.wait(lambda: visit.script("return location.pathname").endswith("/" + target), "an address opens another title")
     links = visit.all("a[onclick*=displayCrossLink]")
-    if people and links:
+    if named:
+        expect(links, "a page does not link the people that it names")
+    if named and links:
         visit.script("arguments[0].click()", links[0])
         visit.into("list")
         visit.wait(lambda: visit.shown("#people .titles a"), "a person in a page lists no titles")
@@ -345,7 +363,7 @@ def main():
             walk_list(visit)
             walk_people(visit, people)
             if width >= 500:
-                walk_frames(visit, people)
+                walk_frames(visit, keys_with_people(folder))
             else:
                 visit.go("index.html")
                 visit.wait(lambda: "iphone.html" in visit.browser.current_url, "the entrance does not know a phone")

@@ -42,7 +42,7 @@ std::vector<Copies> GeneralFiles() {
         {"images/"_L1,
          "Images/"_L1,
          {u"reset.png"_s, u"twisty-clsd.png"_s, u"twisty-open.png"_s, u"boxchild.png"_s, u"boxchild2.png"_s,
-          u"OSVicon.ico"_s, u"downsimple.png"_s, u"upsimple.png"_s}},
+          u"OSVicon.ico"_s, u"downsimple.png"_s, u"upsimple.png"_s, u"blank.png"_s}},
     };
 }
 

@@ -38,9 +38,8 @@ struct ProfileEntries {
         if (upcs) {
             title += " ("_L1 + FormatUPC(row.Text(u"UPC")) + u')';
         }
-        QString page = key;
         const QString target =
-            call.options.offline ? page.remove(u"Key_"_s) + ".html"_L1 : "blank.html?profileid="_L1 + key;
+            call.options.offline ? call.ProfilePage(QString(key).remove(u"Key_"_s)) : "blank.html?profileid="_L1 + key;
         return "<A HREF=\""_L1 + target + "\">"_L1 + title + "</A>"_L1;
     }
     static QString Cover(const TagCall &call, const QString &key) {

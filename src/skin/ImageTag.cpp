@@ -112,7 +112,7 @@ QString Target(const TagCall &call, const Cover &cover, CoverLink link, const QS
     if (link == CoverLink::Zoom) {
         return call.options.offline ? source : cover.letter + ".html"_L1;
     }
-    return call.options.offline ? cover.key + ".html"_L1 : "blank.html?profileid="_L1 + cover.key;
+    return call.options.offline ? call.ProfilePage(cover.key) : "blank.html?profileid="_L1 + cover.key;
 }
 
 } // namespace

@@ -32,6 +32,11 @@ QString TagCall::QuotedKey() const {
     return u'\'' + EscapeSql(key) + u'\'';
 }
 
+QString TagCall::ProfilePage(const QString &key_without_prefix) const {
+    // Pages of episodes lie in a folder of their own.
+    return QLatin1String(is_episode ? "../Profiles/" : "") + key_without_prefix + QLatin1String(".html");
+}
+
 QString TagCall::KeyWithoutPrefix() const {
     QString bare = key;
     return bare.remove(u"Key_"_s);

@@ -63,6 +63,8 @@ struct TagCall {
     /// `WHERE ProfileID = '...'` and the like: the key with quotes doubled, in single quotes.
     QString QuotedKey() const;
     QString KeyWithoutPrefix() const;
+    /// The page of a profile in the site, seen from the page that is rendered.
+    QString ProfilePage(const QString &key_without_prefix) const;
 
 private:
     /// The tag, for a look into this attribute.
