@@ -8,8 +8,6 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr auto kLineEnd = "\r\n"_L1;
-
 QString PageLink(const SiteEntry &entry) {
     return "<a href='./Profiles/"_L1 + UrlPart(entry.page) + ".html'"_L1;
 }

@@ -33,7 +33,8 @@ TEST_F(SiteFilesTest, APageIsWrittenOnlyWhereItDiffers) {
     EXPECT_EQ(dir.Read(u"a.html"_s), "two");
     EXPECT_TRUE(PutFile(path, ""));
     EXPECT_EQ(dir.Read(u"a.html"_s), "");
-    EXPECT_EQ(QDir(dir.Path()).entryList(QDir::Files | QDir::Hidden), QStringList(u"a.html"_s)) << "nothing is left over";
+    EXPECT_EQ(QDir(dir.Path()).entryList(QDir::Files | QDir::Hidden), QStringList(u"a.html"_s))
+        << "nothing is left over";
 }
 
 TEST_F(SiteFilesTest, ALinkIsReplacedAndNotFollowed) {

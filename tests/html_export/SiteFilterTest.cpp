@@ -21,7 +21,8 @@ TEST(WhereClause, IsCutOut) {
          u"a = 'x ORDER BY where' AND b = \"GROUP\""_s},
         {"words in names", u"SELECT [where], wherever FROM P WHERE [order] = 1 AND ordered = 2"_s,
          u"[order] = 1 AND ordered = 2"_s},
-        {"inner statements", u"SELECT (SELECT 1 FROM Q WHERE a = 2) FROM P WHERE b IN (SELECT c FROM Q WHERE d = 1 ORDER BY c) ORDER BY 1"_s,
+        {"inner statements",
+         u"SELECT (SELECT 1 FROM Q WHERE a = 2) FROM P WHERE b IN (SELECT c FROM Q WHERE d = 1 ORDER BY c) ORDER BY 1"_s,
          u"b IN (SELECT c FROM Q WHERE d = 1 ORDER BY c)"_s},
         {"doubled quotes", u"SELECT 'it''s where' FROM P WHERE a = 'it''s ORDER BY'"_s, u"a = 'it''s ORDER BY'"_s},
         {"dates", u"SELECT * FROM P WHERE a > #1/2/2003# ORDER BY 1"_s, u"a > #1/2/2003#"_s},
@@ -56,7 +57,8 @@ protected:
 };
 
 TEST_F(SavedFilterTest, LimitsTheProfiles) {
-    for (const QString &condition : {u"p.Title LIKE 'B*'"_s, u"Title LIKE 'B*'"_s, u"Title = 'x' OR Title = 'Birch'"_s}) {
+    for (const QString &condition :
+         {u"p.Title LIKE 'B*'"_s, u"Title LIKE 'B*'"_s, u"Title = 'q' OR Title = 'Birch'"_s}) {
         for (const bool types : {true, false}) {
             Run(u"DELETE FROM SQLQueries");
             Save(u"SELECT p.ProfileID FROM Profiles p WHERE "_s + condition + u" ORDER BY p.Title"_s);
@@ -82,9 +84,8 @@ TEST_F(SavedFilterTest, ThatYieldsNothingEndsTheRun) {
     const struct {
         QString statement;
         bool asks;
-    } cases[] = {{u""_s, false},
-                 {u"SELECT * FROM Profiles"_s, false},
-                 {u"SELECT * FROM Profiles WHERE Title = '$A$'"_s, true}};
+    } cases[] = {
+        {u""_s, false}, {u"SELECT * FROM Profiles"_s, false}, {u"SELECT * FROM Profiles WHERE Title = '$A$'"_s, true}};
     for (const auto &c : cases) {
         Run(u"DELETE FROM SQLQueries");
         if (!c.statement.isEmpty()) {

@@ -71,7 +71,9 @@ protected:
         const qsizetype from = text.indexOf(begin) + begin.size();
         return text.mid(from, text.indexOf(end, from) - from);
     }
-    QString Listing() const { return Part(Read(QStringLiteral("list.html")), QStringLiteral("L["), QStringLiteral("]M[")); }
+    QString Listing() const {
+        return Part(Read(QStringLiteral("list.html")), QStringLiteral("L["), QStringLiteral("]M["));
+    }
     QString Phone() const {
         const QString text = Read(QStringLiteral("iphone.html"));
         return text.mid(2, text.size() - 3);

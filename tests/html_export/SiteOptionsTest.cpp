@@ -9,7 +9,9 @@ using namespace Qt::StringLiterals;
 
 class SiteOptionsTest : public SiteTest {
 protected:
-    QStringList Stored() { return Rows(u"SELECT InfoName, InfoValue FROM DbInfo WHERE InfoName LIKE 'HTML_*' ORDER BY 1"); }
+    QStringList Stored() {
+        return Rows(u"SELECT InfoName, InfoValue FROM DbInfo WHERE InfoName LIKE 'HTML_*' ORDER BY 1");
+    }
     QStringList Names(const SiteOptions &chosen) {
         QStringList names;
         for (const SiteColType &type : SiteColTypes(session, chosen)) {
@@ -59,7 +61,8 @@ TEST_F(SiteOptionsTest, AreKept) {
     chosen.ExcludedColTypes = {u"WishList"_s, u""_s};
     chosen.ColTypesOrder = {u"Sold"_s, u"Owned"_s};
     chosen.Filter = u"Mine"_s;
-    chosen.MediaSkins = {{u"Blu-ray"_s, u"Red"_s}, {u"DVD"_s, QString::fromUtf16(kUseDefaultSkin)}, {u"UHD"_s, u"a=b"_s}};
+    chosen.MediaSkins = {
+        {u"Blu-ray"_s, u"Red"_s}, {u"DVD"_s, QString::fromUtf16(kUseDefaultSkin)}, {u"UHD"_s, u"a=b"_s}};
     SaveSiteOptions(session, chosen);
     EXPECT_EQ(Stored(), (QStringList{u"HTML_AppendEdition|1"_s, u"HTML_ColTypesOrder|Sold|Owned"_s,
                                      u"HTML_CoverSource|3"_s, u"HTML_ExcludedColTypes|WishList|unsorted"_s,

@@ -34,9 +34,12 @@ TEST(SiteText, PagesAreNamedAfterTheirKeys) {
     const struct {
         QString id, key, page;
     } cases[] = {
-        {u"Key_123.4"_s, u"123.4"_s, u"123.4"_s},         {u"Key_../../etc/x"_s, u"../../etc/x"_s, u"....etcx"_s},
-        {u"Key_.."_s, u".."_s, u"__"_s},                  {u"E1"_s, u"E1"_s, u"E1"_s},
-        {u"Key_a:b\"c"_s, u"a:b\"c"_s, u"a -b'c"_s},      {u"Key_<x>"_s, u"<x>"_s, u"x"_s},
+        {u"Key_123.4"_s, u"123.4"_s, u"123.4"_s},
+        {u"Key_../../etc/x"_s, u"../../etc/x"_s, u"....etcx"_s},
+        {u"Key_.."_s, u".."_s, u"__"_s},
+        {u"E1"_s, u"E1"_s, u"E1"_s},
+        {u"Key_a:b\"c"_s, u"a:b\"c"_s, u"a -b'c"_s},
+        {u"Key_<x>"_s, u"<x>"_s, u"x"_s},
     };
     for (const auto &c : cases) {
         EXPECT_EQ(SiteKey(c.id), c.key);
