@@ -1,6 +1,5 @@
 #include "html_export/MediaSkinList.h"
 
-#include "base/Text.h"
 #include "shell/Session.h"
 #include "skin/SkinPage.h"
 #include "sql/Collation.h"
@@ -57,12 +56,12 @@ void MediaSkinList::ChooseSkin(int row) {
     const std::optional<QString> answer = session_.services.dialogs.InputCombo(
         Translate(session_, u"Select Skin for media type"_s), Translate(session_, u"Skin Selection"_s),
         QStringList(use_default_) + SkinNames(session_), cell.data().toString());
-    const QString text = answer.value_or(QString()).trimmed();
+    // A name that was typed must not end the pair in the stored list.
+    const QString text = answer.value_or(QString()).remove(u'|').trimmed();
     if (text.isEmpty()) {
         return;
     }
-    // A name that was typed may hold what would end it in the stored list.
-    rows_[size_t(row)].skin = text == use_default_ ? QString() : SafeFileName(text);
+    rows_[size_t(row)].skin = text == use_default_ ? QString() : text;
     Q_EMIT dataChanged(cell, cell);
 }
 

@@ -27,6 +27,9 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
+constexpr int kWindowLetters = 88;
+constexpr int kWindowLines = 42;   // both pages without scrolling
+constexpr int kMarginLetters = 10; // around the pages
 constexpr int kComboLetters = 24;
 constexpr int kListLines = 5;
 
@@ -37,6 +40,12 @@ QScrollArea *MakeScrollArea(QWidget *content) {
     area->setWidget(content);
     area->setFocusPolicy(Qt::NoFocus);
     return area;
+}
+
+/// A list of few rows, which takes what room is left.
+void MakeLow(QAbstractItemView &list) {
+    list.setMinimumHeight(list.fontMetrics().height() * kListLines);
+    list.setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
 }
 
 QShortcut *AddKey(QWidget &control, const QKeySequence &key) {
@@ -69,11 +78,15 @@ frmHTMLExport::frmHTMLExport(Session &session, SiteHost host, QWidget *parent) :
     const QString lists = keys_.Mark(Text(u"Lists"));
     layout->addWidget(MakeButtons());
     const Mnemonics keys = keys_; // one page is seen at a time
-    tabs->addTab(MakeScrollArea(MakePagesTab()), pages);
+    QWidget *first = MakePagesTab();
     keys_ = keys;
-    tabs->addTab(MakeScrollArea(MakeListsTab()), lists);
+    QWidget *second = MakeListsTab();
+    const int widest = std::max(first->minimumSizeHint().width(), second->minimumSizeHint().width());
+    tabs->addTab(MakeScrollArea(first), pages);
+    tabs->addTab(MakeScrollArea(second), lists);
     path_->setFocus();
-    ResizeToText(*this, 84, 34);
+    const int letters = widest / fontMetrics().averageCharWidth() + kMarginLetters;
+    ResizeToText(*this, std::max(kWindowLetters, letters), kWindowLines);
     new WindowPlace(session, u"HTMLExport"_s, this, size());
 }
 
@@ -94,7 +107,7 @@ QLabel *frmHTMLExport::MakeLabel(const char16_t *caption, QWidget *buddy) {
 }
 
 QPushButton *frmHTMLExport::MakeButton(const QString &name, const char16_t *caption, const char16_t *tool_tip) {
-    auto *button = new QPushButton(keys_.Mark(Text(caption)));
+    auto *button = new QPushButton(Text(caption).replace(u"&"_s, u"&&"_s));
     Describe(*button, name, caption, tool_tip);
     return button;
 }
@@ -230,7 +243,7 @@ QGroupBox *frmHTMLExport::MakeCovers() {
 }
 
 QGroupBox *frmHTMLExport::MakeMediaSkins() {
-    auto *box = new QGroupBox(Text(u"Skins of Media Types"));
+    auto *box = new QGroupBox(keys_.Mark(Text(u"Skins of Media Types")));
     auto *layout = new QVBoxLayout(box);
     media_ = new QTreeView;
     Describe(*media_, u"listMediaTypes"_s, u"Skins of Media Types", u"Double-click, or press Enter, to choose a skin");
@@ -238,7 +251,7 @@ QGroupBox *frmHTMLExport::MakeMediaSkins() {
     media_->setRootIsDecorated(false);
     media_->setUniformRowHeights(true);
     media_->setAllColumnsShowFocus(true);
-    media_->setMinimumHeight(fontMetrics().height() * kListLines);
+    MakeLow(*media_);
     media_->header()->setSectionResizeMode(QHeaderView::Stretch);
     media_->setCurrentIndex(form_.media_skins.index(0, 0));
     connect(media_, &QTreeView::doubleClicked, this, &frmHTMLExport::ChooseMediaSkin);
@@ -246,7 +259,6 @@ QGroupBox *frmHTMLExport::MakeMediaSkins() {
         // Not by the view's own signal, which would let the key go on to the default button.
         connect(AddKey(*media_, key), &QShortcut::activated, this, &frmHTMLExport::ChooseMediaSkin);
     }
-    layout->addWidget(MakeLabel(u"Media Types", media_));
     layout->addWidget(media_);
     return box;
 }
@@ -302,7 +314,7 @@ QWidget *frmHTMLExport::MakeColTypes() {
     Describe(*types_, u"listColTypes"_s, u"Collection Types",
              u"Checked types are exported, in this order. Alt+Up and Alt+Down move a type.");
     types_->setModel(&form_.col_types);
-    types_->setMinimumHeight(fontMetrics().height() * kListLines);
+    MakeLow(*types_);
     types_->viewport()->setBackgroundRole(
         QPalette::Window); // on which an empty check box can be seen in dark looks too
     auto *buttons = new QVBoxLayout;
@@ -327,6 +339,9 @@ QWidget *frmHTMLExport::MakeButtons() {
     auto *buttons = new QDialogButtonBox(this);
     save_ = MakeButton(u"cbSaveSettings"_s, u"Save Settings", u"Keeps these options for the next time");
     start_ = MakeButton(u"cbStart"_s, u"Start", u"Writes the site with these options, without keeping them");
+    for (QPushButton *button : {save_, start_}) { // the others have keys of their own
+        button->setText(keys_.Mark(button->accessibleName()));
+    }
     auto *cancel = MakeButton(u"cbCancel"_s, u"Cancel", u"Closes the window");
     buttons->addButton(save_, QDialogButtonBox::ResetRole);
     buttons->addButton(start_, QDialogButtonBox::ActionRole);
