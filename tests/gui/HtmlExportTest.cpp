@@ -4,6 +4,7 @@
 #include "../html_export/SiteFixture.h"
 #include "FindControl.h"
 #include "MainWindowFixture.h"
+#include "shell/ui/ProgressWindow.h"
 
 #include <QAbstractItemModelTester>
 #include <QCheckBox>
@@ -388,6 +389,18 @@ TEST_F(HtmlExportWindow, WithoutAFolderNothingStarts) {
     EXPECT_TRUE(Find<QLineEdit>("textExportPath")->hasFocus());
 }
 
+TEST_F(HtmlExportWindow, WithoutASkinStartGoesToItsBox) {
+    session.CurrentSkin.clear();
+    Show();
+    EXPECT_EQ(Combo("comboSkin")->currentText(), QString());
+    Find<QLineEdit>("textExportPath")->setText(site);
+    ShowPage(1);
+    Click("cbStart");
+    EXPECT_TRUE(services.progress.calls.isEmpty());
+    EXPECT_FALSE(QFile::exists(site + u"/index.html"_s));
+    EXPECT_TRUE(Combo("comboSkin")->hasFocus());
+}
+
 TEST_F(HtmlExportWindow, StartWritesTheSiteWithWhatIsShown) {
     Show();
     Find<QLineEdit>("textExportPath")->setText(site);
@@ -424,6 +437,37 @@ TEST_F(HtmlExportWindow, ASecondStartWaitsForTheFirst) {
     EXPECT_TRUE(tried);
     EXPECT_EQ(services.progress.Of(u"opened"_s).size(), 1);
     EXPECT_TRUE(Button("cbSaveSettings")->isEnabled());
+}
+
+TEST_F(HtmlExportWindow, TheProgressWindowLiesAboveAndGoes) {
+    ProgressWindow progress;
+    Services shown{services.dialogs,   progress,           services.pump,    services.clock,
+                   services.random,    services.processes, services.folders, services.locale,
+                   services.clipboard, services.keyboard,  services.opener,  services.images};
+    Session other(shown);
+    progress.Attach(other.progress, [](const QString &text) { return text; });
+    other.Database = std::move(session.Database);
+    other.CurrentSkin = u"Blue"_s;
+    other.CoverPath = session.CoverPath;
+    other.HeadshotPath = session.HeadshotPath;
+    frmHTMLExport dialog(other, SiteHost());
+    bool above = false;
+    services.pump.At(2, [&] {
+        QCoreApplication::processEvents();
+        above = progress.isVisible() && QApplication::activeModalWidget() == &progress;
+    });
+    QTimer::singleShot(0, &dialog, [&] {
+        dialog.findChild<QLineEdit *>(u"textExportPath"_s)->setText(site);
+        dialog.findChild<QCheckBox *>(u"checkGenerateEpisodes"_s)->setChecked(false);
+        dialog.findChild<QPushButton *>(u"cbStart"_s)->click();
+        EXPECT_FALSE(progress.isVisible());
+        EXPECT_EQ(QApplication::activeModalWidget(), &dialog);
+        dialog.reject();
+    });
+    dialog.exec();
+    EXPECT_TRUE(above);
+    EXPECT_EQ(FilesIn(u"Profiles"_s).size(), 3);
+    session.Database = std::move(other.Database);
 }
 
 TEST_F(HtmlExportWindow, CancelDuringARunEndsTheRunAlone) {

@@ -403,6 +403,10 @@ void frmHTMLExport::Start() {
         reject(); // the program ends behind this window
         return;
     }
+    if (skin_->currentText().isEmpty()) {
+        findChild<QTabWidget *>()->setCurrentIndex(0);
+        focus = skin_; // what nothing could be written without
+    }
     if (focus) {
         focus->setFocus();
     }
