@@ -225,7 +225,7 @@ constexpr IniSetting kIniSettings[] = {
 
 constexpr const char16_t *kWindowSections[] = {
     u"ProfileInfo",  u"Awards",      u"SQLQueries",     u"AssignEpisodes", u"CoverWindow",   u"FilterTags",
-    u"EditMultiUse", u"CrewMapping", u"ListViewWindow", u"EditSkin",       u"EncryptionPad",
+    u"EditMultiUse", u"CrewMapping", u"ListViewWindow", u"EditSkin",       u"EncryptionPad", u"HTMLExport",
 };
 
 } // namespace

@@ -160,14 +160,16 @@ bool ShowSkinPage(Session &session, SkinState &skin, HtmlView &view, const SkinH
     return true;
 }
 
+QStringList SkinNames(const Session &session) {
+    return QDir(SkinsFolder(session)).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase);
+}
+
 bool SelectSkinDialog(Session &session, const SkinHost &host) {
-    const QStringList skins =
-        QDir(SkinsFolder(session)).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase);
     // Not by a list in one text: there a folder whose name holds "select" or "|" would be something else.
     const QString answer =
         SafeFileName(session.services.dialogs
                          .InputCombo(Translate(session, u"Select Skin. Enter new name to create skin."_s),
-                                     Translate(session, u"Select Skin"_s), skins, session.CurrentSkin)
+                                     Translate(session, u"Select Skin"_s), SkinNames(session), session.CurrentSkin)
                          .value_or(QString()));
     if (answer.isEmpty()) {
         return false;

@@ -32,6 +32,8 @@ struct SkinHost {
 /// True when a page was shown. Goes on after the failure of a step, so that the last page that could be built shows.
 bool ShowSkinPage(Session &session, SkinState &skin, HtmlView &view, const SkinHost &host, const QString &skin_name,
                   const QString &key, bool is_episode, const QString &back_profile_id, const QString &preset);
+/// The names of all skins in the order in which they are offered.
+QStringList SkinNames(const Session &session);
 /// Lets the user choose a skin, or name a new one; true when one was chosen.
 bool SelectSkinDialog(Session &session, const SkinHost &host);
 /// Makes a new skin.

@@ -12,6 +12,7 @@
 #include "collection_files/ProfilerImport.h"
 #include "database/TitlesDue.h"
 #include "database/ui/frmSwitchDatabase.h"
+#include "html_export/ui/frmHTMLExport.h"
 #include "people/ui/frmDropBox.h"
 #include "shell/FileCommands.h"
 #include "shell/Session.h"
@@ -30,6 +31,10 @@ void SwitchDatabase(frmMain &main) {
         ShowNoCollection(main.browser); // the database of before is gone
     }
     main.activateWindow(); // the focus may have gone with a message of that window
+}
+
+void ShowHtmlExport(frmMain &main) {
+    frmHTMLExport(main.browser.session, {.CurrentColType = SelectedColType(main.browser)}, &main).exec();
 }
 
 void ShowDropBox(frmMain &main) {
@@ -73,6 +78,7 @@ constexpr Handler kHandlers[] = {
     {u"mUpdateMovieData", [](frmMain &main) { ImportProfilerData(main.browser.session, {}); }},
     {u"mImportAdditionalInfos", Run<ChooseAdditionalInfosToImport>},
     {u"mExportAdditionalInfos", Run<ChooseAdditionalInfosToExport>},
+    {u"mExportHTMLCollection", ShowHtmlExport},
     {u"mCommandFile", Run<ChooseCommandFile>},
     {u"mExit", [](frmMain &main) { main.close(); }},
     {u"mTVShows", Browse<ShowTVShows>},
