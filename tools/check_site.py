@@ -1,10 +1,11 @@
 #!/usr/bin/python3
 """Walks a written web site in Chromium as a visitor does, and looks for broken links.
 
-Usage: check_site.py FOLDER [--times] [--pictures FOLDER]
+Usage: check_site.py FOLDER [--links] [--times] [--pictures FOLDER]
 
-Needs chromium-driver and python3-selenium. Ends with status 1 after telling what was wrong. With --times the pauses of
-the list are measured by the browser's own clock; with --pictures what was seen is kept.
+Needs chromium-driver and python3-selenium. Ends with status 1 after telling what was wrong. With --links only
+links are looked at; with --times the pauses of the list are measured by the browser's own clock; with --pictures what was
+seen is kept.
 """
 import html.parser
 import json
@@ -357,6 +358,8 @@ def main():
     pictures = arguments[arguments.index("--pictures") + 1] if "--pictures" in arguments else None
     os.environ.setdefault("HOME", tempfile.gettempdir())
     check_links(folder)
+    if "--links" in arguments:
+        finish()
     people = names_of_people(folder)
     for width, height in ((1600, 1000), (360, 740)):
         with Visit(folder, width, height, pictures) as visit:
@@ -381,9 +384,13 @@ def main():
             visit.keep("page")
     if "--times" in arguments:
         measure(folder)
-    for fault in FAULTS:
+    finish()
+
+
+def finish():
+    for fault in FAULTS[:50]:
         print(fault)
-    print("the site was walked through" + (f": {len(FAULTS)} faults" if FAULTS else " without a fault"))
+    print("the site was looked through" + (f": {len(FAULTS)} faults" if FAULTS else " without a fault"))
     sys.exit(1 if FAULTS else 0)
 
 

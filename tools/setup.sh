@@ -5,7 +5,8 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 build_packages=(cmake ninja-build clang mold ccache python3 qt6-base-dev qt6-svg-dev qt6-webengine-dev libsqlite3-dev libexpat1-dev
     libpugixml-dev p7zip-full fonts-dejavu-core)
 test_packages=(libgtest-dev libgmock-dev qt6-declarative-dev)
-check_packages=(clang-format clang-tidy libclang-rt-14-dev xvfb xauth)
+check_packages=(clang-format clang-tidy libclang-rt-14-dev xvfb xauth chromium chromium-driver
+    python3-selenium tidy)
 
 install_missing() {
     local missing=()
