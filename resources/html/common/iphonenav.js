@@ -10,12 +10,15 @@
   if (home) { document.querySelector('.toolbar').appendChild(home); }
   find.hidden = false;
 
+  function decode(text) {
+    try { return decodeURIComponent(text); } catch (error) { return text; }
+  }
   // A box set's list leads back to the list that it stands in.
   function parentOf(list) {
     if (list === first) { return null; }
     var links = document.querySelectorAll('main li > a[href^="#"]');
     for (var i = 0; i < links.length; i++) {
-      if (links[i].getAttribute('href') === '#' + list.id) { return links[i].parentNode.parentNode; }
+      if (decode(links[i].getAttribute('href').slice(1)) === list.id) { return links[i].parentNode.parentNode; }
     }
     return first;
   }
@@ -33,8 +36,7 @@
     window.scrollTo(0, places[list.id] || 0);
   }
   function follow() {
-    var id = location.hash.slice(1), list = null;
-    try { list = document.getElementById(decodeURIComponent(id)); } catch (error) { list = document.getElementById(id); }
+    var list = document.getElementById(decode(location.hash.slice(1)));
     text.value = '';
     show(list && list.parentNode.nodeName === 'MAIN' && list.nodeName === 'UL' ? list : first || lists[0]);
   }
