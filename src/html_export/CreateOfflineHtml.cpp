@@ -285,7 +285,9 @@ bool StartOfflineHTML(Session &session, const QString &exportPath, const QString
 void CreateHTMLCollection(Session &session, const QString &folder) {
     // A missing skin is told here, as nobody looks at a box to choose one.
     if (FolderExists(session, folder)) {
-        CreateOfflineHTML(session, folder, session.CurrentSkin, LoadSiteOptions(session), {});
+        SiteOptions options = LoadSiteOptions(session);
+        options.GenerateEpisodeHTML = options.GenerateEpisodeHTML && SkinListsEpisodes(session, session.CurrentSkin);
+        CreateOfflineHTML(session, folder, session.CurrentSkin, options, {});
     }
 }
 

@@ -19,7 +19,8 @@ bool CreateOfflineHTML(Session &session, const QString &exportPath, const QStrin
 /// cbStart: the same for a folder and a skin that the user gave. Without a skin nothing happens.
 bool StartOfflineHTML(Session &session, const QString &exportPath, const QString &skin, const SiteOptions &options,
                       const SiteHost &host);
-/// The command of command files: into `folder`, with the current skin and the stored options.
+/// The command of command files: into `folder`, with the current skin and the stored options. Episode
+/// pages are made only for a skin that lists episodes.
 void CreateHTMLCollection(Session &session, const QString &folder);
 
 } // namespace ostrand

@@ -78,20 +78,15 @@ public:
 
     void Add(const Person &person) {
         QStringList quoted;
-        QStringList pages;
-        QSet<QString> seen;
         for (const QString &key : person.keys) {
             quoted += ScriptLiteral(key, u'\'');
-            if (const QString page = PageName(key); !seen.contains(page)) {
-                seen.insert(page);
-                pages += ScriptLiteral(page, u'"');
-            }
         }
         people_.Add(PeopleScriptFileName(person.name),
                     ScriptLiteral(person.id, u'\'') + ":["_L1 + quoted.join(", "_L1) + u']');
         if (person.id.isEmpty()) {
             return; // a name of nothing but marks, which no script can ask for
         }
+        const QStringList pages = Pages(person.keys);
         const QString id = ScriptLiteral(person.id, u'"');
         const QString name = ScriptLiteral(person.name, u'"');
         loads_.Add(LoadScriptFileName(person.id), u'[' + id + u',' + name + u',' + pages.join(u',') + "],\r\n"_L1);
@@ -105,6 +100,23 @@ public:
     }
 
 private:
+    /// The pages of the keys as literals, each once.
+    static QStringList Pages(const QStringList &keys) {
+        QStringList pages;
+        QSet<QString> seen;
+        for (const QString &key : keys) {
+            const QString page = ScriptLiteral(PageName(key), u'"');
+            // Most persons have one credit, and need no set.
+            if (pages.isEmpty() || (page != pages.first() && !seen.contains(page))) {
+                if (!pages.isEmpty()) {
+                    seen.insert(page);
+                }
+                pages += page;
+            }
+        }
+        return pages;
+    }
+
     ListFiles people_;
     ListFiles loads_;
     StreamedFile index_;

@@ -20,6 +20,11 @@ void InsertScript(QString &page) {
 
 } // namespace
 
+bool SkinListsEpisodes(const Session &session, const QString &skin) {
+    const QString file = SkinFile(session, skin);
+    return !file.isEmpty() && ReadSkinFile(file).toLower().contains("name=\"episodes\""_L1);
+}
+
 bool SiteTemplates::Read(const QString &skin, const SiteOptions &options) {
     if (!AddSkinTemplate(profiles_, skin)) {
         TellMissing(session_, u"Skin"_s, skin);

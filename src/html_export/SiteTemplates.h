@@ -7,6 +7,9 @@
 
 namespace ostrand {
 
+/// True when a skin lists episodes, so that pages of them are of use.
+bool SkinListsEpisodes(const Session &session, const QString &skin);
+
 class SiteTemplates {
 public:
     /// `site` ends in a separator.

@@ -345,10 +345,17 @@ TEST_F(CreateOfflineHtmlTest, TitlesThatLookLikePlaceholdersStay) {
 
 TEST_F(CreateOfflineHtmlTest, ACommandFileMakesTheSite) {
     AddOwned(u"Key_1"_s, u"Amber"_s);
-    WriteDbInfo(session, u"HTML_GenerateEpisodeHTML"_s, u"0"_s);
     CallCommand(session, u"setskin Blue"_s);
     CallCommand(session, u"CreateHTMLCollection "_s + site);
-    EXPECT_TRUE(Has(u"Profiles/1.html"_s));
+    EXPECT_TRUE(Has(u"Profiles/1.html"_s)) << "a skin without episodes needs no skin of episodes";
+    EXPECT_FALSE(Has(u"Episodes"_s));
+    Skin(u"Series"_s, "<OSV Name=\"EPISODES\">");
+    CallCommand(session, u"setskin Series"_s);
+    Expect(u"No episode skin given!"_s, u"No Episode Skin"_s, MessageIcon::Warning);
+    CallCommand(session, u"createhtmlcollection "_s + site);
+    WriteDbInfo(session, u"HTML_SkinEpisode"_s, u"Blue"_s);
+    CallCommand(session, u"createhtmlcollection "_s + site);
+    EXPECT_TRUE(Has(u"Episodes"_s));
     Expect(u"Export Path does not exist!"_s, {}, MessageIcon::Warning);
     CallCommand(session, u"createhtmlcollection "_s + Path(u"none"_s));
     CallCommand(session, u"setskin"_s);
