@@ -167,7 +167,8 @@ TEST_F(BoxsetTagsTest, ParentsOfAnEpisode) {
                                         Entry(u"blank.html?profileid=Key_O'1"_s, u"All of it (9)"_s)}});
     options.offline = true;
     CheckForEpisode(GetOSVParent, {{"on a site", uR"(Divider="|")"_s,
-                                    Entry(u"2.html"_s, u"Mine"_s) + u'|' + Entry(u"O'1.html"_s, u"All of it"_s)}});
+                                    Entry(u"../Profiles/2.html"_s, u"Mine"_s) + u'|' +
+                                        Entry(u"../Profiles/O'1.html"_s, u"All of it"_s)}});
 }
 
 } // namespace
