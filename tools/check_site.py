@@ -70,9 +70,12 @@ def check_links(folder):
 
 
 def names_of_people(folder):
-    index = folder / "crosslink" / "index.js"
-    lines = index.read_text("utf-8-sig").splitlines() if index.exists() else []
-    return [json.loads(line.rstrip(","))[0] for line in lines if line.startswith("[")]
+    names = set()
+    for path in (folder / "crosslink").glob("names-*.js"):
+        for line in path.read_text("utf-8-sig").splitlines():
+            if line.startswith("["):
+                names.add(json.loads(line.rstrip(","))[0])
+    return sorted(names)
 
 
 def keys_with_people(folder):
@@ -232,8 +235,9 @@ def walk_people(visit, people):
     if not people:
         return
     visit.go("list.html")
-    visit.one("#search").send_keys(people[len(people) // 2][:4])
-    visit.wait(lambda: visit.shown("#people ul button"), "no person is found")
+    name = people[len(people) // 2]
+    visit.one("#search").send_keys(name.split()[-1])
+    visit.wait(lambda: any(name in button.text for button in visit.shown("#people ul button")), f"{name} is not found")
     visit.keep("people")
     if visit.shown("#people ul button"):
         visit.shown("#people ul button")[0].click()

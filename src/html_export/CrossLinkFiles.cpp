@@ -1,5 +1,6 @@
 #include "html_export/CrossLinkFiles.h"
 
+#include "html_export/NameIndexFiles.h"
 #include "html_export/SiteFiles.h"
 #include "html_export/SiteText.h"
 #include "shell/Session.h"
@@ -71,10 +72,7 @@ struct Person {
 class CrossLinkWriter {
 public:
     explicit CrossLinkWriter(const QString &folder) :
-        people_(folder, "[{", ", ", "}]"), loads_(folder, "crossLinks([\r\n", "", "]);\r\n"),
-        index_(folder + u"index.js"_s) {
-        index_.Write(u"crossLinkIndex([\r\n"_s);
-    }
+        people_(folder, "[{", ", ", "}]"), loads_(folder, "crossLinks([\r\n", "", "]);\r\n"), names_(folder) {}
 
     void Add(const Person &person) {
         QStringList quoted;
@@ -90,13 +88,12 @@ public:
         const QString id = ScriptLiteral(person.id, u'"');
         const QString name = ScriptLiteral(person.name, u'"');
         loads_.Add(LoadScriptFileName(person.id), u'[' + id + u',' + name + u',' + pages.join(u',') + "],\r\n"_L1);
-        index_.Write(u'[' + name + u',' + id + u',' + QString::number(pages.size()) + "],\r\n"_L1);
+        names_.Add(person.name, person.id, pages.size());
     }
     void Finish() {
         people_.Flush();
         loads_.Flush();
-        index_.Write(u"]);\r\n"_s);
-        index_.Commit();
+        names_.Finish();
     }
 
 private:
@@ -119,7 +116,7 @@ private:
 
     ListFiles people_;
     ListFiles loads_;
-    StreamedFile index_;
+    NameIndexFiles names_;
 };
 
 /// "Person" 5 "of" 10.
@@ -183,8 +180,12 @@ void CreateCrossLinkFiles(Session &session, const QString &folder) {
 }
 
 QString LoadScriptFileName(const QString &cross_link_id) {
-    QString name = u"load-"_s;
-    for (const QChar unit : QStringView(cross_link_id).left(2)) {
+    return ScriptFileName("load-"_L1, cross_link_id);
+}
+
+QString ScriptFileName(QLatin1String prefix, QStringView text) {
+    QString name = prefix;
+    for (const QChar unit : text.left(2)) {
         const bool plain = (unit >= u'a' && unit <= u'z') || (unit >= u'0' && unit <= u'9') || unit == u'_';
         name += plain ? QString(unit) : u'u' + QString::number(unit.unicode(), 16).rightJustified(4, u'0');
     }

@@ -14,5 +14,7 @@ void CreateCrossLinkFiles(Session &session, const QString &folder);
 
 /// The file that a page loads to find one person: a name that every system and address can hold.
 QString LoadScriptFileName(const QString &cross_link_id);
+/// A script's name of a prefix and the first two units of `text`, as letters, digits and "_" only.
+QString ScriptFileName(QLatin1String prefix, QStringView text);
 
 } // namespace ostrand

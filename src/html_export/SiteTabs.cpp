@@ -28,7 +28,7 @@ constexpr QStringView kTaken[] = {
     u"colourTables",
     u"const",
     u"continue",
-    u"crossLinkIndex",
+    u"crossLinkNames",
     u"crossLinks",
     u"debugger",
     u"default",

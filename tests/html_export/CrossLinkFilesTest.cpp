@@ -1,5 +1,7 @@
 #include "html_export/CrossLinkFiles.h"
 
+#include "html_export/NameIndexFiles.h"
+
 #include "SiteFixture.h"
 
 namespace ostrand {
@@ -37,13 +39,15 @@ TEST_F(CrossLinkFilesTest, TellTheProfilesOfEachPerson) {
     Credit(u"Bo Ek"_s, u"Key_3"_s);
     CreateCrossLinkFiles(session, folder);
     EXPECT_EQ(FilesIn(u"crosslink"_s),
-              (QStringList{u"index.js"_s, u"load-an.js"_s, u"load-bo.js"_s, u"people-an.js"_s, u"people-bo.js"_s}));
+              (QStringList{u"load-an.js"_s, u"load-bo.js"_s, u"names-an.js"_s, u"names-bo.js"_s, u"names-ek.js"_s,
+                           u"names-ha.js"_s, u"names-le.js"_s, u"people-an.js"_s, u"people-bo.js"_s}));
     EXPECT_EQ(File(u"people-an.js"_s), u"[{'ann_lee':['2', '1'], 'anna_ohara':['2']}]"_s);
     EXPECT_EQ(File(u"people-bo.js"_s), u"[{'bo_ek':['3']}]"_s);
     EXPECT_EQ(File(u"load-an.js"_s), u"crossLinks([\r\n[\"ann_lee\",\"Ann Lee\",\"2\",\"1\"],\r\n"
                                      "[\"anna_ohara\",\"Anna O'Hara\",\"2\"],\r\n]);\r\n"_s);
-    EXPECT_EQ(File(u"index.js"_s), u"crossLinkIndex([\r\n[\"Ann Lee\",\"ann_lee\",2],\r\n"
-                                   "[\"Anna O'Hara\",\"anna_ohara\",1],\r\n[\"Bo Ek\",\"bo_ek\",1],\r\n]);\r\n"_s);
+    EXPECT_EQ(File(u"names-an.js"_s), u"crossLinkNames(\"an\",[\r\n[\"Ann Lee\",\"ann_lee\",2],\r\n"
+                                      "[\"Anna O'Hara\",\"anna_ohara\",1],\r\n]);\r\n"_s);
+    EXPECT_EQ(File(u"names-ha.js"_s), u"crossLinkNames(\"ha\",[\r\n[\"Anna O'Hara\",\"anna_ohara\",1],\r\n]);\r\n"_s);
 }
 
 TEST_F(CrossLinkFilesTest, LaterNamesAreAppendedToTheSameFile) {
@@ -76,7 +80,7 @@ TEST_F(CrossLinkFilesTest, PersonsStandUnderTheirCommonNames) {
     Alias(u"Nick Name"_s, u"Real Name"_s);
     CreateCrossLinkFiles(session, folder);
     EXPECT_EQ(File(u"people-re.js"_s).count(u"'2'"_s), 2) << "one a credit";
-    EXPECT_TRUE(File(u"index.js"_s).contains(u"[\"Real Name\",\"real_name\",2],"_s)) << "profiles count once";
+    EXPECT_TRUE(File(u"names-na.js"_s).contains(u"[\"Real Name\",\"real_name\",2],"_s)) << "profiles count once";
     EXPECT_FALSE(Has(u"crosslink/people-ni.js"_s));
 }
 
@@ -112,10 +116,40 @@ TEST_F(CrossLinkFilesTest, OldScriptsAreDeleted) {
     EXPECT_TRUE(QFileInfo(folder + u"sub.js"_s).isDir());
 }
 
-TEST_F(CrossLinkFilesTest, WithoutCreditsThereIsAnEmptyIndex) {
+TEST_F(CrossLinkFilesTest, WithoutCreditsThereAreNone) {
     CreateCrossLinkFiles(session, folder);
-    EXPECT_EQ(FilesIn(u"crosslink"_s), QStringList(u"index.js"_s));
-    EXPECT_EQ(File(u"index.js"_s), u"crossLinkIndex([\r\n]);\r\n"_s);
+    EXPECT_TRUE(FilesIn(u"crosslink"_s).isEmpty());
+}
+
+TEST_F(CrossLinkFilesTest, NamesOfManyPersonsAreWrittenInParts) {
+    constexpr int kPersons = 1500;
+    for (int i = 0; i < kPersons; ++i) {
+        Credit(u"Person No%1"_s.arg(i), u"Key_1"_s);
+    }
+    CreateCrossLinkFiles(session, folder);
+    const QString names = File(u"names-pe.js"_s);
+    EXPECT_EQ(names.count(u"\"Person No"_s), kPersons);
+    EXPECT_EQ(names.count(u"crossLinkNames("_s), 1);
+    EXPECT_TRUE(names.endsWith(u"],\r\n]);\r\n"_s));
+    EXPECT_EQ(names, QString(File(u"names-no.js"_s)).replace(u"(\"no\""_s, u"(\"pe\""_s));
+}
+
+TEST(WordBeginnings, AreTwoLettersOfEachWord) {
+    const struct {
+        QString name;
+        QStringList beginnings;
+    } cases[] = {
+        {u"Ann Lee"_s, {u"an"_s, u"le"_s}},
+        {u"\u00C9mile O'Hara-Ann"_s, {u"em"_s, u"ha"_s, u"an"_s}},
+        {u"Anna Annabel"_s, {u"an"_s}},
+        {u"J. R. 9to"_s, {u"9t"_s}},
+        {u"\u738B \u5C0F\u660E"_s, {u"\u738B"_s, u"\u5C0F\u660E"_s}},
+        {u"X"_s, {}},
+        {{}, {}},
+    };
+    for (const auto &c : cases) {
+        EXPECT_EQ(WordBeginnings(c.name), c.beginnings) << c.name.toStdString();
+    }
 }
 
 TEST(LoadScriptFileName, HoldsNothingUnusual) {
