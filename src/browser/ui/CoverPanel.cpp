@@ -1,13 +1,16 @@
 #include "browser/ui/CoverPanel.h"
 
 #include "browser/Browser.h"
+#include "browser/MediaIcon.h"
 #include "browser/ProfileInfos.h"
 #include "browser/Views.h"
 #include "browser/ui/GridDelegate.h"
+#include "browser/ui/MediumIcon.h"
 #include "browser/ui/PictureView.h"
 #include "shell/Session.h"
 
 #include <QHeaderView>
+#include <QResizeEvent>
 #include <QScopedValueRollback>
 #include <QShortcut>
 #include <QSignalBlocker>
@@ -15,7 +18,8 @@
 namespace ostrand {
 
 CoverPanel::CoverPanel(Browser &browser, QWidget *parent) :
-    QWidget(parent), browser_(browser), listSeasons_(new QComboBox(this)), picCover_(new PictureView(this)) {
+    QWidget(parent), browser_(browser), listSeasons_(new QComboBox(this)), picMedium_(new MediumIcon(this)),
+    picCover_(new PictureView(this)) {
     setObjectName(QStringLiteral("Frame4_1"));
     listSeasons_->setObjectName(QStringLiteral("listSeasons"));
     listSeasons_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
@@ -24,6 +28,7 @@ CoverPanel::CoverPanel(Browser &browser, QWidget *parent) :
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(listSeasons_);
+    layout->addWidget(picMedium_);
     layout->addWidget(picCover_, 1);
 
     connect(&browser_, &Browser::SeasonsChanged, this, &CoverPanel::ShowSeasons);
@@ -32,13 +37,25 @@ CoverPanel::CoverPanel(Browser &browser, QWidget *parent) :
     connect(listSeasons_, &QWidget::customContextMenuRequested, this,
             [this](const QPoint &place) { Q_EMIT SeasonMenuWanted(listSeasons_->mapToGlobal(place)); });
     connect(listSeasons_, &QComboBox::activated, this, [this](int index) { SelectSeason(browser_, index); });
-    connect(&browser_, &Browser::CoverChanged, this, [this] { picCover_->ShowFile(CurrentCoverFile(browser_)); });
+    connect(&browser_, &Browser::CoverChanged, this, [this] {
+        picCover_->ShowFile(CurrentCoverFile(browser_));
+        Q_EMIT WantedHeightChanged();
+    });
+    picCover_->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(picCover_, &QWidget::customContextMenuRequested, this,
+            [this](const QPoint &place) { Q_EMIT CoverMenuWanted(picCover_->mapToGlobal(place)); });
+    for (const auto signal : {&Browser::TitleChanged, &Browser::PageShown, &Browser::SkinChanged, &Browser::ModeChanged,
+                              &Browser::SettingsChanged}) {
+        connect(&browser_, signal, this, &CoverPanel::ShowMedium);
+    }
     connect(picCover_, &PictureView::Clicked, this, [this] { FlipCover(browser_); });
     TranslateNames();
     ShowSeasons();
+    ShowMedium();
 }
 
 void CoverPanel::TranslateNames() {
+    picMedium_->setAccessibleName(Translate(browser_.session, QStringLiteral("Medium")));
     listSeasons_->setAccessibleName(Translate(browser_.session, QStringLiteral("Season")));
     picCover_->setAccessibleName(Translate(browser_.session, QStringLiteral("Cover")));
     picCover_->setToolTip(Translate(browser_.session, QStringLiteral("Click to see the other side")));
@@ -50,6 +67,23 @@ void CoverPanel::ShowSeasons() {
     listSeasons_->addItems(browser_.listSeasons);
     listSeasons_->setCurrentIndex(browser_.current_season);
     listSeasons_->setVisible(browser_.session.view.mTVShows);
+}
+
+void CoverPanel::ShowMedium() {
+    picMedium_->ShowIcon(ShownMediaIcon(browser_));
+    picMedium_->setVisible(IsMediaIconShown(browser_));
+}
+
+int CoverPanel::WantedHeight() const {
+    const QSize picture = picCover_->NaturalSize();
+    return picture.isEmpty() ? 0 : picCover_->y() + width() * picture.height() / picture.width();
+}
+
+void CoverPanel::resizeEvent(QResizeEvent *event) {
+    QWidget::resizeEvent(event);
+    if (event->size().width() != event->oldSize().width()) {
+        Q_EMIT WantedHeightChanged();
+    }
 }
 
 EpisodePanel::EpisodePanel(Browser &browser, QWidget *parent) :
@@ -104,6 +138,11 @@ void EpisodePanel::SortByHeader(int column) {
     SortEpisodes(browser_, column, order);
     header->setSortIndicatorShown(true);
     header->setSortIndicator(column, order);
+}
+
+int EpisodePanel::LeastHeight() const {
+    constexpr int kRows = 3;
+    return listEpisodes_->header()->sizeHint().height() + kRows * listEpisodes_->fontMetrics().height() * 5 / 4;
 }
 
 void EpisodePanel::SetGridLines(bool shown) {
