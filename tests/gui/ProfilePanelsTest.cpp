@@ -173,7 +173,6 @@ TEST_F(ProfilePanels, AClickOnAValueListsItsTitles) {
 TEST_F(ProfilePanels, TheKeyboardAndTheMenuListTitlesToo) {
     Open(3);
     PanelList *list = Values("listSubtitles");
-    list->setFocus();
     QTest::keyClick(list, Qt::Key_Return);
     EXPECT_GT(Titles().size(), 1) << "nothing is selected yet";
     list->setCurrentIndex(list->model()->index(0, 0));
@@ -246,15 +245,14 @@ TEST_F(ProfilePanels, TheCoverKeepsItsRatioAboveTheEpisodesOfATitle) {
     QImage wide(200, 100, QImage::Format_RGB32);
     wide.fill(Qt::blue);
     ASSERT_TRUE(wide.save(folder / u"77f.jpg"_s));
+    QImage tall(100, 4000, QImage::Format_RGB32);
+    tall.fill(Qt::blue);
+    ASSERT_TRUE(tall.save(folder / u"77b.jpg"_s));
     session.CoverPath = folder.Path() + u'/';
     ShowCover(browser, u"Key_77"_s);
     ASSERT_TRUE(cover->HasPicture());
     EXPECT_NEAR(cover->height(), cover->width() / 2, 2);
     EXPECT_TRUE(Control<QTreeView>("listEpisodes")->isVisible());
-    QImage tall(100, 4000, QImage::Format_RGB32);
-    tall.fill(Qt::blue);
-    ASSERT_TRUE(tall.save(folder / u"77b.jpg"_s));
-    browser.covers = {};
     FlipCover(browser);
     EXPECT_GE(Control<QTreeView>("listEpisodes")->height(), 40) << "a few episodes stay";
     EXPECT_EQ(main->Split(6)->Position(), stored) << "the stored place is that of TV view";

@@ -109,8 +109,10 @@ EpisodePanel::EpisodePanel(Browser &browser, QWidget *parent) :
 void EpisodePanel::ConnectList() {
     connect(listEpisodes_->header(), &QHeaderView::sectionClicked, this, &EpisodePanel::SortByHeader);
     // Other episodes stand in the order of their own query.
-    connect(&browser_.listEpisodes, &QAbstractItemModel::modelReset, this,
-            [this] { listEpisodes_->header()->setSortIndicatorShown(false); });
+    connect(&browser_.listEpisodes, &QAbstractItemModel::modelReset, this, [this] {
+        sorted_by_ = -1;
+        listEpisodes_->header()->setSortIndicatorShown(false);
+    });
     connect(listEpisodes_, &QAbstractItemView::doubleClicked, this, &EpisodePanel::RowActivated);
     for (const int key : {Qt::Key_Return, Qt::Key_Enter}) {
         auto *enter = new QShortcut(QKeySequence(key), listEpisodes_, nullptr, nullptr, Qt::WidgetShortcut);
@@ -131,13 +133,12 @@ void EpisodePanel::ConnectList() {
 }
 
 void EpisodePanel::SortByHeader(int column) {
-    QHeaderView *header = listEpisodes_->header();
-    const bool again = header->isSortIndicatorShown() && header->sortIndicatorSection() == column &&
-                       header->sortIndicatorOrder() == Qt::AscendingOrder;
-    const Qt::SortOrder order = again ? Qt::DescendingOrder : Qt::AscendingOrder;
-    SortEpisodes(browser_, column, order);
-    header->setSortIndicatorShown(true);
-    header->setSortIndicator(column, order);
+    // The header flips its mark before it tells of the click, so that it cannot be asked.
+    order_ = sorted_by_ == column && order_ == Qt::AscendingOrder ? Qt::DescendingOrder : Qt::AscendingOrder;
+    sorted_by_ = column;
+    SortEpisodes(browser_, column, order_);
+    listEpisodes_->header()->setSortIndicatorShown(true);
+    listEpisodes_->header()->setSortIndicator(column, order_);
 }
 
 int EpisodePanel::LeastHeight() const {

@@ -63,6 +63,8 @@ private:
     Browser &browser_;
     QTreeView *listEpisodes_;
     GridDelegate *delegate_;
+    int sorted_by_ = -1;
+    Qt::SortOrder order_ = Qt::AscendingOrder;
     bool following_ = false;
 };
 

@@ -10,12 +10,29 @@
 #include <QKeyEvent>
 #include <QToolTip>
 
+#include <numeric>
+
 namespace ostrand {
 
 namespace {
 
 constexpr int kFewestRows = 3;
 constexpr int kUsualRows = 4;
+
+/// The widths of columns that may want more than there is: the narrow ones get what they want, the others as much as
+/// each other. What nobody wants goes to the first.
+QList<int> ShareOut(int room, const QList<int> &wanted) {
+    QList<int> order(wanted.size());
+    std::iota(order.begin(), order.end(), 0);
+    std::sort(order.begin(), order.end(), [&](int a, int b) { return wanted[a] < wanted[b]; });
+    QList<int> widths(wanted.size());
+    for (qsizetype i = 0; i < order.size(); ++i) {
+        widths[order[i]] = std::min(wanted[order[i]], room / int(order.size() - i));
+        room -= widths[order[i]];
+    }
+    widths.front() += std::max(room, 0);
+    return widths;
+}
 
 } // namespace
 
@@ -33,10 +50,13 @@ PanelList::PanelList(Browser &browser, ListTable &table, const QString &name, QW
     header()->setSectionsMovable(false);
     header()->setStretchLastSection(false);
     header()->setMinimumSectionSize(0);
-    header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    connect(&table_, &QAbstractItemModel::headerDataChanged, this, &PanelList::ApplyWidths);
     connect(header(), &QHeaderView::sectionClicked, this, &PanelList::SortByHeader);
-    connect(&table_, &QAbstractItemModel::modelReset, this, [this] { header()->setSortIndicatorShown(false); });
+    connect(&table_, &QAbstractItemModel::modelReset, this, [this] {
+        sorted_by_ = -1;
+        header()->setSortIndicatorShown(false);
+        ApplyWidths();
+    });
     connect(this, &QAbstractItemView::clicked, this, &PanelList::Chosen);
     AddActions();
 }
@@ -44,8 +64,6 @@ PanelList::PanelList(Browser &browser, ListTable &table, const QString &name, QW
 void PanelList::AddActions() {
     list_titles_->setObjectName(QStringLiteral("mListTitles"));
     copy_->setObjectName(QStringLiteral("mCopyToClipboard"));
-    copy_->setShortcut(QKeySequence::Copy);
-    copy_->setShortcutContext(Qt::WidgetShortcut);
     connect(list_titles_, &QAction::triggered, this, [this] {
         if (currentIndex().isValid()) {
             Q_EMIT Chosen();
@@ -58,7 +76,7 @@ void PanelList::AddActions() {
 
 void PanelList::TranslateNames(const QString &name, const QString &copy, const QString &list_titles) {
     setAccessibleName(name);
-    copy_->setText(copy);
+    copy_->setText(copy + u'\t' + QKeySequence(QKeySequence::Copy).toString(QKeySequence::NativeText));
     list_titles_->setText(list_titles);
 }
 
@@ -85,17 +103,44 @@ QSize PanelList::sizeHint() const {
 }
 
 void PanelList::SortByHeader(int column) {
-    const bool again = header()->isSortIndicatorShown() && header()->sortIndicatorSection() == column &&
-                       header()->sortIndicatorOrder() == Qt::AscendingOrder;
-    const Qt::SortOrder order = again ? Qt::DescendingOrder : Qt::AscendingOrder;
-    table_.sort(column, order);
+    // The header flips its mark before it tells of the click, so that it cannot be asked.
+    order_ = sorted_by_ == column && order_ == Qt::AscendingOrder ? Qt::DescendingOrder : Qt::AscendingOrder;
+    sorted_by_ = column;
+    table_.sort(column, order_);
     header()->setSortIndicatorShown(true);
-    header()->setSortIndicator(column, order);
+    header()->setSortIndicator(column, order_);
+}
+
+void PanelList::ApplyWidths() {
+    QList<int> wanted;
+    for (int column = 0; column < table_.columnCount(); ++column) {
+        wanted += std::max(sizeHintForColumn(column), header()->sectionSizeHint(column));
+    }
+    const QList<int> widths = ShareOut(viewport()->width(), wanted);
+    for (int column = 0; column < widths.size(); ++column) {
+        setColumnWidth(column, widths[column]);
+    }
+}
+
+void PanelList::resizeEvent(QResizeEvent *event) {
+    QTreeView::resizeEvent(event);
+    ApplyWidths();
+}
+
+void PanelList::changeEvent(QEvent *event) {
+    QTreeView::changeEvent(event);
+    if (event->type() == QEvent::FontChange) {
+        ApplyWidths();
+        updateGeometry();
+    }
 }
 
 void PanelList::keyPressEvent(QKeyEvent *event) {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (enter && currentIndex().isValid()) {
+    if (event->key() == Qt::Key_C && event->modifiers().testFlag(Qt::ControlModifier)) {
+        event->accept();
+        copy_->trigger();
+    } else if (enter && currentIndex().isValid()) {
         event->accept();
         Q_EMIT Chosen();
     } else {

@@ -12,7 +12,6 @@ class ListTable;
 class PanelList : public QTreeView {
     Q_OBJECT
 public:
-    /// The columns behind the first are as wide as their texts.
     PanelList(Browser &browser, ListTable &table, const QString &name, QWidget *parent = nullptr);
     /// The texts of its menu, and the name for those who do not see the list.
     void TranslateNames(const QString &name, const QString &copy, const QString &list_titles);
@@ -31,16 +30,21 @@ Q_SIGNALS:
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     bool viewportEvent(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
     void AddActions();
     void SortByHeader(int column);
+    void ApplyWidths();
     int HeightOf(int rows) const;
 
     Browser &browser_;
     ListTable &table_;
     QAction *copy_;
     QAction *list_titles_;
+    int sorted_by_ = -1;
+    Qt::SortOrder order_ = Qt::AscendingOrder;
 };
 
 } // namespace ostrand
