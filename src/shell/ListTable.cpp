@@ -23,7 +23,8 @@ QVariant ListTable::data(const QModelIndex &index, int role) const {
 }
 
 QVariant ListTable::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
+    // The tool tip tells a header that is cut off.
+    if (orientation != Qt::Horizontal || (role != Qt::DisplayRole && role != Qt::ToolTipRole)) {
         return {};
     }
     return columns_.value(section);

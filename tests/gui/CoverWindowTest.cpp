@@ -57,17 +57,15 @@ TEST_F(CoverWindow, AClickInEitherWindowTurnsTheCover) {
 
 TEST_F(CoverWindow, ThePictureFitsTheWindow) {
     Open();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !picture->IsLoading(); }));
-    window->resize(300, 500);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !picture->IsLoading(); }));
-    const QSizeF small = picture->Picture().deviceIndependentSize();
-    EXPECT_LE(small.width(), 300);
-    EXPECT_LE(small.height(), 500);
-    window->resize(600, 700);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !picture->IsLoading(); }));
-    const QSizeF large = picture->Picture().deviceIndependentSize();
-    EXPECT_GT(large.width(), small.width());
-    EXPECT_LE(large.height(), 700);
+    const auto fits = [this](int width, int height) {
+        const QSizeF shown = picture->Picture().deviceIndependentSize();
+        const QSizeF wanted = QSizeF(picture->NaturalSize()).scaled(QSizeF(width, height), Qt::KeepAspectRatio);
+        return std::abs(shown.width() - wanted.width()) <= 1 && std::abs(shown.height() - wanted.height()) <= 1;
+    };
+    for (const QSize &size : {QSize(300, 500), QSize(600, 700), QSize(600, 200)}) {
+        window->resize(size);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return fits(size.width(), size.height()); })) << size.width();
+    }
 }
 
 TEST_F(CoverWindow, EscClosesItAndItsPlaceIsKept) {
@@ -83,6 +81,14 @@ TEST_F(CoverWindow, EscClosesItAndItsPlaceIsKept) {
     EXPECT_EQ(main->findChildren<frmCover *>().size(), 1);
     EXPECT_EQ(window->size(), QSize(310, 420));
     EXPECT_EQ(picture->File(), Cover()->File());
+}
+
+TEST_F(CoverWindow, ItsPlaceIsKeptWhenTheProgramEnds) {
+    Open();
+    window->resize(330, 440);
+    main->close();
+    main.reset();
+    EXPECT_EQ(GetINIString(session, u"CoverWindow"_s, u"Width"_s, {}), QString::number(330 * 15));
 }
 
 TEST_F(CoverWindow, TheMenuOfTheCoverOpensIt) {

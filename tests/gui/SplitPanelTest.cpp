@@ -79,6 +79,18 @@ TEST_F(SplitPanelTest, APassingPositionLeavesTheOneThatIsKept) {
     EXPECT_EQ(panel.Position(), 3750);
 }
 
+TEST_F(SplitPanelTest, APassingPositionLeavesTheSecondPaneItsLeastSize) {
+    panel.SetPassingPosition(6000, 1500);
+    Show();
+    EXPECT_EQ(second->width(), 100);
+    panel.resize(200, 205);
+    EXPECT_EQ(second->width(), 100);
+    panel.resize(50, 205);
+    EXPECT_EQ(first->width(), 0);
+    panel.resize(1000, 205);
+    EXPECT_EQ(first->width(), 400);
+}
+
 TEST_F(SplitPanelTest, APassingPositionIsNoFirstOne) {
     panel.SetDefaultPosition(0.4);
     panel.SetPassingPosition(1500);

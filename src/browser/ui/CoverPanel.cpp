@@ -82,7 +82,8 @@ int CoverPanel::WantedHeight() const {
 void CoverPanel::resizeEvent(QResizeEvent *event) {
     QWidget::resizeEvent(event);
     if (event->size().width() != event->oldSize().width()) {
-        Q_EMIT WantedHeightChanged();
+        // Later: who hears of it changes the height, which must not happen within this event.
+        QMetaObject::invokeMethod(this, &CoverPanel::WantedHeightChanged, Qt::QueuedConnection);
     }
 }
 

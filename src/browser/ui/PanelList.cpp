@@ -49,6 +49,7 @@ PanelList::PanelList(Browser &browser, ListTable &table, const QString &name, QW
     header()->setSectionsClickable(true);
     header()->setSectionsMovable(false);
     header()->setStretchLastSection(false);
+    header()->setTextElideMode(Qt::ElideRight);
     header()->setMinimumSectionSize(0);
     connect(&table_, &QAbstractItemModel::headerDataChanged, this, &PanelList::ApplyWidths);
     connect(header(), &QHeaderView::sectionClicked, this, &PanelList::SortByHeader);

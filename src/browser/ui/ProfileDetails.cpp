@@ -96,6 +96,7 @@ void ProfileDetails::ShowTitle() {
     const DetailsContent &details = browser_.Details;
     UPC_->SetLink(details.UPC.target, details.UPC.text);
     urlIMDB_->SetLink(details.urlIMDB.target, details.urlIMDB.text);
+    UPC_->setVisible(!details.UPC.text.isEmpty());
     urlIMDB_->setVisible(!details.urlIMDB.text.isEmpty());
     for (size_t i = 0; i < texts_.size(); ++i) {
         ShowText(*texts_[i], details.*kTexts[i].text);

@@ -326,8 +326,7 @@ void frmMain::ShowView() {
 
 void frmMain::ArrangeCover() {
     const int wanted = browser.session.view.mTVShows ? 0 : cover_->WantedHeight();
-    const int most = Split(6)->height() - episodes_->LeastHeight();
-    Split(6)->SetPassingPosition(wanted > 0 && most > 0 ? ToTwips(std::min(wanted, most)) : SplitPanel::kUnset);
+    Split(6)->SetPassingPosition(wanted > 0 ? ToTwips(wanted) : SplitPanel::kUnset, ToTwips(episodes_->LeastHeight()));
 }
 
 void frmMain::ShowSkinOrPanels() {

@@ -65,9 +65,10 @@ void SplitPanel::SetPosition(int twips) {
     Q_EMIT PositionChanged(position_);
 }
 
-void SplitPanel::SetPassingPosition(int twips) {
-    if (twips != passing_position_) {
+void SplitPanel::SetPassingPosition(int twips, int least_second) {
+    if (twips != passing_position_ || least_second != least_second_) {
         passing_position_ = twips;
+        least_second_ = least_second;
         Place();
     }
 }
@@ -96,7 +97,7 @@ bool SplitPanel::IsHiddenByOwner(int number) const {
 
 int SplitPanel::WantedPixels() const {
     if (passing_position_ != kUnset) {
-        return FromTwips(passing_position_);
+        return std::max(std::min(FromTwips(passing_position_), Extent() - BarWidth() - FromTwips(least_second_)), 0);
     }
     return position_ == kUnset ? DefaultPixels() : FromTwips(position_);
 }
