@@ -43,7 +43,8 @@ TEST_F(PictureViewTest, ThePictureComesAfterItsFileIsKnown) {
     EXPECT_EQ(view.NaturalSize(), QSize(400, 200));
     EXPECT_TRUE(view.Picture().isNull()) << "the window did not wait";
     Wait();
-    EXPECT_EQ(view.Picture().size(), QSize(100, 50));
+    EXPECT_EQ(view.Picture().deviceIndependentSize(), QSizeF(100, 50));
+    EXPECT_EQ(view.Picture().devicePixelRatio(), view.devicePixelRatioF()) << "as sharp as the screen";
     EXPECT_EQ(Colour(), QColor(Qt::red));
 }
 
