@@ -29,6 +29,7 @@ void ShowHeaders(Browser &browser) {
     Session &session = browser.session;
     browser.listSeries.SetHeaders(Translated(session, {u"Title", u"#", u"SortTitle", u"Year", u"P.Date", u"Released"}));
     browser.listEpisodes.SetHeaders(Translated(session, {u"#", u"Episode Title"}));
+    TranslateContent(browser);
 }
 
 void BuildColumns(Browser &browser) {
@@ -163,6 +164,7 @@ void TranslateBrowser(Browser &browser) {
     Q_EMIT browser.TabsChanged();
     Q_EMIT browser.FilterChanged();
     ShowFilterCount(browser, browser.filter_count);
+    RefreshProfileInfos(browser);
 }
 
 void AttachBrowser(Browser &browser) {

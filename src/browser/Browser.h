@@ -5,6 +5,7 @@
 #include "browser/Commands.h"
 #include "browser/EpisodeList.h"
 #include "browser/History.h"
+#include "browser/ProfileContent.h"
 #include "browser/TitleList.h"
 
 #include <QObject>
@@ -56,6 +57,12 @@ public:
     /// Caption of the window without a title, and with the current one.
     QString base_caption;
     QString caption;
+    /// What the panels tell of the current title: those that the selected tab of tabMain shows, the others of the title
+    /// that was current when they were shown the last time.
+    DetailsContent Details;
+    AVContent AV;
+    /// The key of the icon for the current title's medium (browser/MediaIcon.h); empty for none.
+    QString picMedium;
     /// The cover files of the current title are this and "f.jpg" or "b.jpg"; empty without a title.
     QString cover_stem;
     FolderIndex covers;
@@ -71,10 +78,16 @@ public:
         std::function<void()> ShowFilterTags;
         /// Shows a title or an episode as a page; false when the panels are to show it.
         std::function<bool(const QString &key, bool is_episode)> ShowSkin;
+        /// Lets the window that tells everything of a title show another one, or nothing for an empty key. Empty while
+        /// that window is not open.
+        std::function<void(const QString &key, bool is_episode)> ShowProfile;
         /// Switches between the view of pages and the panels.
         std::function<void(bool on)> EnableWebSkin;
     };
     Hooks hooks;
+
+    /// Events run while a row becomes current: another row may become so meanwhile.
+    bool turning = false;
 
 Q_SIGNALS:
     /// Another database is open; its path and name are known.

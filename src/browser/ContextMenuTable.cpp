@@ -65,6 +65,11 @@ constexpr MenuEntry kEntries[] = {
                u"Copies the crew of all episodes; with Ctrl held as one flat list")),
     InTV(Entry(u"mCopySeasonCrewRegulars", u"mSeasonTools", u"Copy Crew, Regulars Firs&t")),
 
+    // picCover.
+    ContextMenu(u"mCoverTools"),
+    SameAs(u"mShowCover", Entry(u"mShowCoverContext", u"mCoverTools", u"&Show in a Window")),
+    Entry(u"mFlipCover", u"mCoverTools", u"&Other Side"),
+
     // The rows of listEpisodes.
     ContextMenu(u"mEpisodeTools"),
     Entry(u"mEpisodeInfoContext", u"mEpisodeTools", u"Episode &Information"),

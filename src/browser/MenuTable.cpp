@@ -79,6 +79,7 @@ constexpr std::array kView = {
     Separator(u"mView"),
     Entry(u"mProfileInformation", u"mView", u"&Profile Information",
           u"Shows everything that is known of the selected title", u"Alt+Return"),
+    Entry(u"mShowCover", u"mView", u"Co&ver", u"Shows the cover in a window of its own", u"F7"),
     Entry(u"mFindApperances", u"mView", u"Find &Appearances...", u"Lists all titles in which a person is credited",
           u"Ctrl+F"),
     Entry(u"mGotoProfile", u"mView", u"&Go to Profile...", u"Shows a title by its name", u"Ctrl+G"),

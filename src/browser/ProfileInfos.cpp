@@ -3,9 +3,12 @@
 #include "base/FolderIndex.h"
 #include "browser/Browser.h"
 #include "browser/CollectionTabs.h"
+#include "browser/MediaIcon.h"
 #include "browser/Views.h"
 #include "database/DatabaseFunctions.h"
 #include "shell/Session.h"
+
+#include <QScopedValueRollback>
 
 namespace ostrand {
 
@@ -34,6 +37,29 @@ void Remember(Browser &browser, const QString &id, bool is_episode) {
     browser.session.CurrentIsEpisode = is_episode;
 }
 
+enum MainTab { kCreditsTab = 1, kDetailsTab, kAVTab };
+
+void TellProfileWindow(Browser &browser, const QString &id, bool is_episode) {
+    if (browser.hooks.ShowProfile) {
+        browser.hooks.ShowProfile(id, is_episode);
+    }
+}
+
+void ShowNoTitle(Browser &browser) {
+    ClearAllProfileInfos(browser);
+    TellProfileWindow(browser, {}, false);
+}
+
+/// Lets events run once; false when another title became the current one meanwhile.
+bool StaysCurrent(Browser &browser) {
+    const QString id = browser.session.CurrentProfileID;
+    if (!browser.turning) {
+        const QScopedValueRollback<bool> turn(browser.turning, true);
+        browser.session.services.pump.Turn();
+    }
+    return browser.session.CurrentProfileID == id && !browser.session.view.mTVShows;
+}
+
 /// listEpisodes holds the episodes on a title's discs.
 void ListAssignedEpisodes(Browser &browser, const QString &id) {
     sql::Recordset rows = browser.session.Database->OpenRecordset(
@@ -42,6 +68,25 @@ void ListAssignedEpisodes(Browser &browser, const QString &id) {
         EscapeSql(id) +
         u"' AND e.EpisodeID = p.EpisodeID AND s.SeriesID = e.SeriesID ORDER BY SortTitle, Season, EpisodeNo"_s);
     UpdateEpisodeList(browser, rows);
+}
+
+/// The caption, and what the panels tell in the selected tab.
+void FillPanels(Browser &browser, const sql::Recordset &record, const QString &id, bool is_episode, bool keep_credits) {
+    FillUPC(browser, record, is_episode);
+    browser.caption = is_episode ? EpisodeCaption(record) : MakeWindowCaption(record);
+    browser.picMedium = is_episode ? QString() : MediaIconKey(record.Text(u"Medium"));
+    const int tab = browser.tabMain_selected;
+    if (tab == kDetailsTab) {
+        FillLinksAndGroups(browser, id);
+    }
+    if (!is_episode && !keep_credits) {
+        ListAssignedEpisodes(browser, id);
+    }
+    if (tab == kAVTab) {
+        FillAV(browser, id);
+    } else if (tab == kDetailsTab) {
+        FillTexts(browser, record, id, is_episode);
+    }
 }
 
 QString FindTitle(const QString &id, bool is_episode) {
@@ -68,10 +113,13 @@ void UpdateSeriesList(Browser &browser, int row) {
         return;
     }
     if (!header && ShowSkin(browser, key, false)) {
+        StaysCurrent(browser);
         return;
     }
     GetProfileInfos(browser, key, false, false);
-    ShowCover(browser, key);
+    if (StaysCurrent(browser)) {
+        ShowCover(browser, key);
+    }
 }
 
 bool ShowSkin(Browser &browser, const QString &key, bool is_episode) {
@@ -81,6 +129,7 @@ bool ShowSkin(Browser &browser, const QString &key, bool is_episode) {
         return false;
     }
     browser.commands.SetEnabled(u"mEditTVEpisode"_s, is_episode);
+    TellProfileWindow(browser, id, is_episode);
     return true;
 }
 
@@ -97,23 +146,33 @@ void GetProfileInfos(Browser &browser, const QString &key, bool is_episode, bool
     Remember(browser, id, is_episode);
     browser.commands.SetEnabled(u"mEditTVEpisode"_s, is_episode);
     if (id.isEmpty() || !session.Database) {
-        ClearAllProfileInfos(browser);
+        ShowNoTitle(browser);
         return;
     }
     const sql::Recordset record = session.Database->OpenRecordset(FindTitle(id, is_episode));
     if (record.Eof()) {
-        ClearAllProfileInfos(browser);
+        ShowNoTitle(browser);
         return;
     }
-    browser.caption = is_episode ? EpisodeCaption(record) : MakeWindowCaption(record);
-    if (!is_episode && !keep_credits) {
-        ListAssignedEpisodes(browser, id);
-    }
+    FillPanels(browser, record, id, is_episode, keep_credits);
     Q_EMIT browser.TitleChanged();
+    TellProfileWindow(browser, id, is_episode);
+}
+
+void RefreshProfileInfos(Browser &browser) {
+    const Session &session = browser.session;
+    if (session.Database && !session.CurrentProfileID.isEmpty() && !session.view.mSkinEnable) {
+        GetProfileInfos(browser, session.CurrentProfileID, session.CurrentIsEpisode, true);
+    } else {
+        ClearProfileInfos(browser);
+        Q_EMIT browser.TitleChanged();
+    }
 }
 
 void ClearAllProfileInfos(Browser &browser) {
     browser.caption = browser.base_caption;
+    browser.picMedium.clear();
+    ClearProfileInfos(browser);
     if (!browser.session.view.mTVShows) {
         browser.listEpisodes.Clear();
     }

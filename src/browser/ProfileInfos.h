@@ -10,14 +10,17 @@ namespace sql {
 class Recordset;
 }
 
-/// A row of listSeries became current; -1 for none.
+/// A row of listSeries became current; -1 for none. Lets events run once before the cover is looked for.
 void UpdateSeriesList(Browser &browser, int row);
 /// Shows a title or an episode as a page where skins are on; false when the panels are to show it.
 bool ShowSkin(Browser &browser, const QString &key, bool is_episode);
-/// Makes a title or an episode the current one. With `keep_credits` the credits stay as they are.
+/// Makes a title or an episode the current one, and reads what the selected tab of tabMain shows of it. With
+/// `keep_credits` the credits stay as they are.
 void GetProfileInfos(Browser &browser, const QString &id, bool is_episode, bool keep_credits);
 /// Shows no title.
 void ClearAllProfileInfos(Browser &browser);
+/// Reads the panels anew after their language changed.
+void RefreshProfileInfos(Browser &browser);
 /// What the window's caption tells of a record of `Profiles`, or of one with columns named like those; a column that
 /// it does not have counts as empty.
 QString MakeWindowCaption(const sql::Recordset &record);

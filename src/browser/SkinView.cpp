@@ -127,6 +127,8 @@ void SkinView::Follow(const SkinLink &link) {
     case SkinLink::Kind::Episode:
         if (!ShowPage(target, true, QString(session.CurrentProfileID))) { // a copy: the page becomes the current one
             Redisplay(browser_);
+        } else if (browser_.hooks.ShowProfile) {
+            browser_.hooks.ShowProfile(target, true);
         }
         break;
     case SkinLink::Kind::Ordinary:

@@ -48,6 +48,9 @@ void EnterView(Browser &browser, bool movies, int tab) {
     ForgetTitle(browser); // so that who hears of the mode finds no row of the other one
     Q_EMIT browser.ModeChanged();
     ClearAllProfileInfos(browser);
+    if (browser.hooks.ShowProfile) {
+        browser.hooks.ShowProfile({}, false);
+    }
     browser.history.Clear();
     Q_EMIT browser.HistoryChanged();
     if (movies && view.LastTab != 1) {
@@ -62,6 +65,7 @@ void EnterView(Browser &browser, bool movies, int tab) {
     } else {
         if (view.LastTab != 1) {
             ShowMainTab(browser, 1);
+            ClearProfileInfos(browser);
         }
         GetProfileInfos(browser, {}, false, false);
     }

@@ -14,27 +14,53 @@ QSize SizeInPlace(QSize natural, QSize place, PictureGrowth growth) {
     return natural.scaled(place, Qt::KeepAspectRatio).expandedTo({1, 1});
 }
 
+void Open(QImageReader &reader, const QString &path) {
+    reader.setFileName(path);
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
+}
+
+bool IsTurned(const QImageReader &reader) {
+    return reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
+}
+
 } // namespace
 
-QPixmap ScaledPicture(const QString &path, QSize place, qreal pixel_ratio, PictureGrowth growth) {
+QSize PictureSize(const QString &path) {
+    if (path.isEmpty()) {
+        return {};
+    }
+    QImageReader reader;
+    Open(reader, path);
+    const QSize stored = reader.size();
+    if (stored.isEmpty()) {
+        return {};
+    }
+    return IsTurned(reader) ? stored.transposed() : stored;
+}
+
+QImage ScaledImage(const QString &path, QSize place, qreal pixel_ratio, PictureGrowth growth) {
     if (path.isEmpty()) {
         return {};
     }
     const QSize device_place = (QSizeF(place) * pixel_ratio).toSize();
-    QImageReader reader(path);
-    reader.setDecideFormatFromContent(true);
-    reader.setAutoTransform(true);
+    QImageReader reader;
+    Open(reader, path);
     const QSize stored = reader.size();
     if (device_place.isEmpty() || stored.isEmpty()) {
         return {};
     }
     // The size to read is that of the stored picture, before it is turned.
-    const bool turned = reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
+    const bool turned = IsTurned(reader);
     const QSize target = SizeInPlace(turned ? stored.transposed() : stored, device_place, growth);
     reader.setScaledSize(turned ? target.transposed() : target);
-    QPixmap picture = QPixmap::fromImage(reader.read());
-    picture.setDevicePixelRatio(pixel_ratio);
-    return picture;
+    QImage image = reader.read();
+    image.setDevicePixelRatio(pixel_ratio);
+    return image;
+}
+
+QPixmap ScaledPicture(const QString &path, QSize place, qreal pixel_ratio, PictureGrowth growth) {
+    return QPixmap::fromImage(ScaledImage(path, place, pixel_ratio, growth));
 }
 
 } // namespace ostrand

@@ -23,7 +23,8 @@ QVariant ListTable::data(const QModelIndex &index, int role) const {
 }
 
 QVariant ListTable::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
+    // The tool tip tells a header that is cut off.
+    if (orientation != Qt::Horizontal || (role != Qt::DisplayRole && role != Qt::ToolTipRole)) {
         return {};
     }
     return columns_.value(section);
@@ -54,6 +55,12 @@ void ListTable::sort(int column, Qt::SortOrder order) {
     }
     changePersistentIndexList(before, after);
     Q_EMIT layoutChanged({}, VerticalSortHint);
+}
+
+void ListTable::SetColumns(const QStringList &columns) {
+    Q_ASSERT(columns.size() == columns_.size());
+    columns_ = columns;
+    Q_EMIT headerDataChanged(Qt::Horizontal, 0, int(columns_.size()) - 1);
 }
 
 void ListTable::Assign(std::vector<ListTableRow> rows) {

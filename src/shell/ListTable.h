@@ -10,7 +10,9 @@ enum class ListRowKind { None, Credit, Movie, Episode };
 
 struct ListTableRow {
     QStringList texts;
-    QString key; ///< ProfileID or EpisodeID that a double click goes to; empty for none
+    /// ProfileID or EpisodeID that a double click goes to, or the value of the database that the row shows; empty for
+    /// none.
+    QString key;
     ListRowKind kind = ListRowKind::None;
 };
 
@@ -27,6 +29,8 @@ public:
     void sort(int column, Qt::SortOrder order) override;
 
     void Assign(std::vector<ListTableRow> rows);
+    /// Other headers for the same number of columns.
+    void SetColumns(const QStringList &columns);
     const std::vector<ListTableRow> &Rows() const { return rows_; }
 
     QString caption;

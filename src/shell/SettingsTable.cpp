@@ -16,6 +16,8 @@ using enum SettingStep;
 constexpr const char16_t *kDataServer = u"http://data.ostrand.example";
 constexpr const char16_t *kImdbServer = u"http://www.imdb.com";
 constexpr const char16_t *kCoverHost = u"http://covers.ostrand.example";
+constexpr const char16_t *kNotesPage = u"http://profiles.ostrand.example/index.php";
+constexpr const char16_t *kNotesPage3 = u"http://profiles3.ostrand.example/index.php";
 
 template <typename T>
 T &Member(Session &session, T ViewState::*member) {
@@ -272,6 +274,10 @@ void WriteIniSetting(const Session &session, const char16_t *section, const char
 
 QString CoverHost() {
     return QString::fromUtf16(kCoverHost);
+}
+
+QString ContributionNotesPage(bool profiler3) {
+    return QString::fromUtf16(profiler3 ? kNotesPage3 : kNotesPage);
 }
 
 std::span<const char16_t *const> WindowSections() {

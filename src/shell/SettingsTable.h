@@ -65,6 +65,9 @@ void WriteIniSetting(const Session &session, const char16_t *section, const char
 
 /// The host of the collection program's covers, for links to them.
 QString CoverHost();
+/// The page that tells who contributed what to a profile, without its query. Each of the two versions of the collection
+/// program has its own.
+QString ContributionNotesPage(bool profiler3);
 /// The sections of Settings.ini that hold Height, Width, Top and Left of one window each, in twips. Their default is
 /// the design of the window.
 std::span<const char16_t *const> WindowSections();

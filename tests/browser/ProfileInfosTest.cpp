@@ -115,5 +115,47 @@ TEST_F(ProfileInfosTest, ARowOfTheListShowsItsTitleAndCover) {
     EXPECT_EQ(session.CurrentProfileID, QString());
 }
 
+TEST_F(ProfileInfosTest, EventsRunOnceBeforeTheCoverIsLookedFor) {
+    Insert(u"Key_1"_s, u"A"_s, {}, {}, {}, {});
+    Insert(u"Key_2"_s, u"B"_s, {}, {}, {}, {});
+    TitleRow first;
+    first.key = u"Key_1"_s;
+    TitleRow second;
+    second.key = u"Key_2"_s;
+    browser.listSeries.Assign({first, second});
+    QString caption;
+    services.pump.At(1, [&] { caption = browser.caption; });
+    UpdateSeriesList(browser, 0);
+    EXPECT_EQ(services.pump.Turns(), 1);
+    EXPECT_EQ(caption, u"A"_s) << "the title is told by then";
+    // Another row that becomes the current one meanwhile stays so, and runs no events within these.
+    services.pump.At(2, [&] { UpdateSeriesList(browser, 1); });
+    UpdateSeriesList(browser, 0);
+    EXPECT_EQ(services.pump.Turns(), 2);
+    EXPECT_EQ(session.CurrentProfileID, u"Key_2"_s);
+    EXPECT_EQ(browser.cover_stem, session.CoverPath + u'2');
+}
+
+TEST_F(ProfileInfosTest, TheWindowWithEverythingFollows) {
+    Insert(u"Key_1"_s, u"A"_s, {}, {}, {}, {});
+    Run(u"INSERT INTO TVSeries (SeriesID, Title) VALUES ('S', 'Series')");
+    Run(u"INSERT INTO Episodes (EpisodeID, SeriesID, EpisodeTitle) VALUES ('S1', 'S', 'A')");
+    QStringList told;
+    browser.hooks.ShowProfile = [&](const QString &key, bool is_episode) {
+        told << key + (is_episode ? u" as episode"_s : QString());
+    };
+    GetProfileInfos(browser, u"Key_1|3"_s, false, false);
+    GetProfileInfos(browser, u"S1"_s, true, false);
+    GetProfileInfos(browser, u"gone"_s, false, false);
+    GetProfileInfos(browser, {}, false, false);
+    session.view.mSkinEnable = true;
+    browser.hooks.ShowSkin = [](const QString &, bool) { return true; };
+    ShowSkin(browser, u"Key_1|3"_s, false);
+    ShowSkin(browser, u"S1"_s, true);
+    browser.hooks.ShowSkin = [](const QString &, bool) { return false; };
+    ShowSkin(browser, u"S1"_s, true);
+    EXPECT_EQ(told, (QStringList{u"Key_1"_s, u"S1 as episode"_s, {}, {}, u"Key_1"_s, u"S1 as episode"_s}));
+}
+
 } // namespace
 } // namespace ostrand

@@ -324,6 +324,18 @@ TEST_F(SkinViewTest, AnEpisodeHasAWayBackToItsProfile) {
     EXPECT_EQ(BackKeys(), QStringList());
 }
 
+TEST_F(SkinViewTest, TheWindowWithEverythingFollowsThePages) {
+    On();
+    QStringList shown;
+    browser.hooks.ShowProfile = [&](const QString &key, bool is_episode) {
+        shown << key + (is_episode ? u" as episode"_s : QString());
+    };
+    Select(u"A1"_s);
+    EXPECT_TRUE(Click(u"?episodeid=H11"_s));
+    EXPECT_TRUE(Click(u"?profileid=B1"_s));
+    EXPECT_EQ(shown, (QStringList{u"A1"_s, u"H11 as episode"_s, u"B1"_s}));
+}
+
 TEST_F(SkinViewTest, AnEpisodeThatCannotBeShownLeadsToThePanels) {
     On();
     Select(u"A1"_s);

@@ -45,6 +45,13 @@ TEST_F(ScaledPictureTest, FitsItsPlaceAndKeepsItsRatio) {
     }
 }
 
+TEST_F(ScaledPictureTest, TheSizeComesFromTheHead) {
+    EXPECT_EQ(PictureSize(Picture({40, 20})), QSize(40, 20));
+    EXPECT_TRUE(PictureSize(dir.Write(u"text.jpg"_s, "no picture")).isEmpty());
+    EXPECT_TRUE(PictureSize(dir / u"missing.jpg"_s).isEmpty());
+    EXPECT_TRUE(PictureSize({}).isEmpty());
+}
+
 TEST_F(ScaledPictureTest, AHugePictureIsRead) {
     const QPixmap picture = ScaledPicture(Picture({9000, 6000}), {90, 90}, 1);
     EXPECT_EQ(picture.size(), QSize(90, 60));

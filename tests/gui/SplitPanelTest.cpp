@@ -65,6 +65,41 @@ TEST_F(SplitPanelTest, PlacesPanesAndBar) {
     EXPECT_EQ(second->geometry(), QRect(0, 110, 405, 95));
 }
 
+TEST_F(SplitPanelTest, APassingPositionLeavesTheOneThatIsKept) {
+    panel.SetPosition(1500);
+    Show();
+    panel.SetPassingPosition(3000);
+    EXPECT_EQ(first->width(), 200);
+    EXPECT_EQ(panel.Position(), 1500);
+    panel.SetPassingPosition(SplitPanel::kUnset);
+    EXPECT_EQ(first->width(), 100);
+    panel.SetPassingPosition(3000);
+    Drag(50);
+    EXPECT_EQ(first->width(), 250) << "the user decides";
+    EXPECT_EQ(panel.Position(), 3750);
+}
+
+TEST_F(SplitPanelTest, APassingPositionLeavesTheSecondPaneItsLeastSize) {
+    panel.SetPassingPosition(6000, 1500);
+    Show();
+    EXPECT_EQ(second->width(), 100);
+    panel.resize(200, 205);
+    EXPECT_EQ(second->width(), 100);
+    panel.resize(50, 205);
+    EXPECT_EQ(first->width(), 0);
+    panel.resize(1000, 205);
+    EXPECT_EQ(first->width(), 400);
+}
+
+TEST_F(SplitPanelTest, APassingPositionIsNoFirstOne) {
+    panel.SetDefaultPosition(0.4);
+    panel.SetPassingPosition(1500);
+    panel.resize(500, 205);
+    Show();
+    EXPECT_EQ(first->width(), 100);
+    EXPECT_EQ(panel.Position(), 200 * 15) << "the part of the extent";
+}
+
 TEST_F(SplitPanelTest, TheFirstShowTakesAPartOfTheExtent) {
     panel.SetDefaultPosition(0.4);
     panel.resize(500, 205);

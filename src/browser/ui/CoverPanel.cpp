@@ -1,13 +1,16 @@
 #include "browser/ui/CoverPanel.h"
 
 #include "browser/Browser.h"
+#include "browser/MediaIcon.h"
 #include "browser/ProfileInfos.h"
 #include "browser/Views.h"
 #include "browser/ui/GridDelegate.h"
+#include "browser/ui/MediumIcon.h"
 #include "browser/ui/PictureView.h"
 #include "shell/Session.h"
 
 #include <QHeaderView>
+#include <QResizeEvent>
 #include <QScopedValueRollback>
 #include <QShortcut>
 #include <QSignalBlocker>
@@ -15,7 +18,8 @@
 namespace ostrand {
 
 CoverPanel::CoverPanel(Browser &browser, QWidget *parent) :
-    QWidget(parent), browser_(browser), listSeasons_(new QComboBox(this)), picCover_(new PictureView(this)) {
+    QWidget(parent), browser_(browser), listSeasons_(new QComboBox(this)), picMedium_(new MediumIcon(this)),
+    picCover_(new PictureView(this)) {
     setObjectName(QStringLiteral("Frame4_1"));
     listSeasons_->setObjectName(QStringLiteral("listSeasons"));
     listSeasons_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
@@ -24,6 +28,7 @@ CoverPanel::CoverPanel(Browser &browser, QWidget *parent) :
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(listSeasons_);
+    layout->addWidget(picMedium_);
     layout->addWidget(picCover_, 1);
 
     connect(&browser_, &Browser::SeasonsChanged, this, &CoverPanel::ShowSeasons);
@@ -32,13 +37,25 @@ CoverPanel::CoverPanel(Browser &browser, QWidget *parent) :
     connect(listSeasons_, &QWidget::customContextMenuRequested, this,
             [this](const QPoint &place) { Q_EMIT SeasonMenuWanted(listSeasons_->mapToGlobal(place)); });
     connect(listSeasons_, &QComboBox::activated, this, [this](int index) { SelectSeason(browser_, index); });
-    connect(&browser_, &Browser::CoverChanged, this, [this] { picCover_->ShowFile(CurrentCoverFile(browser_)); });
+    connect(&browser_, &Browser::CoverChanged, this, [this] {
+        picCover_->ShowFile(CurrentCoverFile(browser_));
+        Q_EMIT WantedHeightChanged();
+    });
+    picCover_->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(picCover_, &QWidget::customContextMenuRequested, this,
+            [this](const QPoint &place) { Q_EMIT CoverMenuWanted(picCover_->mapToGlobal(place)); });
+    for (const auto signal : {&Browser::TitleChanged, &Browser::PageShown, &Browser::SkinChanged, &Browser::ModeChanged,
+                              &Browser::SettingsChanged}) {
+        connect(&browser_, signal, this, &CoverPanel::ShowMedium);
+    }
     connect(picCover_, &PictureView::Clicked, this, [this] { FlipCover(browser_); });
     TranslateNames();
     ShowSeasons();
+    ShowMedium();
 }
 
 void CoverPanel::TranslateNames() {
+    picMedium_->setAccessibleName(Translate(browser_.session, QStringLiteral("Medium")));
     listSeasons_->setAccessibleName(Translate(browser_.session, QStringLiteral("Season")));
     picCover_->setAccessibleName(Translate(browser_.session, QStringLiteral("Cover")));
     picCover_->setToolTip(Translate(browser_.session, QStringLiteral("Click to see the other side")));
@@ -50,6 +67,24 @@ void CoverPanel::ShowSeasons() {
     listSeasons_->addItems(browser_.listSeasons);
     listSeasons_->setCurrentIndex(browser_.current_season);
     listSeasons_->setVisible(browser_.session.view.mTVShows);
+}
+
+void CoverPanel::ShowMedium() {
+    picMedium_->ShowIcon(ShownMediaIcon(browser_));
+    picMedium_->setVisible(IsMediaIconShown(browser_));
+}
+
+int CoverPanel::WantedHeight() const {
+    const QSize picture = picCover_->NaturalSize();
+    return picture.isEmpty() ? 0 : picCover_->y() + width() * picture.height() / picture.width();
+}
+
+void CoverPanel::resizeEvent(QResizeEvent *event) {
+    QWidget::resizeEvent(event);
+    if (event->size().width() != event->oldSize().width()) {
+        // Later: who hears of it changes the height, which must not happen within this event.
+        QMetaObject::invokeMethod(this, &CoverPanel::WantedHeightChanged, Qt::QueuedConnection);
+    }
 }
 
 EpisodePanel::EpisodePanel(Browser &browser, QWidget *parent) :
@@ -75,8 +110,10 @@ EpisodePanel::EpisodePanel(Browser &browser, QWidget *parent) :
 void EpisodePanel::ConnectList() {
     connect(listEpisodes_->header(), &QHeaderView::sectionClicked, this, &EpisodePanel::SortByHeader);
     // Other episodes stand in the order of their own query.
-    connect(&browser_.listEpisodes, &QAbstractItemModel::modelReset, this,
-            [this] { listEpisodes_->header()->setSortIndicatorShown(false); });
+    connect(&browser_.listEpisodes, &QAbstractItemModel::modelReset, this, [this] {
+        sorted_by_ = -1;
+        listEpisodes_->header()->setSortIndicatorShown(false);
+    });
     connect(listEpisodes_, &QAbstractItemView::doubleClicked, this, &EpisodePanel::RowActivated);
     for (const int key : {Qt::Key_Return, Qt::Key_Enter}) {
         auto *enter = new QShortcut(QKeySequence(key), listEpisodes_, nullptr, nullptr, Qt::WidgetShortcut);
@@ -97,13 +134,17 @@ void EpisodePanel::ConnectList() {
 }
 
 void EpisodePanel::SortByHeader(int column) {
-    QHeaderView *header = listEpisodes_->header();
-    const bool again = header->isSortIndicatorShown() && header->sortIndicatorSection() == column &&
-                       header->sortIndicatorOrder() == Qt::AscendingOrder;
-    const Qt::SortOrder order = again ? Qt::DescendingOrder : Qt::AscendingOrder;
-    SortEpisodes(browser_, column, order);
-    header->setSortIndicatorShown(true);
-    header->setSortIndicator(column, order);
+    // The header flips its mark before it tells of the click, so that it cannot be asked.
+    order_ = sorted_by_ == column && order_ == Qt::AscendingOrder ? Qt::DescendingOrder : Qt::AscendingOrder;
+    sorted_by_ = column;
+    SortEpisodes(browser_, column, order_);
+    listEpisodes_->header()->setSortIndicatorShown(true);
+    listEpisodes_->header()->setSortIndicator(column, order_);
+}
+
+int EpisodePanel::LeastHeight() const {
+    constexpr int kRows = 3;
+    return listEpisodes_->header()->sizeHint().height() + kRows * listEpisodes_->fontMetrics().height() * 5 / 4;
 }
 
 void EpisodePanel::SetGridLines(bool shown) {

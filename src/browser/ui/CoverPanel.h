@@ -8,24 +8,35 @@ namespace ostrand {
 
 class Browser;
 class GridDelegate;
+class MediumIcon;
 class PictureView;
 
-/// Frame4_1: the seasons in TV view, the cover.
+/// Frame4_1: the seasons in TV view, the icon of the medium in movie view, the cover.
 class CoverPanel : public QWidget {
     Q_OBJECT
 public:
     explicit CoverPanel(Browser &browser, QWidget *parent = nullptr);
     void TranslateNames();
+    /// The height in which the cover fills the width; 0 without a cover.
+    int WantedHeight() const;
 
 Q_SIGNALS:
     /// The context menu of the seasons is asked for at a place of the screen.
     void SeasonMenuWanted(const QPoint &place);
+    /// The same of the cover.
+    void CoverMenuWanted(const QPoint &place);
+    void WantedHeightChanged();
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void ShowSeasons();
+    void ShowMedium();
 
     Browser &browser_;
     QComboBox *listSeasons_;
+    MediumIcon *picMedium_;
     PictureView *picCover_;
 };
 
@@ -36,6 +47,8 @@ public:
     explicit EpisodePanel(Browser &browser, QWidget *parent = nullptr);
     void SetGridLines(bool shown);
     void TranslateNames();
+    /// A few rows.
+    int LeastHeight() const;
 
 Q_SIGNALS:
     /// The context menu is asked for at a place of the screen.
@@ -50,6 +63,8 @@ private:
     Browser &browser_;
     QTreeView *listEpisodes_;
     GridDelegate *delegate_;
+    int sorted_by_ = -1;
+    Qt::SortOrder order_ = Qt::AscendingOrder;
     bool following_ = false;
 };
 

@@ -5,9 +5,11 @@
 #include "browser/CollectionTabs.h"
 #include "browser/CollectionTypes.h"
 #include "browser/Navigation.h"
+#include "browser/ProfileInfos.h"
 #include "browser/SkinView.h"
 #include "browser/TitleQueries.h"
 #include "browser/Views.h"
+#include "browser/ui/frmCover.h"
 #include "browser/ui/frmMain.h"
 #include "collection_files/ProfilerImport.h"
 #include "database/TitlesDue.h"
@@ -45,6 +47,16 @@ void ShowDropBox(frmMain &main) {
     window->show();
     window->raise();
     window->activateWindow(); // desktops give a tool window no focus of their own
+}
+
+void ShowCoverWindow(frmMain &main) {
+    auto *window = main.findChild<frmCover *>();
+    if (!window) {
+        window = new frmCover(main.browser, &main);
+    }
+    window->show();
+    window->raise();
+    window->activateWindow();
 }
 
 void ToggleGridLines(Browser &browser, bool ViewState::GridLines::*shown) {
@@ -88,6 +100,8 @@ constexpr Handler kHandlers[] = {
     {u"mUseCustomTitle", Browse<ToggleCustomTitle>},
     {u"mUseOriginalTitle", Browse<ToggleOriginalTitle>},
     {u"mShowDescription", Browse<ToggleDescription>},
+    {u"mShowCover", ShowCoverWindow},
+    {u"mFlipCover", Browse<FlipCover>},
     {u"mGotoProfile", Browse<GotoProfile>},
     {u"mSelectRandom", Browse<SelectRandom>},
     {u"mShowLoanDue", Run<ShowTitlesDue>},

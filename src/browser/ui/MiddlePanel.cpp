@@ -3,6 +3,8 @@
 #include "browser/Browser.h"
 #include "browser/CollectionTabs.h"
 #include "browser/ui/EmptyPlace.h"
+#include "browser/ui/ProfileAV.h"
+#include "browser/ui/ProfileDetails.h"
 #include "shell/Session.h"
 #include "shell/ui/SplitPanel.h"
 
@@ -13,7 +15,7 @@ namespace ostrand {
 
 MiddlePanel::MiddlePanel(Browser &browser, QWidget *parent) :
     QWidget(parent), browser_(browser), tabMain_(new QTabBar(this)), pages_(new QStackedWidget(this)),
-    Split4_(new SplitPanel) {
+    Split4_(new SplitPanel), Details_(new ProfileDetails(browser)), AV_(new ProfileAV(browser)) {
     tabMain_->setObjectName(QStringLiteral("tabMain"));
     tabMain_->setExpanding(false);
     tabMain_->setUsesScrollButtons(true);
@@ -26,8 +28,8 @@ MiddlePanel::MiddlePanel(Browser &browser, QWidget *parent) :
     Split4_->SetControl1(EmptyPlace(QStringLiteral("ListCast")));
     Split4_->SetControl2(EmptyPlace(QStringLiteral("FrameCrew")));
     pages_->addWidget(Split4_);
-    pages_->addWidget(EmptyPlace(QStringLiteral("Details")));
-    pages_->addWidget(EmptyPlace(QStringLiteral("AV")));
+    pages_->addWidget(Details_);
+    pages_->addWidget(AV_);
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -47,6 +49,8 @@ MiddlePanel::MiddlePanel(Browser &browser, QWidget *parent) :
 
 void MiddlePanel::TranslateNames() {
     tabMain_->setAccessibleName(Translate(browser_.session, QStringLiteral("Panels")));
+    Details_->TranslateNames();
+    AV_->TranslateNames();
 }
 
 void MiddlePanel::ShowTabs() {

@@ -8,6 +8,8 @@ class QStackedWidget;
 namespace ostrand {
 
 class Browser;
+class ProfileAV;
+class ProfileDetails;
 class SplitPanel;
 
 /// The tabs of tabMain and what belongs to each: Split4 with the credits, Details, AV.
@@ -25,6 +27,8 @@ private:
     QTabBar *tabMain_;
     QStackedWidget *pages_;
     SplitPanel *Split4_;
+    ProfileDetails *Details_;
+    ProfileAV *AV_;
     bool following_ = false;
 };
 

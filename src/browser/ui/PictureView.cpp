@@ -2,31 +2,96 @@
 
 #include "platform_qt/ScaledPicture.h"
 
+#include <QDateTime>
+#include <QFileInfo>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QPromise>
 #include <QStyle>
 #include <QStyleOptionFocusRect>
+#include <QThreadPool>
 
 namespace ostrand {
 
+namespace {
+
+constexpr int kCachedPictures = 8;
+
+} // namespace
+
+PictureView::PictureView(QWidget *parent) : QWidget(parent), cache_(kCachedPictures) {
+    connect(&watcher_, &QFutureWatcher<QImage>::finished, this, &PictureView::Take);
+}
+
+PictureView::~PictureView() {
+    Stop();
+}
+
 void PictureView::ShowFile(const QString &path) {
     path_ = path;
+    natural_ = PictureSize(path);
+    changed_ = path.isEmpty() ? 0 : QFileInfo(path).lastModified().toMSecsSinceEpoch();
     Load();
     setFocusPolicy(path.isEmpty() ? Qt::NoFocus : Qt::StrongFocus);
 }
 
+/// What is being read is for nothing.
+void PictureView::Stop() {
+    watcher_.cancel();
+    watcher_.setFuture({});
+}
+
 void PictureView::Load() {
-    picture_ = path_.isEmpty() ? QPixmap() : ScaledPicture(path_, size(), devicePixelRatioF());
+    const qreal ratio = devicePixelRatioF();
+    const QSize device = (QSizeF(size()) * ratio).toSize();
+    const QString wanted =
+        QStringLiteral("%1x%2x%3|%4|%5").arg(device.width()).arg(device.height()).arg(ratio).arg(changed_).arg(path_);
+    if (wanted == wanted_) {
+        return;
+    }
+    Stop();
+    wanted_ = wanted;
+    const QPixmap *known = cache_.object(wanted_);
+    if (known || !HasPicture() || device.isEmpty()) {
+        picture_ = known ? *known : QPixmap();
+        update();
+        return;
+    }
+    auto promise = std::make_shared<QPromise<QImage>>();
+    promise->start();
+    watcher_.setFuture(promise->future());
+    QThreadPool::globalInstance()->start([promise, path = path_, place = size(), ratio] {
+        if (!promise->isCanceled()) {
+            promise->addResult(ScaledImage(path, place, ratio));
+        }
+        promise->finish();
+    });
+}
+
+void PictureView::Take() {
+    if (watcher_.isCanceled() || watcher_.future().resultCount() == 0) {
+        return;
+    }
+    picture_ = QPixmap::fromImage(watcher_.result());
+    if (picture_.isNull()) {
+        natural_ = {}; // the head promised more than there is
+    }
+    cache_.insert(wanted_, new QPixmap(picture_));
     update();
 }
 
 void PictureView::paintEvent(QPaintEvent *) {
+    Load(); // where the window came to a screen with other pixels
     if (picture_.isNull()) {
         return;
     }
     QPainter painter(this);
-    const QSizeF extent = picture_.deviceIndependentSize();
-    painter.drawPixmap(QPointF((width() - extent.width()) / 2, 0), picture_);
+    const QSizeF sharp = picture_.deviceIndependentSize();
+    const QSizeF wanted = sharp.scaled(size(), Qt::KeepAspectRatio);
+    const bool fits = std::abs(sharp.width() - wanted.width()) < 1 && std::abs(sharp.height() - wanted.height()) < 1;
+    const QSizeF extent = fits ? sharp : wanted; // a picture for the size of before stands in
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, !fits);
+    painter.drawPixmap(QRectF(QPointF((width() - extent.width()) / 2, 0), extent), picture_, picture_.rect());
     if (hasFocus()) {
         QStyleOptionFocusRect option;
         option.initFrom(this);

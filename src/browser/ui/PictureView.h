@@ -1,21 +1,31 @@
 // Shows one picture, scaled into its box.
 #pragma once
 
+#include <QCache>
+#include <QFutureWatcher>
+#include <QImage>
 #include <QPixmap>
 #include <QWidget>
 
 namespace ostrand {
 
 /// The picture keeps its ratio and is drawn as sharp as the screen can. A file that is no picture shows nothing.
+/// Pictures are read and scaled beside the window's own work; until one is there, the one before it stays.
 class PictureView : public QWidget {
     Q_OBJECT
 public:
-    using QWidget::QWidget;
+    explicit PictureView(QWidget *parent = nullptr);
+    ~PictureView() override;
 
-    /// Empty for no picture.
+    /// Empty for no picture. A file that changed since is read again.
     void ShowFile(const QString &path);
     const QString &File() const { return path_; }
-    bool HasPicture() const { return !picture_.isNull(); }
+    /// Told from the head of the file at once.
+    bool HasPicture() const { return !natural_.isEmpty(); }
+    QSize NaturalSize() const { return natural_; }
+    /// The picture on the screen is not yet the one of the file in the size of the box.
+    bool IsLoading() const { return watcher_.isRunning(); }
+    const QPixmap &Picture() const { return picture_; }
     QSize sizeHint() const override { return {200, 280}; }
 
 Q_SIGNALS:
@@ -29,9 +39,16 @@ protected:
 
 private:
     void Load();
+    void Take();
+    void Stop();
 
     QString path_;
+    QSize natural_;
+    qint64 changed_ = 0; ///< when the file was, in milliseconds
     QPixmap picture_;
+    QString wanted_; ///< what the cache calls the picture in the size of the box
+    QCache<QString, QPixmap> cache_;
+    QFutureWatcher<QImage> watcher_;
 };
 
 } // namespace ostrand

@@ -24,6 +24,7 @@
 #include "shell/StartUp.h"
 #include "shell/ui/SplitBar.h"
 #include "shell/ui/SplitPanel.h"
+#include "shell/ui/Twips.h"
 #include "shell/ui/frmListView.h"
 #include "shell/ui/frmSplash.h"
 
@@ -143,7 +144,8 @@ void frmMain::OrderTabs() {
         stops.append(toolMain_->findChild<QToolButton *>(action->objectName()));
     }
     for (const char16_t *name :
-         {u"tabColList", u"comboFilter", u"listSeries", u"listSeasons", u"picCover", u"listEpisodes", u"tabMain"}) {
+         {u"tabColList", u"comboFilter", u"listSeries", u"listSeasons", u"picCover", u"listEpisodes", u"tabMain",
+          u"UPC", u"urlIMDB", u"listGenres", u"listStudios", u"listFeatures", u"listAudio", u"listSubtitles"}) {
         stops.append(findChild<QWidget *>(QString::fromUtf16(name)));
     }
     // What takes no focus, such as an empty cover, could get no place.
@@ -174,6 +176,7 @@ void frmMain::ConnectBrowser() {
     connect(&browser, &Browser::DatabaseOpened, this,
             [this] { titles_->ShowDatabasePath(browser.session.DatabaseFile); });
     connect(&browser, &Browser::ModeChanged, this, &frmMain::ShowView);
+    connect(cover_, &CoverPanel::WantedHeightChanged, this, &frmMain::ArrangeCover);
     connect(titles_->List(), &TitleListView::RowActivated, this,
             [this] { browser.commands.Run(u"mProfileInformation"_s); });
     connect(episodes_, &EpisodePanel::RowActivated, this, [this] { browser.commands.Run(u"mEpisodeInfoContext"_s); });
@@ -192,6 +195,8 @@ void frmMain::ConnectContextMenus() {
     });
     connect(cover_, &CoverPanel::SeasonMenuWanted, this,
             [this](const QPoint &place) { OpenContextMenu(u"mSeasonTools"_s, place); });
+    connect(cover_, &CoverPanel::CoverMenuWanted, this,
+            [this](const QPoint &place) { OpenContextMenu(u"mCoverTools"_s, place); });
     connect(episodes_, &EpisodePanel::MenuWanted, this, [this](const QPoint &place) {
         browser.commands.SetChecked(u"mLockEpisode"_s, IsEpisodeLocked(browser));
         OpenContextMenu(u"mEpisodeTools"_s, place);
@@ -315,7 +320,13 @@ void frmMain::ShowView() {
     cover_->setVisible(cover);
     episodes_->setVisible(episodes);
     Split(6)->setVisible(cover || episodes);
+    ArrangeCover();
     setWindowTitle(browser.caption);
+}
+
+void frmMain::ArrangeCover() {
+    const int wanted = browser.session.view.mTVShows ? 0 : cover_->WantedHeight();
+    Split(6)->SetPassingPosition(wanted > 0 ? ToTwips(wanted) : SplitPanel::kUnset, ToTwips(episodes_->LeastHeight()));
 }
 
 void frmMain::ShowSkinOrPanels() {

@@ -65,6 +65,8 @@ private:
     void SetFonts();
     void ApplyGridLines();
     void ShowView();
+    /// Gives the cover the height that its ratio asks for, above the episodes of a title.
+    void ArrangeCover();
     /// Puts the view of pages or the panels into their place.
     void ShowSkinOrPanels();
     /// Opens a context menu, unless there is no database that its entries could work on.

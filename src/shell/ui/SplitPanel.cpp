@@ -60,8 +60,17 @@ void SplitPanel::SetBackColor(const QColor &color) {
 
 void SplitPanel::SetPosition(int twips) {
     position_ = std::max(twips, 0);
+    passing_position_ = kUnset;
     Place();
     Q_EMIT PositionChanged(position_);
+}
+
+void SplitPanel::SetPassingPosition(int twips, int least_second) {
+    if (twips != passing_position_ || least_second != least_second_) {
+        passing_position_ = twips;
+        least_second_ = least_second;
+        Place();
+    }
 }
 
 void SplitPanel::SetDefaultPosition(double fraction) {
@@ -87,7 +96,14 @@ bool SplitPanel::IsHiddenByOwner(int number) const {
 }
 
 int SplitPanel::WantedPixels() const {
-    return position_ == kUnset ? int(default_position_ * Extent()) : FromTwips(position_);
+    if (passing_position_ != kUnset) {
+        return std::max(std::min(FromTwips(passing_position_), Extent() - BarWidth() - FromTwips(least_second_)), 0);
+    }
+    return position_ == kUnset ? DefaultPixels() : FromTwips(position_);
+}
+
+int SplitPanel::DefaultPixels() const {
+    return int(default_position_ * Extent());
 }
 
 int SplitPanel::Placed(int wanted, int &snapped) const {
@@ -172,7 +188,7 @@ void SplitPanel::resizeEvent(QResizeEvent *event) {
 void SplitPanel::showEvent(QShowEvent *event) {
     QWidget::showEvent(event);
     if (position_ == kUnset && Extent() > 0) {
-        position_ = ToTwips(WantedPixels());
+        position_ = ToTwips(DefaultPixels());
     }
     Place();
 }

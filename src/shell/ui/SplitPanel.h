@@ -52,6 +52,9 @@ public:
     /// panel was shown for the first time, unless it was set.
     int Position() const { return position_; }
     void SetPosition(int twips);
+    /// Where the bar lies until it is moved or this is set to kUnset, whatever Position says. The second pane gets its
+    /// least size before the first gets its own.
+    void SetPassingPosition(int twips, int least_second = 0);
     /// The position that the first show gives when none was set, as a part of the panel's extent. 0.5 at first.
     void SetDefaultPosition(double fraction);
     /// 0 for none, 1 or 2 for the pane that vanished at the edge.
@@ -80,6 +83,7 @@ private:
     /// Where a key takes the bar; a bar at the edge comes away from it.
     int KeyTarget(int from, int wanted) const;
     int WantedPixels() const;
+    int DefaultPixels() const;
     void Place();
     void ShowPane(int number, bool shown);
     QRect Slice(int from, int length) const;
@@ -90,6 +94,8 @@ private:
     int min_panel_size_ = 2000;
     int splitter_width_ = 75;
     int position_ = kUnset;
+    int passing_position_ = kUnset;
+    int least_second_ = 0; ///< twips, while there is a passing position
     double default_position_ = 0.5;
     bool horizontal_ = false;
     bool snap_to_edge_ = false;

@@ -1,0 +1,42 @@
+// What the panels with the data of a title have in common.
+#pragma once
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QScrollArea>
+
+class QVBoxLayout;
+
+namespace ostrand {
+
+class Browser;
+class PanelList;
+
+/// A column of texts and lists that scrolls when there is little room. What it shows comes from the browser.
+class TextPanel : public QScrollArea {
+    Q_OBJECT
+public:
+    TextPanel(Browser &browser, const QString &name, QWidget *parent = nullptr);
+
+protected:
+    /// A frame of that name at the end of the column.
+    QVBoxLayout *AddFrame(const QString &name, int stretch);
+    /// A text that can be selected and breaks where there is too little room.
+    QLabel *AddText(QVBoxLayout &frame, const QString &name);
+    /// A list whose rows lead to the titles of a category.
+    PanelList *AddList(QVBoxLayout &frame, class ListTable &table, const QString &name, const QString &category);
+    /// A check box that only shows.
+    QCheckBox *AddMark(QVBoxLayout &frame, const QString &name);
+    /// An empty text takes no room.
+    static void ShowText(QLabel &label, const QString &text);
+    QString Shown(const char16_t *text) const;
+    /// The texts of the lists' menus, with the name of each.
+    void TranslateList(PanelList &list, const char16_t *name);
+
+    Browser &browser_;
+
+private:
+    QVBoxLayout *column_;
+};
+
+} // namespace ostrand

@@ -1,0 +1,122 @@
+#include "browser/ui/PictureView.h"
+
+#include "support/TempDir.h"
+
+#include <QDateTime>
+#include <QFile>
+#include <QImage>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace ostrand {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class PictureViewTest : public ::testing::Test {
+protected:
+    QString Picture(const QString &name, QSize size, const QColor &colour) {
+        QImage image(size, QImage::Format_RGB32);
+        image.fill(colour);
+        EXPECT_TRUE(image.save(dir / name));
+        return dir / name;
+    }
+    void SetUp() override {
+        view.resize(100, 100);
+        view.show();
+    }
+    /// The colour in the middle of the picture on the screen.
+    QColor Colour() const { return view.Picture().toImage().pixelColor(view.Picture().rect().center()); }
+    void Wait() {
+        ASSERT_TRUE(QTest::qWaitFor([this] { return !view.IsLoading(); }));
+        QCoreApplication::processEvents();
+    }
+
+    test::TempDir dir;
+    PictureView view;
+};
+
+TEST_F(PictureViewTest, ThePictureComesAfterItsFileIsKnown) {
+    const QString red = Picture(u"a.png"_s, {400, 200}, Qt::red);
+    view.ShowFile(red);
+    EXPECT_TRUE(view.HasPicture());
+    EXPECT_EQ(view.NaturalSize(), QSize(400, 200));
+    EXPECT_TRUE(view.Picture().isNull()) << "the window did not wait";
+    Wait();
+    EXPECT_EQ(view.Picture().deviceIndependentSize(), QSizeF(100, 50));
+    EXPECT_EQ(view.Picture().devicePixelRatio(), view.devicePixelRatioF()) << "as sharp as the screen";
+    EXPECT_EQ(Colour(), QColor(Qt::red));
+}
+
+TEST_F(PictureViewTest, TheLastFileAskedForIsTheOneShown) {
+    const QString red = Picture(u"a.png"_s, {400, 200}, Qt::red);
+    const QString blue = Picture(u"b.png"_s, {400, 200}, Qt::blue);
+    for (int i = 0; i < 20; ++i) {
+        view.ShowFile(i % 2 == 0 ? red : blue);
+    }
+    Wait();
+    EXPECT_EQ(Colour(), QColor(Qt::blue));
+    view.ShowFile(red);
+    EXPECT_EQ(Colour(), QColor(Qt::blue)) << "it stays until the other one is there";
+    Wait();
+    EXPECT_EQ(Colour(), QColor(Qt::red));
+    view.ShowFile(blue);
+    EXPECT_EQ(Colour(), QColor(Qt::blue)) << "known already";
+    view.ShowFile({});
+    EXPECT_TRUE(view.Picture().isNull());
+    EXPECT_FALSE(view.HasPicture());
+    view.ShowFile(red);
+    view.ShowFile({});
+    Wait();
+    EXPECT_TRUE(view.Picture().isNull()) << "what was under way comes to nothing";
+}
+
+TEST_F(PictureViewTest, AChangedFileIsReadAgain) {
+    const QString path = Picture(u"a.png"_s, {400, 200}, Qt::red);
+    view.ShowFile(path);
+    Wait();
+    Picture(u"a.png"_s, {400, 200}, Qt::green);
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    ASSERT_TRUE(file.setFileTime(QDateTime::fromSecsSinceEpoch(1'000'000'000), QFileDevice::FileModificationTime));
+    file.close();
+    view.ShowFile(path);
+    Wait();
+    EXPECT_EQ(Colour(), QColor(Qt::green));
+}
+
+TEST_F(PictureViewTest, WhatIsNoPictureShowsNothing) {
+    const QString whole = Picture(u"a.png"_s, {400, 200}, Qt::red);
+    const struct {
+        const char *name;
+        QString path;
+    } cases[] = {
+        {"text", dir.Write(u"b.jpg"_s, "no picture")},
+        {"empty", dir.Write(u"c.jpg"_s, "")},
+        {"missing", dir / u"d.jpg"_s},
+        {"only a head", dir.Write(u"e.ppm"_s, "P6\n40 20\n255\n")},
+    };
+    for (const auto &c : cases) {
+        view.ShowFile(whole);
+        Wait();
+        view.ShowFile(c.path);
+        Wait();
+        EXPECT_TRUE(view.Picture().isNull()) << c.name;
+        EXPECT_FALSE(view.HasPicture()) << c.name;
+    }
+}
+
+TEST_F(PictureViewTest, AViewMayGoWhileItsPictureComes) {
+    const QString red = Picture(u"a.png"_s, {3000, 2000}, Qt::red);
+    for (int i = 0; i < 5; ++i) {
+        PictureView passing;
+        passing.resize(500, 500);
+        passing.ShowFile(red);
+    }
+    view.ShowFile(red);
+    Wait();
+    EXPECT_FALSE(view.Picture().isNull());
+}
+
+} // namespace
+} // namespace ostrand
