@@ -13,6 +13,8 @@
 #include "database/TitlesDue.h"
 #include "database/ui/frmSwitchDatabase.h"
 #include "people/ui/frmDropBox.h"
+#include "queries/QueryFileCommands.h"
+#include "queries/ui/frmSQLQuery.h"
 #include "shell/FileCommands.h"
 #include "shell/Session.h"
 #include "shell/ui/frmAbout.h"
@@ -40,6 +42,17 @@ void ShowDropBox(frmMain &main) {
     window->show();
     window->raise();
     window->activateWindow(); // desktops give a tool window no focus of their own
+}
+
+void ShowSqlQuery(frmMain &main) {
+    auto *window = main.findChild<frmSQLQuery *>();
+    if (!window) {
+        window = new frmSQLQuery(main.browser, &main);
+        window->perform = [&main](const std::function<void()> &action) { main.Perform(action); };
+    }
+    window->show();
+    window->raise();
+    window->activateWindow();
 }
 
 void ToggleGridLines(Browser &browser, bool ViewState::GridLines::*shown) {
@@ -73,6 +86,10 @@ constexpr Handler kHandlers[] = {
     {u"mUpdateMovieData", [](frmMain &main) { ImportProfilerData(main.browser.session, {}); }},
     {u"mImportAdditionalInfos", Run<ChooseAdditionalInfosToImport>},
     {u"mExportAdditionalInfos", Run<ChooseAdditionalInfosToExport>},
+    {u"mImportSQL", Run<ChooseSQLToImport>},
+    {u"mExportSQL", Run<ChooseSQLToExport>},
+    {u"mImportStrings", Run<ChooseStringsToImport>},
+    {u"mExportStrings", Run<ChooseStringsToExport>},
     {u"mCommandFile", Run<ChooseCommandFile>},
     {u"mExit", [](frmMain &main) { main.close(); }},
     {u"mTVShows", Browse<ShowTVShows>},
@@ -107,6 +124,7 @@ constexpr Handler kHandlers[] = {
     {u"mRenameCollectionType", Browse<RenameCollectionType>},
     {u"mRemoveColType", Browse<RemoveColType>},
     {u"mDropBox", ShowDropBox},
+    {u"mSQLQuery", ShowSqlQuery},
     {u"mSettings", [](frmMain &main) { frmSettings(main.browser.session, &main).exec(); }},
     {u"mAbout", [](frmMain &main) { frmAbout(main.browser.session, &main).exec(); }},
 };
