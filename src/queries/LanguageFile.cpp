@@ -89,6 +89,21 @@ bool ReplaceTable(Session &session, const std::vector<Entry> &entries) {
     }
 }
 
+/// Does something to the translations while the window shows English, from which it then goes to the new ones: what
+/// it shows could not be traced back through a table that is gone.
+bool InEnglish(Session &session, const std::function<bool()> &action) {
+    const bool on = session.UseUserDefinedStrings && session.window.MenuStrings;
+    if (!on) {
+        return action();
+    }
+    session.UseUserDefinedStrings = false;
+    session.window.MenuStrings();
+    const bool done = action();
+    session.UseUserDefinedStrings = true;
+    session.window.MenuStrings();
+    return done;
+}
+
 std::vector<Entry> FinishedEntries(Session &session) {
     std::vector<Entry> entries;
     sql::Recordset rows = session.Database->OpenRecordset(u"SELECT * FROM Translation");
@@ -131,13 +146,7 @@ bool ImportStringsFromFile(Session &session, const QString &path) {
     }
     const std::optional<std::vector<Entry>> entries =
         IsXmlPath(path) ? ReadXml(session, path) : ReadText(session, path);
-    if (!entries || !ReplaceTable(session, *entries)) {
-        return false;
-    }
-    if (session.UseUserDefinedStrings && session.window.MenuStrings) {
-        session.window.MenuStrings();
-    }
-    return true;
+    return entries && InEnglish(session, [&] { return ReplaceTable(session, *entries); });
 }
 
 bool ExportStringsToFile(Session &session, const QString &path) {

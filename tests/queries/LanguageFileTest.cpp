@@ -144,13 +144,13 @@ TEST_F(LanguageFileTest, ArchivesGoThroughTheTemporaryFolder) {
 }
 
 TEST_F(LanguageFileTest, TheWindowSpeaksTheNewLanguageAtOnceWhereItIsSwitchedOn) {
-    int renewed = 0;
-    session.window.MenuStrings = [&] { ++renewed; };
-    Import(u"a.cfg"_s, "Yes|Ja");
-    EXPECT_EQ(renewed, 0);
+    QStringList shown;
+    session.window.MenuStrings = [&] { shown += Translate(session, u"Yes"_s); };
+    Import(u"a.cfg"_s, "Yes|Oui");
+    EXPECT_EQ(shown, QStringList());
     session.UseUserDefinedStrings = true;
     Import(u"a.cfg"_s, "Yes|Ja");
-    EXPECT_EQ(renewed, 1);
+    EXPECT_EQ(shown, (QStringList{u"Yes"_s, u"Ja"_s})) << "by way of English";
     EXPECT_EQ(Translate(session, u"Yes"_s), u"Ja"_s);
     session.UseUserDefinedStrings = false;
     session.TraceStrings = true;
