@@ -153,6 +153,10 @@ QString QtDialogs::ChooseFile(const FileRequest &request, bool save) const {
     }
     if (save) {
         dialog.setDefaultSuffix(SuffixOf(request.filters));
+        QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&](const QString &chosen) {
+            const qsizetype place = filters.indexOf(chosen);
+            dialog.setDefaultSuffix(SuffixOf(request.filters.mid(std::max<qsizetype>(place, 0), 1)));
+        });
     }
     SetInitial(dialog, request.initial);
     if (dialog.exec() != QDialog::Accepted) {

@@ -6,6 +6,8 @@
 #include "collection_files/ProfilerImport.h"
 #include "database/DatabaseFunctions.h"
 #include "html_export/CreateOfflineHtml.h"
+#include "queries/LanguageFile.h"
+#include "queries/SqlFile.h"
 #include "shell/Session.h"
 
 namespace ostrand {
@@ -46,10 +48,10 @@ constexpr FileCommand kCommands[] = {
     {u"importprofilerdatabase", [](Session &s, const QString &file) { ImportProfilerData(s, file); }},
     {u"exportaliastofile", nullptr},
     {u"importaliasfromfile", nullptr},
-    {u"exportsqltofile", nullptr},
-    {u"importsqlfromfile", nullptr},
-    {u"importtranslationfromfile", nullptr},
-    {u"exporttranslationtofile", nullptr},
+    {u"exportsqltofile", [](Session &s, const QString &file) { ExportSQLToFile(s, file); }},
+    {u"importsqlfromfile", [](Session &s, const QString &file) { ImportSQLFromFile(s, file); }},
+    {u"importtranslationfromfile", [](Session &s, const QString &file) { ImportStringsFromFile(s, file); }},
+    {u"exporttranslationtofile", [](Session &s, const QString &file) { ExportStringsToFile(s, file); }},
     {u"opendatabase", [](Session &s, const QString &file) { OpenCollectionDatabase(s, file); }},
     {u"close", RequestClose},
     {u"runcommandfile", RunCommandFile},

@@ -558,7 +558,9 @@ void Database::Flush() {
     impl_->batch->Flush();
 }
 void Database::FlushIfDue() {
-    impl_->batch->FlushIfDue();
+    if (!impl_->in_progress) { // a statement that still runs lets no commit through
+        impl_->batch->FlushIfDue();
+    }
 }
 
 void Database::Interrupt() {

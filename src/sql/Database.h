@@ -48,7 +48,8 @@ public:
 
     /// Makes all that was done durable, unless a bracket is open.
     void Flush();
-    /// Makes it durable when the time since the first undurable statement is over; for idle moments.
+    /// Makes it durable when the time since the first undurable statement is over; for idle moments. Does nothing from
+    /// within `SetProgress`.
     void FlushIfDue();
     /// Ends the statement that runs, from within `SetProgress` or from another thread; it throws Interrupted.
     void Interrupt();

@@ -93,15 +93,23 @@ int Recordset::FindOrdinal(QStringView name) const {
 }
 
 const Value &Recordset::Get(int ordinal) const {
-    if (Eof()) {
-        throw NoRow();
-    }
-    RequireField(ordinal, data_->columns);
-    return data_->cells[size_t(data_->current) * size_t(data_->columns) + size_t(ordinal)];
+    return GetAt(data_->current, ordinal);
 }
 
 QString Recordset::Text(int ordinal) const {
-    const Value &value = Get(ordinal);
+    return TextAt(data_->current, ordinal);
+}
+
+const Value &Recordset::GetAt(int row, int ordinal) const {
+    if (row < 0 || row >= data_->rows) {
+        throw NoRow();
+    }
+    RequireField(ordinal, data_->columns);
+    return data_->cells[size_t(row) * size_t(data_->columns) + size_t(ordinal)];
+}
+
+QString Recordset::TextAt(int row, int ordinal) const {
+    const Value &value = GetAt(row, ordinal);
     switch (value.GetType()) {
     case Value::Type::Null:
         return {};

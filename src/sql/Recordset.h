@@ -52,6 +52,9 @@ public:
     /// " hh:nn:ss" behind where there is a time, numbers with a point as decimal mark.
     QString Text(int ordinal) const;
     QString Text(QStringView name) const { return Text(Ordinal(name)); }
+    /// Any row, counted from 0, wherever the cursor stands; throws NoCurrentRecord for one that is not there.
+    const Value &GetAt(int row, int ordinal) const;
+    QString TextAt(int row, int ordinal) const;
     qint64 Integer(QStringView name) const { return Get(name).Integer(); }
     double Real(QStringView name) const { return Get(name).Real(); }
     bool Boolean(QStringView name) const { return Get(name).Integer() != 0; }

@@ -198,6 +198,22 @@ TEST_F(DatabaseTest, ProgressMayAskTheDatabase) {
     EXPECT_EQ(seen, u"300"_s);
 }
 
+TEST_F(DatabaseTest, AnIdleMomentWithinAChangeCommitsNothing) {
+    Fill(300);
+    int calls = 0;
+    database_->SetProgress([&] {
+        EXPECT_NO_THROW(database_->FlushIfDue());
+        return ++calls == 15; // by then it is due
+    });
+    EXPECT_EQ(FaultOf([&] {
+                  database_->Execute(
+                      u"UPDATE T SET B = 1 WHERE (SELECT COUNT(*) FROM T a, T b, T c, T d WHERE a.B + b.B "
+                      "+ c.B + d.B = -1) > 0");
+              }),
+              int(ErrorCode::Interrupted));
+    EXPECT_EQ(calls, 15);
+}
+
 TEST_F(DatabaseTest, AFaultOfTheProgressEndsTheStatement) {
     Fill(300);
     database_->SetProgress([]() -> bool { throw std::runtime_error("of the caller"); });

@@ -59,6 +59,23 @@ protected:
     test::TestDatabase database_;
 };
 
+TEST_F(RecordsetTest, AnyRowIsReadWhereverTheCursorStands) {
+    Recordset rows = Open(u"SELECT Title, Seen, Color, Notes FROM Films ORDER BY FilmID"_s);
+    for (int turn = 0; turn < 3; ++turn) { // on the first row, on the second, at the end
+        EXPECT_EQ(rows.TextAt(1, 0), u"Harbour");
+        EXPECT_EQ(rows.TextAt(0, 1), u"2009-11-23 20:15:00");
+        EXPECT_EQ(rows.TextAt(0, 2), u"True");
+        EXPECT_TRUE(rows.GetAt(0, 3).IsNull());
+        if (!rows.Eof()) {
+            rows.MoveNext();
+        }
+    }
+    for (const int row : {-1, 2}) {
+        EXPECT_EQ(FaultOf([&] { rows.GetAt(row, 0); }), int(ErrorCode::NoCurrentRecord));
+    }
+    EXPECT_EQ(FaultOf([&] { rows.TextAt(0, 4); }), int(ErrorCode::ItemNotFound));
+}
+
 TEST_F(RecordsetTest, ReadsValuesAndTheirTexts) {
     Recordset rows = Open(u"SELECT * FROM Films ORDER BY FilmID"_s);
     ASSERT_EQ(rows.RecordCount(), 2);

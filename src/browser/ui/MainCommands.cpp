@@ -16,6 +16,8 @@
 #include "database/ui/frmSwitchDatabase.h"
 #include "html_export/ui/frmHTMLExport.h"
 #include "people/ui/frmDropBox.h"
+#include "queries/QueryFileCommands.h"
+#include "queries/ui/frmSQLQuery.h"
 #include "shell/FileCommands.h"
 #include "shell/Session.h"
 #include "shell/ui/frmAbout.h"
@@ -59,6 +61,17 @@ void ShowCoverWindow(frmMain &main) {
     window->activateWindow();
 }
 
+void ShowSqlQuery(frmMain &main) {
+    auto *window = main.findChild<frmSQLQuery *>();
+    if (!window) {
+        window = new frmSQLQuery(main.browser, &main);
+        window->perform = [&main](const std::function<void()> &action) { main.Perform(action); };
+    }
+    window->show();
+    window->raise();
+    window->activateWindow();
+}
+
 void ToggleGridLines(Browser &browser, bool ViewState::GridLines::*shown) {
     ViewState::GridLines &lines = browser.session.view.grid_lines;
     lines.*shown = !(lines.*shown);
@@ -91,6 +104,10 @@ constexpr Handler kHandlers[] = {
     {u"mImportAdditionalInfos", Run<ChooseAdditionalInfosToImport>},
     {u"mExportAdditionalInfos", Run<ChooseAdditionalInfosToExport>},
     {u"mExportHTMLCollection", ShowHtmlExport},
+    {u"mImportSQL", Run<ChooseSQLToImport>},
+    {u"mExportSQL", Run<ChooseSQLToExport>},
+    {u"mImportStrings", Run<ChooseStringsToImport>},
+    {u"mExportStrings", Run<ChooseStringsToExport>},
     {u"mCommandFile", Run<ChooseCommandFile>},
     {u"mExit", [](frmMain &main) { main.close(); }},
     {u"mTVShows", Browse<ShowTVShows>},
@@ -127,6 +144,7 @@ constexpr Handler kHandlers[] = {
     {u"mRenameCollectionType", Browse<RenameCollectionType>},
     {u"mRemoveColType", Browse<RemoveColType>},
     {u"mDropBox", ShowDropBox},
+    {u"mSQLQuery", ShowSqlQuery},
     {u"mSettings", [](frmMain &main) { frmSettings(main.browser.session, &main).exec(); }},
     {u"mAbout", [](frmMain &main) { frmAbout(main.browser.session, &main).exec(); }},
 };

@@ -1,0 +1,283 @@
+#include "queries/QueryTool.h"
+
+#include "base/Files.h"
+#include "base/Text.h"
+#include "database/DatabaseFunctions.h"
+#include "queries/QueryVariables.h"
+#include "queries/ResultText.h"
+#include "queries/StatementWatch.h"
+#include "shell/Dialogs.h"
+#include "shell/Session.h"
+#include "sql/Collation.h"
+
+#include <QDir>
+
+namespace ostrand {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr auto kLineBreak = "\r\n"_L1;
+
+QString TypeSuffix(sql::Kind kind) {
+    switch (kind) {
+    case sql::Kind::Integer:
+        return u" [int]"_s;
+    case sql::Kind::Boolean:
+        return u" [bool]"_s;
+    case sql::Kind::Date:
+        return u" [date]"_s;
+    case sql::Kind::Real:
+        return u" [double]"_s;
+    case sql::Kind::Text:
+    case sql::Kind::Memo:
+    case sql::Kind::Null:
+    case sql::Kind::Unknown:
+        break;
+    }
+    return {};
+}
+
+QStringList FieldsOf(const sql::TableInfo &table) {
+    QStringList fields(table.name);
+    for (const sql::ColumnInfo &column : table.columns) {
+        fields.append(column.name + TypeSuffix(column.kind));
+    }
+    return fields;
+}
+
+/// "Line 2, column 5", of a text with any line ends.
+QString PlaceText(const QString &text, int position, const QString &line_word, const QString &column_word) {
+    const QString before = QString(text.left(position)).replace(kLineBreak, "\n"_L1).replace(u'\r', u'\n');
+    const qsizetype line_start = before.lastIndexOf(u'\n') + 1;
+    return u"%1 %2, %3 %4"_s.arg(line_word)
+        .arg(before.count(u'\n') + 1)
+        .arg(column_word)
+        .arg(before.size() - line_start + 1);
+}
+
+/// The database keeps lines as CR LF.
+QString WithLineEnds(QString text) {
+    return text.replace(kLineBreak, "\n"_L1).replace("\n"_L1, kLineBreak);
+}
+
+} // namespace
+
+QueryTool::QueryTool(Session &session) : session_(session) {
+    caption = Translated(u"SQL Query");
+}
+
+QString QueryTool::Translated(const char16_t *english) const {
+    return Translate(session_, QString::fromUtf16(english));
+}
+
+bool QueryTool::RequireDatabase() {
+    textError.clear();
+    labelInfo.clear();
+    error_position = -1;
+    if (!session_.Database) {
+        textError = Translated(u"No open database!");
+    }
+    return session_.Database != nullptr;
+}
+
+void QueryTool::TellFault(const sql::SqlError &error, const QString &statement) {
+    textError = error.Text();
+    if (!statement.isEmpty() && error.Position() >= 0 && error.Position() <= statement.size()) {
+        textError += kLineBreak + PlaceText(statement, error.Position(), Translated(u"Line"), Translated(u"column"));
+    }
+}
+
+template <typename Action>
+bool QueryTool::Try(Action action) {
+    if (!RequireDatabase()) {
+        return false;
+    }
+    try {
+        action();
+        return true;
+    } catch (const sql::SqlError &error) {
+        Trace(session_, u"frmSQLQuery: "_s + error.Text(), kTraceError);
+        TellFault(error, {});
+        return false;
+    }
+}
+
+void QueryTool::UpdateQueryList() {
+    listQueries.clear();
+    if (!session_.Database) {
+        return;
+    }
+    try {
+        sql::Recordset names = session_.Database->OpenRecordset(u"SELECT Name FROM SQLQueries");
+        for (; !names.Eof(); names.MoveNext()) {
+            listQueries.append(names.Text(0));
+        }
+    } catch (const sql::SqlError &error) {
+        TellFault(error, {});
+    }
+}
+
+void QueryTool::Run(const QString &statement) {
+    const StatementWatch watch(session_);
+    const bool select = statement.trimmed().startsWith("select"_L1, Qt::CaseInsensitive);
+    if (select || session_.Database->GivesRows(statement)) {
+        sql::Recordset rows = session_.Database->OpenRecordset(statement);
+        caption = Translated(u"SQL Query") + " ("_L1 + QString::number(rows.RecordCount()) + u' ' +
+                  Translated(u"records") + u')';
+        listQueryResult.Assign(std::move(rows));
+        return;
+    }
+    const int count = session_.Database->Execute(statement);
+    labelInfo = Translated(u"Rows changed:") + u' ' + QString::number(count);
+}
+
+void QueryTool::SendQuery(const QString &text, const QString &col_type) {
+    if (!session_.Database) {
+        RequireDatabase();
+        return;
+    }
+    bool cancelled = false;
+    const QString statement = ResolveQueryVariables(session_, col_type, text, cancelled);
+    if (statement.trimmed().isEmpty() || !RequireDatabase()) {
+        return;
+    }
+    try {
+        Run(statement);
+    } catch (const sql::SqlError &error) {
+        Trace(session_, u"SendQuery: "_s + error.Text(), kTraceError);
+        TellFault(error, statement);
+        // A place behind a variable is another one in the text that was sent.
+        if (error.Position() >= 0 && text.startsWith(QStringView(statement).left(error.Position()))) {
+            error_position = error.Position();
+        }
+    }
+    UpdateQueryList(); // the statement may have changed them
+}
+
+void QueryTool::ListTables() {
+    Try([this] {
+        std::vector<QStringList> rows;
+        qsizetype widest = 1;
+        for (const sql::TableInfo &table : session_.Database->GetCatalogue().Tables()) {
+            if (!table.name.startsWith("MSys"_L1)) {
+                rows.push_back(FieldsOf(table));
+                widest = std::max(widest, rows.back().size());
+            }
+        }
+        QStringList columns(widest, Translated(u"Field"));
+        columns.front() = Translated(u"Tables");
+        listQueryResult.Assign(columns, std::move(rows));
+        caption = Translated(u"SQL Query");
+        textError = QStringList{Translated(u"Usage:"),
+                                Translated(u"Single quotes inside of values must be replaced by two single quotes"),
+                                Translated(u"Example: Role = 'T'Pol' has to be Role = 'T''Pol'"),
+                                Translated(u"Wildcard is the asterisk:"),
+                                Translated(u"Example: SELECT Name FROM Cast WHERE Name LIKE 'An*'"),
+                                Translated(u"Using variables: $VariableName$")}
+                        .join(kLineBreak);
+    });
+}
+
+QString QueryTool::SaveQuery(const QString &statement) {
+    if (!RequireDatabase()) {
+        return {};
+    }
+    bool cancelled = false;
+    const QString name =
+        InputText(session_, Translated(u"Enter a name for the query:"), Translated(u"Query Name"), cancelled, {});
+    if (cancelled || name.isEmpty()) {
+        return {};
+    }
+    const auto known = std::find_if(listQueries.begin(), listQueries.end(),
+                                    [&](const QString &other) { return sql::Compare(other, name) == 0; });
+    const QString value = EscapeSql(WithLineEnds(statement));
+    QString change =
+        "INSERT INTO SQLQueries (Name, SQLStatement) VALUES ('"_L1 + EscapeSql(name) + "', '"_L1 + value + "')"_L1;
+    if (known != listQueries.end()) {
+        const QString question =
+            Translated(u"Query with name") + u' ' + name + u' ' + Translated(u"does already exist! Replace existing?");
+        if (ShowMessage(session_, {.text = question,
+                                   .title = Translated(u"Name exists"),
+                                   .icon = MessageIcon::Question,
+                                   .buttons = MessageButtons::YesNo,
+                                   .neutral = MessageAnswer::No}) != MessageAnswer::Yes) {
+            return {};
+        }
+        change = "UPDATE SQLQueries SET SQLStatement = '"_L1 + value + "' WHERE Name = '"_L1 + EscapeSql(name) + u'\'';
+    }
+    const QString kept = known == listQueries.end() ? name : *known;
+    const bool done = Try([&] { session_.Database->Execute(change); });
+    UpdateQueryList();
+    return done ? kept : QString();
+}
+
+QString QueryTool::SavedStatement(const QString &name) {
+    QString statement;
+    Try([&] {
+        const sql::Recordset row = session_.Database->OpenRecordset(
+            QString("SELECT SQLStatement FROM SQLQueries WHERE Name = '"_L1 + EscapeSql(name) + u'\''));
+        statement = row.Eof() ? QString() : row.Text(0);
+    });
+    return statement;
+}
+
+bool QueryTool::DeleteQuery(const QString &name) {
+    if (name.isEmpty() || !RequireDatabase() ||
+        ShowMessage(session_, {.text = Translated(u"Do you really want to delete") + " '"_L1 + name + "'?"_L1,
+                               .title = Translated(u"Delete Query"),
+                               .icon = MessageIcon::Question,
+                               .buttons = MessageButtons::YesNo,
+                               .neutral = MessageAnswer::No}) != MessageAnswer::Yes) {
+        return false;
+    }
+    const bool done = Try([&] {
+        session_.Database->Execute(QString("DELETE FROM SQLQueries WHERE Name = '"_L1 + EscapeSql(name) + u'\''));
+    });
+    UpdateQueryList();
+    return done;
+}
+
+void QueryTool::SaveResult() {
+    const QString path = session_.services.dialogs.SaveFile(
+        {.title = Translated(u"Save Result"),
+         .initial = QDir(session_.DataFolder).filePath(u"Result.txt"_s),
+         .filters = {Translated(u"Text File") + "|*.txt"_L1, Translated(u"All Files") + "|*.*"_L1}});
+    if (path.isEmpty()) {
+        return;
+    }
+    bool cancelled = false;
+    QString divider = InputText(session_,
+                                Translated(u"Which divider should be used for columns?") + kLineBreak +
+                                    Translated(u"(Enter 'tab' for tabulator)"),
+                                Translated(u"Divider"), cancelled, u"|"_s);
+    if (cancelled) {
+        return;
+    }
+    if (divider.compare("tab"_L1, Qt::CaseInsensitive) == 0) {
+        divider = u'\t';
+    }
+    QString fault;
+    if (!ReplaceFile(path, EncodeUserText(ResultLines(listQueryResult, divider)), &fault)) {
+        ShowMessage(session_, {.text = Translated(u"The file cannot be written:") + u' ' + path + kLineBreak + fault,
+                               .title = Translated(u"Save Result"),
+                               .icon = MessageIcon::Critical});
+    }
+}
+
+void QueryTool::DatabaseChanged() {
+    listQueryResult.Clear();
+    textError.clear();
+    labelInfo.clear();
+    error_position = -1;
+    caption = Translated(u"SQL Query");
+    UpdateQueryList();
+}
+
+QString QueryTool::FilterTemplate() {
+    return u"SELECT p.ProfileID, p.Title, p.ColNo, p.SortTitle, p.Originaltitle, p.OriginalSortTitle, p.CustomTitle, "
+           u"p.CustomSortTitle, p.Description FROM Profiles p WHERE p.Title LIKE '*$Substring$*'"_s;
+}
+
+} // namespace ostrand

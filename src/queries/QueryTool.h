@@ -1,0 +1,60 @@
+// The query tool without its window: it runs statements of the user and keeps saved ones.
+#pragma once
+
+#include "queries/QueryResult.h"
+#include "sql/SqlError.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace ostrand {
+
+struct Session;
+
+/// The members that a window shows keep the names of its controls; a window reads them anew behind each call. Faults
+/// of the database stand in `textError`.
+class QueryTool {
+public:
+    explicit QueryTool(Session &session);
+
+    QueryResult listQueryResult;
+    QString textError;
+    QStringList listQueries;
+    /// Title of the window, with the count of records of the last query.
+    QString caption;
+    /// Where in the text that was sent the fault was noticed, in characters from 0; -1 where that cannot be told.
+    int error_position = -1;
+    /// What a statement without rows did; empty otherwise.
+    QString labelInfo;
+
+    /// Reads the names of the saved queries.
+    void UpdateQueryList();
+    /// Asks for the variables of a statement and runs it. `col_type` is the type that OSV_CurrentColType stands for.
+    void SendQuery(const QString &text, const QString &col_type);
+    /// The tables with their fields, and how values are written.
+    void ListTables();
+    /// Asks for a name and keeps the statement under it. The name; empty when nothing was kept.
+    QString SaveQuery(const QString &statement);
+    /// A saved statement; empty for an unknown name.
+    QString SavedStatement(const QString &name);
+    /// Asks and deletes; false when it stays.
+    bool DeleteQuery(const QString &name);
+    /// Asks for a file and a divider and writes the rows as text.
+    void SaveResult();
+    /// Another database was opened, or none is open any more.
+    void DatabaseChanged();
+    /// What "Create Filter" puts in: the columns that the title list needs.
+    static QString FilterTemplate();
+
+private:
+    template <typename Action>
+    bool Try(Action action);
+    bool RequireDatabase();
+    void Run(const QString &statement);
+    void TellFault(const sql::SqlError &error, const QString &statement);
+    QString Translated(const char16_t *english) const;
+
+    Session &session_;
+};
+
+} // namespace ostrand

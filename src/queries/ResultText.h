@@ -1,0 +1,21 @@
+// A list written out as text.
+#pragma once
+
+#include <QAbstractItemModel>
+#include <QByteArray>
+#include <QList>
+#include <QString>
+
+namespace ostrand {
+
+/// All rows of a list, in order.
+QList<int> AllRows(const QAbstractItemModel &list);
+/// The headings and the rows given as lines that end in CR LF, their cells joined by `divider`, cells as they are.
+QString ResultLines(const QAbstractItemModel &list, const QString &divider);
+/// The same for pasting into other programs: cells are joined by tabs, and blanks within them kept to one line.
+QString ResultForClipboard(const QAbstractItemModel &list, const QList<int> &rows);
+/// The rows as XML: a root Table, a TableRow for each, a Field with the heading as its Name for each cell that is not
+/// empty.
+QByteArray ResultXml(const QAbstractItemModel &list, const QList<int> &rows);
+
+} // namespace ostrand
