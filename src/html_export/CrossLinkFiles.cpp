@@ -7,7 +7,10 @@
 #include "skin/TextConversion.h"
 
 #include <QDir>
+#include <QHash>
 #include <QSet>
+
+#include <map>
 
 namespace ostrand {
 
@@ -19,103 +22,121 @@ constexpr auto kCredits = " FROM CastCrew c LEFT JOIN Alias a ON a.AliasName = c
                           "WHERE c.Role NOT LIKE '?Div*' AND c.Name <> ''"_L1;
 constexpr int kRowsATurn = 100;
 
-/// Lists in files of one shape, each list begun once and then lengthened at its end.
+QByteArray Literal(const QString &text, QChar quote) {
+    return ScriptLiteral(text, quote).toUtf8();
+}
+
+/// Scripts of one shape, a list each, that take their place whole.
 class ListFiles {
 public:
-    ListFiles(const QString &folder, QByteArray opening, QByteArray divider, QByteArray closing) :
-        folder_(folder), opening_(std::move(opening)), divider_(std::move(divider)), closing_(std::move(closing)) {}
+    ListFiles(const QByteArray &opening, QByteArray divider, QByteArray closing) :
+        opening_("\xEF\xBB\xBF" + opening), divider_(std::move(divider)), closing_(std::move(closing)) {}
 
-    /// Adds an entry to the list of a file. The list of the file before is written when that is another one.
-    void Add(const QString &file, const QString &entry) {
-        if (file != file_) {
-            Flush();
-            file_ = file;
-        }
-        entries_ += (entries_.isEmpty() ? QByteArray() : divider_) + entry.toUtf8();
+    /// Adds an entry to the list of a file.
+    void Add(const QString &file, const QByteArray &entry) {
+        QByteArray &text = files_[file];
+        text += text.isEmpty() ? opening_ : divider_;
+        text += entry;
     }
-    void Flush() {
-        if (entries_.isEmpty()) {
-            return;
+    void Write(const QString &folder) {
+        for (auto &[name, text] : files_) {
+            PutFile(folder + name, text += closing_);
         }
-        const QString path = folder_ + file_;
-        if (QFile::exists(path)) {
-            Lengthen(path);
-        } else {
-            PutFile(path, "\xEF\xBB\xBF" + opening_ + entries_ + closing_);
-        }
-        entries_.clear();
+        files_.clear();
     }
 
 private:
-    void Lengthen(const QString &path) {
-        QFile file(path);
-        const QByteArray more = divider_ + entries_ + closing_;
-        if (!file.open(QIODevice::ReadWrite | QIODevice::Unbuffered) || !file.seek(file.size() - closing_.size()) ||
-            file.write(more) != more.size()) {
-            throw SiteFault(path + ": "_L1 + file.errorString(), true);
-        }
+    QByteArray opening_, divider_, closing_;
+    std::map<QString, QByteArray> files_;
+};
+
+/// A profile as the scripts name it.
+struct LinkedProfile {
+    QByteArray key;
+    QByteArray page;
+    int page_number; ///< keys that give the same page name have the same one
+};
+
+/// Each profile is in many credits; its texts are made once.
+class LinkedProfiles {
+public:
+    const LinkedProfile &Of(const QString &id) {
+        const auto known = profiles_.constFind(id);
+        return known != profiles_.constEnd() ? *known : *profiles_.insert(id, Make(SiteKey(id)));
     }
 
-    QString folder_;
-    QByteArray opening_, divider_, closing_;
-    QString file_;
-    QByteArray entries_;
+private:
+    LinkedProfile Make(const QString &key) {
+        const QString page = PageName(key);
+        const int number = pages_.value(page, int(pages_.size()));
+        pages_.insert(page, number);
+        return {Literal(key, u'\''), Literal(page, u'"'), number};
+    }
+
+    QHash<QString, LinkedProfile> profiles_;
+    QHash<QString, int> pages_;
 };
 
 /// One person's rows while they are read.
 struct Person {
     QString name;
     QString id;
-    QStringList keys; ///< one a credit, so that a profile may come twice
+    QByteArray keys;     ///< one a credit, so that a profile may come twice
+    QByteArray pages;    ///< each once
+    QSet<int> seen = {}; ///< their numbers
+
+    void Add(const LinkedProfile &profile) {
+        keys += (keys.isEmpty() ? QByteArray() : QByteArray(", ")) + profile.key;
+        if (!seen.contains(profile.page_number)) {
+            seen.insert(profile.page_number);
+            pages += ',' + profile.page;
+        }
+    }
+};
+
+/// Names of files, which hang on two letters each.
+class FileNames {
+public:
+    explicit FileNames(QString (*make)(const QString &)) : make_(make) {}
+    const QString &Of(const QString &name) {
+        QString &file = names_[name.left(2)];
+        if (file.isEmpty()) {
+            file = make_(name);
+        }
+        return file;
+    }
+
+private:
+    QString (*make_)(const QString &);
+    QHash<QString, QString> names_;
 };
 
 class CrossLinkWriter {
 public:
-    explicit CrossLinkWriter(const QString &folder) :
-        people_(folder, "[{", ", ", "}]"), loads_(folder, "crossLinks([\r\n", "", "]);\r\n"), names_(folder) {}
+    explicit CrossLinkWriter(const QString &folder) : folder_(folder), names_(folder) {}
 
     void Add(const Person &person) {
-        QStringList quoted;
-        for (const QString &key : person.keys) {
-            quoted += ScriptLiteral(key, u'\'');
-        }
-        people_.Add(PeopleScriptFileName(person.name),
-                    ScriptLiteral(person.id, u'\'') + ":["_L1 + quoted.join(", "_L1) + u']');
+        people_.Add(people_names_.Of(person.name), Literal(person.id, u'\'') + ":[" + person.keys + ']');
         if (person.id.isEmpty()) {
             return; // a name of nothing but marks, which no script can ask for
         }
-        const QStringList pages = Pages(person.keys);
-        const QString id = ScriptLiteral(person.id, u'"');
-        const QString name = ScriptLiteral(person.name, u'"');
-        loads_.Add(LoadScriptFileName(person.id), u'[' + id + u',' + name + u',' + pages.join(u',') + "],\r\n"_L1);
-        names_.Add(person.name, person.id, pages.size());
+        const QByteArray id = Literal(person.id, u'"');
+        const QByteArray name = Literal(person.name, u'"');
+        loads_.Add(load_names_.Of(person.id), '[' + id + ',' + name + person.pages + "],\r\n");
+        names_.Add(person.name, person.id, person.seen.size());
     }
-    void Finish() {
-        people_.Flush();
-        loads_.Flush();
+    void Write() {
+        people_.Write(folder_);
+        loads_.Write(folder_);
         names_.Finish();
     }
 
 private:
-    /// The pages of the keys as literals, each once.
-    static QStringList Pages(const QStringList &keys) {
-        QStringList pages;
-        QSet<QString> seen;
-        for (const QString &key : keys) {
-            const QString page = ScriptLiteral(PageName(key), u'"');
-            // Most persons have one credit, and need no set.
-            if (pages.isEmpty() || (page != pages.first() && !seen.contains(page))) {
-                if (!pages.isEmpty()) {
-                    seen.insert(page);
-                }
-                pages += page;
-            }
-        }
-        return pages;
-    }
-
-    ListFiles people_;
-    ListFiles loads_;
+    QString folder_;
+    FileNames people_names_{PeopleScriptFileName};
+    FileNames load_names_{LoadScriptFileName};
+    ListFiles people_{"[{", ", ", "}]"};
+    ListFiles loads_{"crossLinks([\r\n", "", "]);\r\n"};
     NameIndexFiles names_;
 };
 
@@ -151,13 +172,12 @@ void DeleteOldCrossLinkFiles(const QString &folder) {
 }
 
 void CreateCrossLinkFiles(Session &session, const QString &folder) {
-    sql::Database &database = *session.Database;
-    const sql::Recordset count = database.OpenRecordset(QString("SELECT COUNT(*) AS [Count]"_L1 + kCredits));
-    PersonProgress progress(session, int(count.Integer(u"Count")));
-    sql::Recordset rows = database.OpenRecordset(
+    sql::Recordset rows = session.Database->OpenRecordset(
         QString("SELECT iif(a.CommonName IS NULL, c.Name, a.CommonName) AS [RealCommonName], c.ProfileID"_L1 +
                 kCredits + " ORDER BY 1"_L1));
+    PersonProgress progress(session, rows.RecordCount());
     CrossLinkWriter writer(folder);
+    LinkedProfiles profiles;
     Person person;
     for (int number = 1; !rows.Eof(); rows.MoveNext(), ++number) {
         const QString name = rows.Text(0);
@@ -167,16 +187,16 @@ void CreateCrossLinkFiles(Session &session, const QString &folder) {
                 if (!person.name.isEmpty()) {
                     writer.Add(person);
                 }
-                person = {name, id, {}};
+                person = {name, id, {}, {}};
             }
         }
-        person.keys += SiteKey(rows.Text(1));
+        person.Add(profiles.Of(rows.Text(1)));
         progress.Show(number);
     }
     if (!person.name.isEmpty()) {
         writer.Add(person);
     }
-    writer.Finish();
+    writer.Write();
 }
 
 QString LoadScriptFileName(const QString &cross_link_id) {

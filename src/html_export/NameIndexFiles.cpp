@@ -75,7 +75,8 @@ void NameIndexFiles::Write(const QString &beginning, File &file) {
         const QString opening = "crossLinkNames("_L1 + ScriptLiteral(beginning, u'"') + ",[\r\n"_L1;
         text.prepend("\xEF\xBB\xBF" + opening.toUtf8());
     }
-    if (!script.open(QIODevice::Append | QIODevice::Unbuffered) || script.write(text) != text.size()) {
+    const QIODevice::OpenMode mode = file.begun ? QIODevice::Append : QIODevice::WriteOnly;
+    if (!script.open(mode | QIODevice::Unbuffered) || script.write(text) != text.size()) {
         throw SiteFault(script.fileName() + ": "_L1 + script.errorString(), true);
     }
     file.begun = true;

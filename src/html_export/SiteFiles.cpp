@@ -22,9 +22,9 @@ QString PartOf(const QString &path) {
     return QFileInfo(path).path() + u"/.ostrand-part"_s;
 }
 
-[[noreturn]] void RaiseFault(const QString &path, const QFile &file) {
+SiteFault FaultOf(const QString &path, const QFile &file) {
     const bool disk = file.error() == QFile::ResourceError || file.error() == QFile::WriteError;
-    throw SiteFault(path + ": "_L1 + file.errorString(), disk || !QFileInfo(QFileInfo(path).path()).isWritable());
+    return {path + ": "_L1 + file.errorString(), disk || !QFileInfo(QFileInfo(path).path()).isWritable()};
 }
 
 [[noreturn]] void RaiseFault(const QString &path, const std::error_code &error) {
@@ -36,6 +36,19 @@ QString PartOf(const QString &path) {
 bool OpenNew(QFile &file, QIODevice::OpenMode more = {}) {
     const QIODevice::OpenMode mode = QIODevice::WriteOnly | QIODevice::NewOnly | more;
     return file.open(mode) || (QFile::remove(file.fileName()) && file.open(mode));
+}
+
+/// Once more where only a part was taken, as only that tells why.
+bool WriteAll(QFile &file, const QByteArray &content) {
+    qsizetype at = 0;
+    while (at < content.size()) {
+        const qint64 written = file.write(content.constData() + at, content.size() - at);
+        if (written <= 0) {
+            return false;
+        }
+        at += qsizetype(written);
+    }
+    return true;
 }
 
 void TakePlace(const QString &part, const QString &path) {
@@ -75,11 +88,12 @@ bool PutFile(const QString &path, const QByteArray &content) {
     }
     QFile part(PartOf(path));
     if (!OpenNew(part, QIODevice::Unbuffered)) {
-        RaiseFault(path, part);
+        throw FaultOf(path, part);
     }
-    if (part.write(content) != content.size()) {
+    if (!WriteAll(part, content)) {
+        const SiteFault fault = FaultOf(path, part);
         part.remove();
-        RaiseFault(path, part);
+        throw fault;
     }
     part.close();
     TakePlace(part.fileName(), path);
@@ -116,9 +130,11 @@ bool CopyInto(const QString &from, const QString &to) {
 }
 
 StreamedFile::StreamedFile(const QString &path) :
-    path_(path), file_(QFileInfo(path).path() + u"/.ostrand-part-"_s + QFileInfo(path).fileName()) {
-    Check(OpenNew(file_));
-    Check(file_.write("\xEF\xBB\xBF") == 3);
+    path_(path), file_(QFileInfo(path).path() + u"/.ostrand-part-"_s + QFileInfo(path).fileName()),
+    waiting_("\xEF\xBB\xBF") {
+    if (!OpenNew(file_, QIODevice::Unbuffered)) {
+        throw FaultOf(path_, file_);
+    }
 }
 
 StreamedFile::~StreamedFile() {
@@ -129,20 +145,24 @@ StreamedFile::~StreamedFile() {
 }
 
 void StreamedFile::Write(const QString &text) {
-    const QByteArray bytes = text.toUtf8();
-    Check(file_.write(bytes) == bytes.size());
+    constexpr qsizetype kBlock = 1 << 16;
+    waiting_ += text.toUtf8();
+    if (waiting_.size() >= kBlock) {
+        WriteWaiting();
+    }
 }
 
 void StreamedFile::Commit() {
-    Check(file_.flush());
+    WriteWaiting();
     file_.close();
     TakePlace(file_.fileName(), path_);
 }
 
-void StreamedFile::Check(bool done) {
-    if (!done) {
-        RaiseFault(path_, file_);
+void StreamedFile::WriteWaiting() {
+    if (!WriteAll(file_, waiting_)) {
+        throw FaultOf(path_, file_);
     }
+    waiting_.clear();
 }
 
 } // namespace ostrand

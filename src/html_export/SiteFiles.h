@@ -48,10 +48,11 @@ public:
     void Commit();
 
 private:
-    void Check(bool done);
+    void WriteWaiting();
 
     QString path_;
     QFile file_;
+    QByteArray waiting_;
 };
 
 } // namespace ostrand

@@ -14,7 +14,8 @@ bool IsWordUnit(QChar c) {
     return c.isLetterOrNumber() || c == u'_';
 }
 
-/// Walks the words of a statement that stand outside of texts, quoted names and brackets.
+/// Walks the words of a statement that stand outside of texts, quoted names and brackets. The semicolon behind a
+/// statement is one of them.
 class OuterWords {
 public:
     explicit OuterWords(QStringView text) : text_(text) {}
@@ -32,6 +33,9 @@ public:
                     return text_.sliced(from, at_ - from);
                 }
                 continue;
+            }
+            if (c == u';' && depth_ == 0) {
+                return text_.sliced(at_++, 1);
             }
             Skip(c);
         }
@@ -72,7 +76,7 @@ QString WhereClause(const QString &statement) {
     for (QStringView word = words.Next(); !word.isEmpty(); word = words.Next()) {
         if (begin < 0 && IsOneOf(word, {"WHERE"_L1})) {
             begin = words.At();
-        } else if (begin >= 0 && IsOneOf(word, {"ORDER"_L1, "GROUP"_L1, "HAVING"_L1, "UNION"_L1})) {
+        } else if (begin >= 0 && IsOneOf(word, {"ORDER"_L1, "GROUP"_L1, "HAVING"_L1, "UNION"_L1, ";"_L1})) {
             return statement.mid(begin, words.At() - word.size() - begin).trimmed();
         }
     }

@@ -8,7 +8,8 @@ namespace ostrand {
 
 struct Session;
 
-/// The condition of a statement's outermost WHERE, up to ORDER BY, GROUP BY, HAVING or UNION; empty without one.
+/// The condition of a statement's outermost WHERE, up to ORDER BY, GROUP BY, HAVING, UNION or its
+/// semicolon; empty without one.
 QString WhereClause(const QString &statement);
 
 /// The condition of a saved query with the user's answers in it; empty when there is no such query or condition, or the

@@ -34,10 +34,10 @@ QStringList SplitNames(const QString &text) {
     return names;
 }
 
-QString JoinNames(Session &session, const QStringList &names) {
+QString JoinNames(const QStringList &names) {
     QStringList stored;
     for (const QString &name : names) {
-        stored += name.isEmpty() ? QString(kUnsorted) : ReverseTranslate(session, name);
+        stored += name.isEmpty() ? QString(kUnsorted) : name;
     }
     return stored.join(u'|');
 }
@@ -54,11 +54,11 @@ std::vector<MediaSkin> SplitMediaSkins(const QString &text) {
     return skins;
 }
 
-QString JoinMediaSkins(Session &session, const std::vector<MediaSkin> &skins) {
+QString JoinMediaSkins(const std::vector<MediaSkin> &skins) {
     QStringList pairs;
     for (const MediaSkin &pair : skins) {
         if (!pair.medium.isEmpty() && !pair.skin.isEmpty() && pair.skin != QStringView(kUseDefaultSkin)) {
-            pairs += ReverseTranslate(session, pair.medium) + u'=' + pair.skin;
+            pairs += pair.medium + u'=' + pair.skin;
         }
     }
     return pairs.join(u'|');
@@ -116,10 +116,10 @@ void SaveSiteOptions(Session &session, const SiteOptions &options) {
     Write(session, u"HTML_UseCustomTitle"_s, options.UseCustomTitle);
     Write(session, u"HTML_AppendEdition"_s, options.AppendEdition);
     Write(session, u"HTML_GenerateCrosslinks"_s, options.GenerateCrosslinks);
-    Write(session, u"HTML_ExcludedColTypes"_s, JoinNames(session, options.ExcludedColTypes));
-    Write(session, u"HTML_ColTypesOrder"_s, JoinNames(session, options.ColTypesOrder));
+    Write(session, u"HTML_ExcludedColTypes"_s, JoinNames(options.ExcludedColTypes));
+    Write(session, u"HTML_ColTypesOrder"_s, JoinNames(options.ColTypesOrder));
     Write(session, u"HTML_Filter"_s, options.Filter);
-    Write(session, u"HTML_MediaSkins"_s, JoinMediaSkins(session, options.MediaSkins));
+    Write(session, u"HTML_MediaSkins"_s, JoinMediaSkins(options.MediaSkins));
 }
 
 std::vector<SiteColType> SiteColTypes(Session &session, const SiteOptions &options) {

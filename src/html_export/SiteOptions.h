@@ -48,7 +48,8 @@ struct SiteOptions {
 };
 
 SiteOptions LoadSiteOptions(Session &session);
-/// Writes all of them. Names may be as the user sees them: they are translated back.
+/// Writes all of them. Names are those of the collection; translating back what the user sees would mistake a type
+/// for another one that is shown under its name.
 void SaveSiteOptions(Session &session, const SiteOptions &options);
 
 /// A row of listColTypes.

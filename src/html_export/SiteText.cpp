@@ -4,6 +4,8 @@
 
 #include <QUrl>
 
+#include <algorithm>
+
 namespace ostrand {
 
 using namespace Qt::StringLiterals;
@@ -26,7 +28,7 @@ QString ScriptLiteral(const QString &text, QChar quote) {
         return c < u' ' || c == quote || c == u'\\' || c == u'<' || c == u'\x7f' || c == u'\u2028' || c == u'\u2029';
     };
     if (std::none_of(text.begin(), text.end(), is_risky)) {
-        return quote + text + quote;
+        return quote + text + quote; // nearly all of the many
     }
     QString literal(quote);
     for (const QChar c : text) {

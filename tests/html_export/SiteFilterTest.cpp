@@ -26,6 +26,7 @@ TEST(WhereClause, IsCutOut) {
          u"b IN (SELECT c FROM Q WHERE d = 1 ORDER BY c)"_s},
         {"doubled quotes", u"SELECT 'it''s where' FROM P WHERE a = 'it''s ORDER BY'"_s, u"a = 'it''s ORDER BY'"_s},
         {"dates", u"SELECT * FROM P WHERE a > #1/2/2003# ORDER BY 1"_s, u"a > #1/2/2003#"_s},
+        {"semicolon", u"SELECT * FROM P WHERE a = 'x;y' AND b = 2 ;\r\n"_s, u"a = 'x;y' AND b = 2"_s},
         {"none", u"SELECT * FROM Profiles"_s, u""_s},
         {"only inside", u"SELECT * FROM (SELECT * FROM P WHERE a = 1) q"_s, u""_s},
         {"nothing behind it", u"SELECT * FROM P WHERE"_s, u""_s},
@@ -58,10 +59,11 @@ protected:
 
 TEST_F(SavedFilterTest, LimitsTheProfiles) {
     for (const QString &condition :
-         {u"p.Title LIKE 'B*'"_s, u"Title LIKE 'B*'"_s, u"Title = 'q' OR Title = 'Birch'"_s}) {
+         {u"p.Title LIKE 'B*'"_s, u"p.Title LIKE 'B*';"_s, u"Title LIKE 'B*'"_s, u"Title = 'q' OR Title = 'Birch'"_s}) {
         for (const bool types : {true, false}) {
             Run(u"DELETE FROM SQLQueries");
-            Save(u"SELECT p.ProfileID FROM Profiles p WHERE "_s + condition + u" ORDER BY p.Title"_s);
+            Save(u"SELECT p.ProfileID FROM Profiles p WHERE "_s + condition +
+                 (condition.endsWith(u';') ? QString() : u" ORDER BY p.Title"_s));
             QDir(site).removeRecursively();
             QDir().mkpath(site);
             options.UseCollectionType = types;

@@ -90,15 +90,16 @@ TEST_F(SiteOptionsTest, AreKept) {
 
 TEST_F(SiteOptionsTest, NamesAreStoredInEnglish) {
     TranslateAs(u"Owned"_s, u"Besitz"_s);
-    TranslateAs(u"DVD"_s, u"Scheibe"_s);
-    options.ColTypesOrder = {u"Besitz"_s, u"Sold"_s};
-    options.ExcludedColTypes = {u"Besitz"_s};
-    options.MediaSkins = {{u"Scheibe"_s, u"Red"_s}};
+    TranslateAs(u"Lent"_s, u"Sold"_s);
+    TranslateAs(u"DVD"_s, u"VHS"_s);
+    options.ColTypesOrder = {u"Owned"_s, u"Sold"_s};
+    options.ExcludedColTypes = {u"Sold"_s};
+    options.MediaSkins = {{u"VHS"_s, u"Red"_s}};
     SaveSiteOptions(session, options);
     const SiteOptions read = LoadSiteOptions(session);
     EXPECT_EQ(read.ColTypesOrder, (QStringList{u"Owned"_s, u"Sold"_s}));
-    EXPECT_EQ(read.ExcludedColTypes, QStringList(u"Owned"_s));
-    EXPECT_EQ(read.MediaSkins, (std::vector<MediaSkin>{{u"DVD"_s, u"Red"_s}}));
+    EXPECT_EQ(read.ExcludedColTypes, QStringList(u"Sold"_s)) << "not the type that is shown under this name";
+    EXPECT_EQ(read.MediaSkins, (std::vector<MediaSkin>{{u"VHS"_s, u"Red"_s}}));
 }
 
 TEST_F(SiteOptionsTest, FaultyMediaSkinsAreLeftOut) {

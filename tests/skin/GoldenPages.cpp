@@ -2,6 +2,7 @@
 
 #include "database/DatabaseFunctions.h"
 #include "skin/SkinPage.h"
+#include "support/Golden.h"
 
 #include <QDir>
 #include <gtest/gtest.h>
@@ -13,20 +14,6 @@ namespace {
 using namespace Qt::StringLiterals;
 
 const QString kHeadingMark = u"=== "_s;
-
-/// A collection file holds one statement a line; lines that begin with "--" are remarks.
-void RunStatements(Session &session, const QString &statements) {
-    for (const QString &line : statements.split(u'\n', Qt::SkipEmptyParts)) {
-        if (line.startsWith("--"_L1)) {
-            continue;
-        }
-        try {
-            session.Database->Execute(line);
-        } catch (const sql::SqlError &error) {
-            ADD_FAILURE() << qPrintable(error.Text()) << "\n" << qPrintable(line);
-        }
-    }
-}
 
 } // namespace
 
@@ -49,17 +36,13 @@ std::vector<GoldenPart> GoldenParts(const QString &skin_file) {
     return parts;
 }
 
-QString GoldenFile(const QString &name) {
-    return QStringLiteral(OSTRAND_SOURCE_DIR "/tests/golden/skin/") + name;
-}
-
 QStringList GoldenSkins() {
-    QStringList names = QDir(GoldenFile({})).entryList({u"*.skin"_s}, QDir::Files, QDir::Name);
+    QStringList names = QDir(GoldenPath(u"skin"_s)).entryList({u"*.skin"_s}, QDir::Files, QDir::Name);
     return names.replaceInStrings(u".skin"_s, QString());
 }
 
 QString ReadGolden(const QString &name) {
-    return QString::fromUtf8(ReadTestFile(GoldenFile(name)));
+    return ReadGoldenFile(u"skin/"_s + name);
 }
 
 GoldenCollection::GoldenCollection() {

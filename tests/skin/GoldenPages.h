@@ -32,10 +32,9 @@ struct GoldenPart {
 /// The parts of a skin file: each begins with a line "=== " and its heading. What stands above the first is a remark.
 std::vector<GoldenPart> GoldenParts(const QString &skin_file);
 
-/// A skin that is kept, and the page that it gives.
-QString GoldenFile(const QString &name);
 /// The names of all kept skins, without ".skin".
 QStringList GoldenSkins();
+/// A skin that is kept, or the page that it gives.
 QString ReadGolden(const QString &name);
 
 /// The collection of tests/golden/skin/collection.sql, with covers and portraits, in a folder of its own.

@@ -4,8 +4,8 @@
 
 #include "skin/TagTable.h"
 #include "skin/Template.h"
+#include "support/Golden.h"
 
-#include <QFile>
 #include <QRegularExpression>
 #include <gtest/gtest.h>
 
@@ -24,40 +24,13 @@ QString UpperName(const QString &tag) {
     return GetTagAttribute(tag, u"NAME", {}).toUpper();
 }
 
-/// The first line that differs, told from both sides.
-std::string FirstDifference(const QString &actual, const QString &expected) {
-    const QStringList ours = actual.split(u'\n');
-    const QStringList theirs = expected.split(u'\n');
-    qsizetype line = 0;
-    while (line < std::min(ours.size(), theirs.size()) && ours[line] == theirs[line]) {
-        ++line;
-    }
-    const auto shown = [line](const QStringList &lines) {
-        return line < lines.size() ? QString(lines[line]).replace(u'\r', u"\\r"_s) : u"(the end of the page)"_s;
-    };
-    return u"line %1\n  is:        %2\n  should be: %3"_s.arg(line + 1).arg(shown(ours), shown(theirs)).toStdString();
-}
-
-void Renew(const QString &name, const QString &page) {
-    QFile file(test::GoldenFile(name));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << qPrintable(file.fileName());
-    const QByteArray bytes = page.toUtf8();
-    ASSERT_EQ(file.write(bytes), bytes.size());
-    ADD_FAILURE() << qPrintable(name) << " was renewed; unset OSTRAND_RENEW_GOLDEN and read it";
-}
-
 class GoldenPage : public testing::TestWithParam<std::string> {};
 
 TEST_P(GoldenPage, IsRenderedAsItWasRead) {
     const QString name = QString::fromStdString(GetParam());
     test::GoldenCollection collection;
     const QString page = collection.Render(test::ReadGolden(name + u".skin"_s));
-    if (qEnvironmentVariableIntValue("OSTRAND_RENEW_GOLDEN") != 0) {
-        Renew(name + u".html"_s, page);
-        return;
-    }
-    const QString expected = test::ReadGolden(name + u".html"_s);
-    EXPECT_TRUE(page == expected) << qPrintable(name) << ".html, " << FirstDifference(page, expected);
+    test::ExpectGolden(u"skin/"_s + name + u".html"_s, page.toUtf8());
 }
 
 TEST_P(GoldenPage, HasATagOnEachLineBelowItsOwnText) {

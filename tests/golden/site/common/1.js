@@ -1,0 +1,10 @@
+﻿Owned = new SortableTable(document.getElementById('Ownedlist'),['CaseInsensitiveString','Number','CaseInsensitiveString']);
+Owned.onsort = colourTables;
+WishList = new SortableTable(document.getElementById('WishListlist'),['CaseInsensitiveString','Number','CaseInsensitiveString']);
+WishList.onsort = colourTables;
+unsorted = new SortableTable(document.getElementById('unsortedlist'),['CaseInsensitiveString','Number','CaseInsensitiveString']);
+unsorted.onsort = colourTables;
+Ordered = new SortableTable(document.getElementById('Orderedlist'),['CaseInsensitiveString','Number','CaseInsensitiveString']);
+Ordered.onsort = colourTables;
+Sold_Gone = new SortableTable(document.getElementById('Sold_Gonelist'),['CaseInsensitiveString','Number','CaseInsensitiveString']);
+Sold_Gone.onsort = colourTables;

@@ -1,0 +1,15 @@
+﻿crossLinkIndex([
+["Iva Renn","iva_renn",1],
+["Jonas Teld","jonas_teld",1],
+["Kai Lund","kai_lund",1],
+["Mara Liv Okonski","mara_liv_okonski",1],
+["Olm Brandt","olm_brandt",1],
+["Pim","pim",1],
+["Rex","rex",1],
+["Rosa Dene","rosa_dene",1],
+["Siobhan O'Marra","siobhan_omarra",1],
+["Teld","teld",1],
+["Tess Bray","tess_bray",1],
+["Uta Falk","uta_falk",1],
+["Wim Oake","wim_oake",1],
+]);

@@ -1,0 +1,3 @@
+﻿crossLinks([
+["olm_brandt","Olm Brandt","0012345678905.4"],
+]);

@@ -1,0 +1,3 @@
+﻿crossLinks([
+["uta_falk","Uta Falk","0012345678905.4"],
+]);

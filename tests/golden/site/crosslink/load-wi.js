@@ -1,0 +1,3 @@
+﻿crossLinks([
+["wim_oake","Wim Oake","0012345678905.4"],
+]);
