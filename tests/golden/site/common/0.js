@@ -314,7 +314,7 @@ site.makeView = function (table, prepare) {
 // The list: tabs, search, covers, the titles of a person.
 site.list = function (sortByTitles) {
   var tables = document.querySelectorAll('.listing > table'), tabs = site.byId('tabs').children, search = site.byId('search');
-  var found = site.byId('found'), people = site.byId('people'), active = -1, titles = null, index = null, timer = 0;
+  var found = site.byId('found'), people = site.byId('people'), active = -1, titles = null, names = {}, timer = 0;
   var currentLink = null, waiting = null, covers = null, views = [];
   site.isList = true;
 
@@ -385,28 +385,34 @@ site.list = function (sortByTitles) {
   function filter() { colourTables(tables[active]); }
   function onSearch() {
     filter();
-    if (search.value.trim().length >= 2) { loadIndex(); showPeople(); } else { people.hidden = true; }
+    showPeople();
   }
 
-  // People come in scripts of their own, loaded when they are asked for.
+  // People come in scripts of their own, one for each beginning of a word, loaded when they are asked for.
   function load(source, done) {
     var script = document.createElement('script');
     script.src = source;
     script.onload = script.onerror = function () { script.remove(); if (done) { done(); } };
     document.head.appendChild(script);
   }
-  function loadIndex() {
-    if (index === null) { index = []; load('crosslink/index.js', showPeople); }
-  }
-  window.crossLinkIndex = function (entries) {
-    index = entries.map(function (entry) { return { name: entry[0], id: entry[1], count: entry[2], text: fold(entry[0]) }; });
+  function wordsOf(text) { return fold(text).split(/[^\p{L}\p{N}]+/u).filter(Boolean); }
+  window.crossLinkNames = function (beginning, entries) {
+    names[beginning] = entries.map(function (entry) {
+      return { name: entry[0], id: entry[1], count: entry[2], words: ' ' + wordsOf(entry[0]).join(' ') };
+    });
   };
   function showPeople() {
-    var words = fold(search.value).split(/\s+/).filter(Boolean), matching = [];
-    if (!index || !words.length || search.value.trim().length < 2) { return; }
-    for (var i = 0; i < index.length && matching.length < 30; i++) {
-      if (words.every(function (word) { return index[i].text.indexOf(word) >= 0; })) { matching.push(index[i]); }
+    var words = wordsOf(search.value), long = words.filter(function (word) { return word.length >= 2 || word > '\u2e7f'; });
+    if (!long.length) { people.hidden = true; return; }
+    var beginning = long[0].slice(0, 2);
+    if (!names[beginning]) {
+      names[beginning] = [];
+      load('crosslink/names-' + part(beginning) + '.js', showPeople);
+      return;
     }
+    var matching = names[beginning].filter(function (person) {
+      return words.every(function (word) { return person.words.indexOf(' ' + word) >= 0; });
+    }).slice(0, 30);
     clear(people);
     people.hidden = matching.length === 0;
     if (people.hidden) { return; }

@@ -1,0 +1,4 @@
+﻿crossLinkNames("br",[
+["Olm Brandt","olm_brandt",1],
+["Tess Bray","tess_bray",1],
+]);

@@ -1,0 +1,3 @@
+﻿crossLinkNames("de",[
+["Rosa Dene","rosa_dene",1],
+]);

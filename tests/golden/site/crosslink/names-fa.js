@@ -1,0 +1,3 @@
+﻿crossLinkNames("fa",[
+["Uta Falk","uta_falk",1],
+]);

@@ -1,0 +1,3 @@
+﻿crossLinkNames("iv",[
+["Iva Renn","iva_renn",1],
+]);

@@ -1,0 +1,3 @@
+﻿crossLinkNames("jo",[
+["Jonas Teld","jonas_teld",1],
+]);

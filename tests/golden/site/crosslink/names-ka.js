@@ -1,0 +1,3 @@
+﻿crossLinkNames("ka",[
+["Kai Lund","kai_lund",1],
+]);

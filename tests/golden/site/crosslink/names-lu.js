@@ -1,0 +1,3 @@
+﻿crossLinkNames("lu",[
+["Kai Lund","kai_lund",1],
+]);

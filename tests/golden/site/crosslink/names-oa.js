@@ -1,0 +1,3 @@
+﻿crossLinkNames("oa",[
+["Wim Oake","wim_oake",1],
+]);

@@ -1,0 +1,3 @@
+﻿crossLinkNames("ok",[
+["Mara Liv Okonski","mara_liv_okonski",1],
+]);

@@ -1,0 +1,3 @@
+﻿crossLinkNames("ol",[
+["Olm Brandt","olm_brandt",1],
+]);

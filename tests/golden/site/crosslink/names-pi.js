@@ -1,0 +1,3 @@
+﻿crossLinkNames("pi",[
+["Pim","pim",1],
+]);

@@ -1,0 +1,4 @@
+﻿crossLinkNames("re",[
+["Iva Renn","iva_renn",1],
+["Rex","rex",1],
+]);

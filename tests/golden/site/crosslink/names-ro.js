@@ -1,0 +1,3 @@
+﻿crossLinkNames("ro",[
+["Rosa Dene","rosa_dene",1],
+]);

@@ -1,0 +1,3 @@
+﻿crossLinkNames("si",[
+["Siobhan O'Marra","siobhan_omarra",1],
+]);

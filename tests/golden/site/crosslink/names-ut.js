@@ -1,0 +1,3 @@
+﻿crossLinkNames("ut",[
+["Uta Falk","uta_falk",1],
+]);

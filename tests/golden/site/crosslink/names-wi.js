@@ -1,0 +1,3 @@
+﻿crossLinkNames("wi",[
+["Wim Oake","wim_oake",1],
+]);
