@@ -3,6 +3,7 @@
 #include "base/FolderIndex.h"
 #include "browser/Browser.h"
 #include "browser/CollectionTabs.h"
+#include "browser/Credits.h"
 #include "browser/Views.h"
 #include "database/DatabaseFunctions.h"
 #include "shell/Session.h"
@@ -42,6 +43,24 @@ void ListAssignedEpisodes(Browser &browser, const QString &id) {
         EscapeSql(id) +
         u"' AND e.EpisodeID = p.EpisodeID AND s.SeriesID = e.SeriesID ORDER BY SortTitle, Season, EpisodeNo"_s);
     UpdateEpisodeList(browser, rows);
+    if (browser.listEpisodes.rowCount() > 0) {
+        rows.MoveFirst();
+        ShowAssignedEpisodes(browser, rows);
+    } else {
+        GetBoxsetProfiles(browser, id);
+    }
+}
+
+/// The panels of the credits and below them, for a title that was chosen in one of the lists.
+void ShowPeople(Browser &browser, const QString &id, bool is_episode) {
+    ClearAwards(browser);
+    ShowCredits(browser, id, is_episode);
+    if (!is_episode) {
+        ClearAppearences(browser);
+        ListAssignedEpisodes(browser, id);
+    } else if (browser.session.view.mTVShows) {
+        GetEpisodeProfiles(browser, id);
+    }
 }
 
 QString FindTitle(const QString &id, bool is_episode) {
@@ -106,8 +125,8 @@ void GetProfileInfos(Browser &browser, const QString &key, bool is_episode, bool
         return;
     }
     browser.caption = is_episode ? EpisodeCaption(record) : MakeWindowCaption(record);
-    if (!is_episode && !keep_credits) {
-        ListAssignedEpisodes(browser, id);
+    if (!keep_credits) {
+        ShowPeople(browser, id, is_episode);
     }
     Q_EMIT browser.TitleChanged();
 }
@@ -117,6 +136,9 @@ void ClearAllProfileInfos(Browser &browser) {
     if (!browser.session.view.mTVShows) {
         browser.listEpisodes.Clear();
     }
+    ClearCredits(browser);
+    ClearAppearences(browser);
+    ClearAwards(browser);
     if (browser.session.view.mSkinEnable && browser.session.window.ShowBlankPage) {
         browser.session.window.ShowBlankPage();
     }

@@ -56,9 +56,22 @@ void ListTable::sort(int column, Qt::SortOrder order) {
     Q_EMIT layoutChanged({}, VerticalSortHint);
 }
 
+void ListTable::SetColumns(const QStringList &columns) {
+    Q_ASSERT(columns.size() == columns_.size());
+    columns_ = columns;
+    Q_EMIT headerDataChanged(Qt::Horizontal, 0, int(columns_.size()) - 1);
+}
+
 void ListTable::Assign(std::vector<ListTableRow> rows) {
     beginResetModel();
     rows_ = std::move(rows);
+    endResetModel();
+}
+
+void ListTable::Rebuild(QStringList columns) {
+    beginResetModel();
+    columns_ = std::move(columns);
+    rows_.clear();
     endResetModel();
 }
 

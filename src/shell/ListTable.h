@@ -27,6 +27,10 @@ public:
     void sort(int column, Qt::SortOrder order) override;
 
     void Assign(std::vector<ListTableRow> rows);
+    /// Other headers for the same number of columns.
+    void SetColumns(const QStringList &columns);
+    /// Other columns, and no rows.
+    void Rebuild(QStringList columns);
     const std::vector<ListTableRow> &Rows() const { return rows_; }
 
     QString caption;

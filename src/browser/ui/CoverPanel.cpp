@@ -3,6 +3,7 @@
 #include "browser/Browser.h"
 #include "browser/ProfileInfos.h"
 #include "browser/Views.h"
+#include "browser/ui/ActorView.h"
 #include "browser/ui/GridDelegate.h"
 #include "browser/ui/PictureView.h"
 #include "shell/Session.h"
@@ -15,7 +16,8 @@
 namespace ostrand {
 
 CoverPanel::CoverPanel(Browser &browser, QWidget *parent) :
-    QWidget(parent), browser_(browser), listSeasons_(new QComboBox(this)), picCover_(new PictureView(this)) {
+    QWidget(parent), browser_(browser), listSeasons_(new QComboBox(this)), picCover_(new PictureView(this)),
+    picActor_(new ActorView(browser, this)) {
     setObjectName(QStringLiteral("Frame4_1"));
     listSeasons_->setObjectName(QStringLiteral("listSeasons"));
     listSeasons_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
@@ -25,6 +27,7 @@ CoverPanel::CoverPanel(Browser &browser, QWidget *parent) :
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(listSeasons_);
     layout->addWidget(picCover_, 1);
+    layout->addWidget(picActor_, 1);
 
     connect(&browser_, &Browser::SeasonsChanged, this, &CoverPanel::ShowSeasons);
     connect(&browser_, &Browser::ModeChanged, this, &CoverPanel::ShowSeasons);
@@ -41,6 +44,7 @@ CoverPanel::CoverPanel(Browser &browser, QWidget *parent) :
 void CoverPanel::TranslateNames() {
     listSeasons_->setAccessibleName(Translate(browser_.session, QStringLiteral("Season")));
     picCover_->setAccessibleName(Translate(browser_.session, QStringLiteral("Cover")));
+    picActor_->TranslateNames();
     picCover_->setToolTip(Translate(browser_.session, QStringLiteral("Click to see the other side")));
 }
 

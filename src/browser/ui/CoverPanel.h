@@ -6,15 +6,17 @@
 
 namespace ostrand {
 
+class ActorView;
 class Browser;
 class GridDelegate;
 class PictureView;
 
-/// Frame4_1: the seasons in TV view, the cover.
+/// Frame4_1: the seasons in TV view, the cover, the selected person.
 class CoverPanel : public QWidget {
     Q_OBJECT
 public:
     explicit CoverPanel(Browser &browser, QWidget *parent = nullptr);
+    ActorView *picActor() const { return picActor_; }
     void TranslateNames();
 
 Q_SIGNALS:
@@ -27,6 +29,7 @@ private:
     Browser &browser_;
     QComboBox *listSeasons_;
     PictureView *picCover_;
+    ActorView *picActor_;
 };
 
 /// Frame4_2: the episodes.

@@ -2,6 +2,8 @@
 
 #include "browser/Browser.h"
 #include "browser/CollectionTabs.h"
+#include "browser/ui/CreditListView.h"
+#include "browser/ui/CrewFrame.h"
 #include "browser/ui/EmptyPlace.h"
 #include "shell/Session.h"
 #include "shell/ui/SplitPanel.h"
@@ -13,7 +15,9 @@ namespace ostrand {
 
 MiddlePanel::MiddlePanel(Browser &browser, QWidget *parent) :
     QWidget(parent), browser_(browser), tabMain_(new QTabBar(this)), pages_(new QStackedWidget(this)),
-    Split4_(new SplitPanel) {
+    Split4_(new SplitPanel), ListCast_(new CreditListView(browser, browser.credits.ListCast, QStringLiteral("ListCast"),
+                                                          browser.session.view.CastOrderColumns)),
+    FrameCrew_(new CrewFrame(browser)) {
     tabMain_->setObjectName(QStringLiteral("tabMain"));
     tabMain_->setExpanding(false);
     tabMain_->setUsesScrollButtons(true);
@@ -23,8 +27,8 @@ MiddlePanel::MiddlePanel(Browser &browser, QWidget *parent) :
     Split4_->setObjectName(QStringLiteral("Split4"));
     Split4_->SetHorizontal(true);
     Split4_->SetMinPanelSize(0);
-    Split4_->SetControl1(EmptyPlace(QStringLiteral("ListCast")));
-    Split4_->SetControl2(EmptyPlace(QStringLiteral("FrameCrew")));
+    Split4_->SetControl1(ListCast_);
+    Split4_->SetControl2(FrameCrew_);
     pages_->addWidget(Split4_);
     pages_->addWidget(EmptyPlace(QStringLiteral("Details")));
     pages_->addWidget(EmptyPlace(QStringLiteral("AV")));
@@ -47,6 +51,8 @@ MiddlePanel::MiddlePanel(Browser &browser, QWidget *parent) :
 
 void MiddlePanel::TranslateNames() {
     tabMain_->setAccessibleName(Translate(browser_.session, QStringLiteral("Panels")));
+    ListCast_->setAccessibleName(Translate(browser_.session, QStringLiteral("Cast")));
+    FrameCrew_->TranslateNames();
 }
 
 void MiddlePanel::ShowTabs() {

@@ -8,6 +8,8 @@ class QStackedWidget;
 namespace ostrand {
 
 class Browser;
+class CreditListView;
+class CrewFrame;
 class SplitPanel;
 
 /// The tabs of tabMain and what belongs to each: Split4 with the credits, Details, AV.
@@ -16,6 +18,8 @@ class MiddlePanel : public QWidget {
 public:
     explicit MiddlePanel(Browser &browser, QWidget *parent = nullptr);
     SplitPanel *Split4() const { return Split4_; }
+    CreditListView *ListCast() const { return ListCast_; }
+    CrewFrame *FrameCrew() const { return FrameCrew_; }
     void TranslateNames();
 
 private:
@@ -25,6 +29,8 @@ private:
     QTabBar *tabMain_;
     QStackedWidget *pages_;
     SplitPanel *Split4_;
+    CreditListView *ListCast_;
+    CrewFrame *FrameCrew_;
     bool following_ = false;
 };
 
