@@ -89,12 +89,13 @@ QString AwardsOf(const QString &name, const QString &birth_year) {
            (has_year ? " ("_L1 + birth_year + u')' : QString()) + u"*' ORDER BY Award, Category, Year"_s;
 }
 
-/// Whether a film's year is that of a nomination: the one told with it, else about that of the ceremony.
+/// Whether a film's year is that of a nomination: the one told with it, else about that of the ceremony. Years that are
+/// not known fit any other.
 bool IsYearOf(int film_year, int movie_year, int award_year) {
-    if (movie_year != 0 || award_year == 0) {
-        return movie_year == 0 || film_year == movie_year;
+    if (film_year == 0 || (movie_year == 0 && award_year == 0)) {
+        return true;
     }
-    return award_year >= film_year - 1 && award_year <= film_year + 2;
+    return movie_year != 0 ? film_year == movie_year : award_year >= film_year - 1 && award_year <= film_year + 2;
 }
 
 } // namespace

@@ -310,6 +310,7 @@ TEST_F(AppearancesPanelTest, AwardsOfANameAreToldApart) {
 
 TEST_F(AppearancesPanelTest, AnAwardLeadsToItsFilm) {
     AddProfile(u"Q1"_s, u"Title = 'Amber', ProdYear = 1950"_s);
+    AddProfile(u"Q2"_s, u"OriginalTitle = 'Cedar'"_s);
     GetMovieNames(browser);
     const struct {
         const char *name;
@@ -321,6 +322,7 @@ TEST_F(AppearancesPanelTest, AnAwardLeadsToItsFilm) {
         {"about the year of the ceremony", u"Amber"_s, 2001, 0, u"P1"_s},
         {"of a year that no film has", u"Amber"_s, 2001, 1980, u"P2"_s},
         {"of no year", u"Amber"_s, 0, 0, u"P1"_s},
+        {"a film of no year", u"Cedar"_s, 2001, 1980, u"Q2"_s},
         {"of another film", u"Nowhere"_s, 2001, 0, u"P2"_s},
         {"of no film", u"[no specific film title]"_s, 2001, 0, u"P2"_s},
     };

@@ -34,7 +34,7 @@ void AppearancesView::ConnectPanel() {
     connect(&panel, &AppearancesPanel::ColumnsChanged, this, &AppearancesView::TakeColumns);
     connect(&panel, &AppearancesPanel::SortChanged, this, &AppearancesView::ShowSortMark);
     connect(&panel.listAppearences, &QAbstractItemModel::modelReset, this, [this] {
-        filled_.start();
+        ++fills_;
         browser_.appearances.current_row = -1;
     });
     connect(header(), &QHeaderView::sectionClicked, this, [this](int column) { SortAppearances(browser_, column); });
@@ -89,11 +89,15 @@ void AppearancesView::currentChanged(const QModelIndex &current, const QModelInd
     browser_.appearances.current_row = current.row();
 }
 
+void AppearancesView::mousePressEvent(QMouseEvent *event) {
+    fills_at_press_ = fills_;
+    QTreeView::mousePressEvent(event);
+}
+
 void AppearancesView::mouseDoubleClickEvent(QMouseEvent *event) {
     event->accept();
     // The first click may have filled the list anew: what lies below the mouse now is not what was meant.
-    const bool fresh = filled_.isValid() && filled_.elapsed() < QApplication::doubleClickInterval();
-    if (event->button() == Qt::LeftButton && !fresh && indexAt(event->pos()).isValid()) {
+    if (event->button() == Qt::LeftButton && fills_ == fills_at_press_ && indexAt(event->pos()).isValid()) {
         Q_EMIT RowActivated();
     }
 }

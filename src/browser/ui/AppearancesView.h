@@ -3,7 +3,6 @@
 
 #include "shell/ViewState.h"
 
-#include <QElapsedTimer>
 #include <QHash>
 #include <QTreeView>
 
@@ -30,6 +29,7 @@ Q_SIGNALS:
 
 protected:
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
+    void mousePressEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
@@ -45,7 +45,8 @@ private:
     GridDelegate *delegate_;
     PanelMode mode_ = PanelMode::None;
     QHash<int, QList<double>> widths_; ///< by panel mode
-    QElapsedTimer filled_;
+    int fills_ = 0;                    ///< how often the rows came anew
+    int fills_at_press_ = 0;
     bool placing_ = false;
 };
 
