@@ -34,7 +34,7 @@ QVariant CreditList::data(const QModelIndex &index, int role) const {
     case Qt::DisplayRole:
         return Text(row, index.column());
     case Qt::ToolTipRole:
-        return index.column() == Role ? row.role : row.name;
+        return row.caption ? row.text : index.column() == Role ? row.role : row.name;
     case Qt::TextAlignmentRole:
         return int((index.column() == Position ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
     case NameRole:
@@ -53,10 +53,8 @@ QVariant CreditList::data(const QModelIndex &index, int role) const {
 }
 
 QVariant CreditList::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
-        return {};
-    }
-    return headers_.value(section);
+    const bool text = role == Qt::DisplayRole || role == Qt::ToolTipRole;
+    return orientation == Qt::Horizontal && text ? headers_.value(section) : QVariant();
 }
 
 void CreditList::sort(int column, Qt::SortOrder order) {

@@ -45,7 +45,7 @@ TEST_F(CreditClipboard, WholeDocument) {
               "  <Title>Amber &amp; Co</Title>\r\n"
               "  <Actors>\r\n"
               "    <Actor FirstName=\"Mara\" MiddleName=\"Ann\" LastName=\"Hale\" BirthYear=\"1950\" Role=\"Keeper\" "
-              "Voice=\"True\" Uncredited=\"False\" />\r\n"
+              "Voice=\"True\" Uncredited=\"False\"/>\r\n"
               "  </Actors>\r\n"
               "  <OSVCast>\r\n"
               "    <CastMember>\r\n"
@@ -90,11 +90,11 @@ TEST_F(CreditClipboard, Dividers) {
     const struct {
         QString role, name, divider;
     } cases[] = {
-        {u"[DivEpisode]"_s, u"1. Dust"_s, u"<Divider Caption=\"1. Dust\" Type=\"Episode\" />"_s},
-        {u"[DivGroup]"_s, u"Crowd"_s, u"<Divider Caption=\"Crowd\" Type=\"Group\" />"_s},
-        {u"[DivEnd]"_s, {}, u"<Divider Caption=\"\" Type=\"EndDiv\" />"_s},
-        {u"[DivTeam]"_s, u"Unit"_s, u"<Divider Caption=\"Unit\" Type=\"Team\" />"_s},
-        {u"[Divider]"_s, QString(70, u'x'), u"<Divider Caption=\"%1\" />"_s.arg(QString(60, u'x'))},
+        {u"[DivEpisode]"_s, u"1. Dust"_s, u"<Divider Caption=\"1. Dust\" Type=\"Episode\"/>"_s},
+        {u"[DivGroup]"_s, u"Crowd"_s, u"<Divider Caption=\"Crowd\" Type=\"Group\"/>"_s},
+        {u"[DivEnd]"_s, {}, u"<Divider Caption=\"\" Type=\"EndDiv\"/>"_s},
+        {u"[DivTeam]"_s, u"Unit"_s, u"<Divider Caption=\"Unit\" Type=\"Team\"/>"_s},
+        {u"[Divider]"_s, QString(70, u'x'), u"<Divider Caption=\"%1\"/>"_s.arg(QString(60, u'x'))},
     };
     for (const auto &c : cases) {
         EXPECT_EQ(First(Cast({Person(c.name, c.role)}), u"Actors"_s), c.divider);

@@ -42,8 +42,10 @@ CreditListView::CreditListView(Browser &browser, CreditList &credits, const QStr
         if (!placing_) {
             places_ = ColumnPlaces(*this, CreditList::Position + 1);
         }
+        SpanCaptions();
     });
     connect(&credits_, &QAbstractItemModel::modelReset, this, &CreditListView::ShowSortMark);
+    connect(&credits_, &QAbstractItemModel::modelReset, this, &CreditListView::SpanCaptions);
     connect(&credits_, &QAbstractItemModel::layoutChanged, this, &CreditListView::ShowSortMark);
     connect(&browser_, &Browser::SettingsChanged, this, &CreditListView::ApplyPlaces);
     header()->setSortIndicatorShown(true);
@@ -57,6 +59,16 @@ void CreditListView::ApplyPlaces() {
 
 void CreditListView::ShowSortMark() {
     header()->setSortIndicator(credits_.SortColumn(), credits_.SortOrder());
+}
+
+void CreditListView::SpanCaptions() {
+    const bool span = header()->visualIndex(CreditList::Name) == 0;
+    const auto &rows = credits_.Rows();
+    for (int row = 0; row < int(rows.size()); ++row) {
+        if (rows[size_t(row)].caption) {
+            setFirstColumnSpanned(row, {}, span);
+        }
+    }
 }
 
 void CreditListView::SetGridLines(bool shown) {

@@ -35,6 +35,8 @@ private:
     void FindPerson();
     void ApplyPlaces();
     void ShowSortMark();
+    /// Captions take the whole row, which they can where the names stand first.
+    void SpanCaptions();
 
     Browser &browser_;
     CreditList &credits_;
