@@ -60,6 +60,7 @@ public:
         session_(session), headshots_(headshots), translated_(session, TextsOf(session, records)) {
         if (session.view.HighlightHeadshots && !session.HeadshotPath.isEmpty()) {
             headshots_.SetFolder(session.HeadshotPath);
+            headshots_.Refresh();
             names_.emplace(session, NamesOf(records));
         }
     }
@@ -110,9 +111,7 @@ private:
 
     bool FindPrimaryHeadshot(const CreditRecord &credit) {
         const QString common = names_->Common(credit.name, credit.birth_year.toInt());
-        const auto exists = [this](const QString &stem) {
-            return !headshots_.Find(HeadshotFileName(stem, 0)).isEmpty();
-        };
+        const auto exists = [this](const QString &stem) { return headshots_.Holds(HeadshotFileName(stem, 0)); };
         return exists(HeadshotStem(common, credit.birth_year)) ||
                (credit.name != common && exists(HeadshotStem(credit.name, credit.birth_year))) ||
                (HeadshotStem(common, credit.birth_year) != common && exists(common));

@@ -32,6 +32,7 @@ AppearancesView::AppearancesView(Browser &browser, QWidget *parent) :
 void AppearancesView::ConnectPanel() {
     AppearancesPanel &panel = browser_.appearances;
     connect(&panel, &AppearancesPanel::ColumnsChanged, this, &AppearancesView::TakeColumns);
+    connect(&browser_, &Browser::SettingsChanged, this, &AppearancesView::TakeColumns); // another database's places
     connect(&panel, &AppearancesPanel::SortChanged, this, &AppearancesView::ShowSortMark);
     connect(&panel.listAppearences, &QAbstractItemModel::modelReset, this, [this] {
         ++fills_;
