@@ -13,6 +13,7 @@ public:
     static bool Enabled(const Session &) { return false; }
     static void AuditDatabaseOpened(Session &) {}
     static void AuditUpdateProfile(Session &, const QString & /*id*/, const QString & /*message*/) {}
+    static void AuditUpdateEpisode(Session &, const QString & /*id*/, const QString & /*message*/) {}
     static void AuditWriteProfile(Session &, const QString & /*id*/) {}
     static void AuditSync(Session &, const QString & /*message*/) {}
 };

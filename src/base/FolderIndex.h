@@ -17,6 +17,10 @@ public:
     const QString &Folder() const { return folder_; }
     /// The full path of the file with that name, spelt as on disk; empty when there is none. A name spelt exactly wins.
     QString Find(const QString &name);
+    /// Reads the folder if it changed, for `Holds`.
+    void Refresh() { ReadIfChanged(); }
+    /// Whether a file of that name was there then; asks the disk nothing, so that many names can be asked for.
+    bool Holds(const QString &name) const { return !names_.isEmpty() && names_.contains(name.toCaseFolded()); }
     /// Forgets what was read.
     void Invalidate();
     /// How often the folder was read, for tests.

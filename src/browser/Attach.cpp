@@ -2,6 +2,7 @@
 
 #include "browser/Browser.h"
 #include "browser/CollectionTabs.h"
+#include "browser/Credits.h"
 #include "browser/Navigation.h"
 #include "browser/ProfileInfos.h"
 #include "browser/Views.h"
@@ -30,6 +31,8 @@ void ShowHeaders(Browser &browser) {
     browser.listSeries.SetHeaders(Translated(session, {u"Title", u"#", u"SortTitle", u"Year", u"P.Date", u"Released"}));
     browser.listEpisodes.SetHeaders(Translated(session, {u"#", u"Episode Title"}));
     TranslateContent(browser);
+    ShowCreditHeaders(browser);
+    ShowAppearanceHeaders(browser);
 }
 
 void BuildColumns(Browser &browser) {
@@ -120,6 +123,7 @@ void TakeSettings(Browser &browser) {
     if (browser.session.view.mSkinEnable) {
         Redisplay(browser);
     }
+    RefillCredits(browser); // headshots may be marked now, or no longer
     ShowCoverAgain(browser);
     Q_EMIT browser.SettingsChanged();
 }

@@ -4,7 +4,7 @@
 
 namespace ostrand {
 
-Browser::Browser(Session &the_session) : session(the_session), commands(the_session.view) {}
+Browser::Browser(Session &the_session) : session(the_session), commands(the_session.view), credits(the_session) {}
 
 QString SelectedColType(Browser &browser) {
     return ReverseTranslate(browser.session, browser.tabColList.value(browser.tabColList_selected - 1));

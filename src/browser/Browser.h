@@ -2,7 +2,9 @@
 #pragma once
 
 #include "base/FolderIndex.h"
+#include "browser/AppearancesPanel.h"
 #include "browser/Commands.h"
+#include "browser/CreditsPanel.h"
 #include "browser/EpisodeList.h"
 #include "browser/History.h"
 #include "browser/ProfileContent.h"
@@ -66,6 +68,9 @@ public:
     /// The cover files of the current title are this and "f.jpg" or "b.jpg"; empty without a title.
     QString cover_stem;
     FolderIndex covers;
+
+    CreditsPanel credits;
+    AppearancesPanel appearances;
 
     // What the windows do on behalf of the browser's routines; empty without windows.
     struct Hooks {

@@ -1,6 +1,7 @@
 #include "browser/CollectionTabs.h"
 
 #include "browser/Browser.h"
+#include "browser/Credits.h"
 #include "browser/ProfileInfos.h"
 #include "browser/TitleQueries.h"
 #include "browser/Views.h"
@@ -160,6 +161,9 @@ void SelectMainTab(Browser &browser, int index) {
     session.view.LastTab = ClampTab(index, int(browser.tabMain.size()));
     EnableTab(browser, index);
     GetProfileInfos(browser, session.CurrentProfileID, session.CurrentIsEpisode, true);
+    if (browser.tabMain_selected == 1) {
+        ShowStaleCredits(browser);
+    }
 }
 
 void ChooseFilter(Browser &browser, const QString &text) {

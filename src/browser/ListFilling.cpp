@@ -24,6 +24,7 @@ void BeginList(Browser &browser) {
     browser.listSeries.Clear();
     browser.listSeries.SetStriping(TitleList::Striping::None);
     browser.current_row = -1;
+    ClearAppearences(browser);
 }
 
 void ShowFirstTitle(Browser &browser) {

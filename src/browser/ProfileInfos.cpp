@@ -3,6 +3,7 @@
 #include "base/FolderIndex.h"
 #include "browser/Browser.h"
 #include "browser/CollectionTabs.h"
+#include "browser/Credits.h"
 #include "browser/MediaIcon.h"
 #include "browser/Views.h"
 #include "database/DatabaseFunctions.h"
@@ -68,6 +69,24 @@ void ListAssignedEpisodes(Browser &browser, const QString &id) {
         EscapeSql(id) +
         u"' AND e.EpisodeID = p.EpisodeID AND s.SeriesID = e.SeriesID ORDER BY SortTitle, Season, EpisodeNo"_s);
     UpdateEpisodeList(browser, rows);
+    if (browser.listEpisodes.rowCount() > 0) {
+        rows.MoveFirst();
+        ShowAssignedEpisodes(browser, rows);
+    } else {
+        GetBoxsetProfiles(browser, id);
+    }
+}
+
+/// The panels of the credits and below them, for a title that was chosen in one of the lists.
+void ShowPeople(Browser &browser, const QString &id, bool is_episode) {
+    ClearAwards(browser);
+    ShowCredits(browser, id, is_episode);
+    if (!is_episode) {
+        ClearAppearences(browser);
+        ListAssignedEpisodes(browser, id);
+    } else if (browser.session.view.mTVShows) {
+        GetEpisodeProfiles(browser, id);
+    }
 }
 
 /// The caption, and what the panels tell in the selected tab.
@@ -79,8 +98,8 @@ void FillPanels(Browser &browser, const sql::Recordset &record, const QString &i
     if (tab == kDetailsTab) {
         FillLinksAndGroups(browser, id);
     }
-    if (!is_episode && !keep_credits) {
-        ListAssignedEpisodes(browser, id);
+    if (!keep_credits) {
+        ShowPeople(browser, id, is_episode);
     }
     if (tab == kAVTab) {
         FillAV(browser, id);
@@ -176,6 +195,9 @@ void ClearAllProfileInfos(Browser &browser) {
     if (!browser.session.view.mTVShows) {
         browser.listEpisodes.Clear();
     }
+    ClearCredits(browser);
+    ClearAppearences(browser);
+    ClearAwards(browser);
     if (browser.session.view.mSkinEnable && browser.session.window.ShowBlankPage) {
         browser.session.window.ShowBlankPage();
     }

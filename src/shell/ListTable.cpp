@@ -69,4 +69,11 @@ void ListTable::Assign(std::vector<ListTableRow> rows) {
     endResetModel();
 }
 
+void ListTable::Rebuild(QStringList columns) {
+    beginResetModel();
+    columns_ = std::move(columns);
+    rows_.clear();
+    endResetModel();
+}
+
 } // namespace ostrand

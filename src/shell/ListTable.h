@@ -31,6 +31,8 @@ public:
     void Assign(std::vector<ListTableRow> rows);
     /// Other headers for the same number of columns.
     void SetColumns(const QStringList &columns);
+    /// Other columns, and no rows.
+    void Rebuild(QStringList columns);
     const std::vector<ListTableRow> &Rows() const { return rows_; }
 
     QString caption;

@@ -59,6 +59,20 @@ TEST_F(FolderIndexTest, FindsAFileThatCameLater) {
     EXPECT_EQ(Found(u"NEW.jpg"_s), u"new.jpg"_s);
 }
 
+TEST_F(FolderIndexTest, TellsWhatWasThereAtTheLastLook) {
+    EXPECT_FALSE(index.Holds(u"Ab.jpg"_s)) << "it was not looked at yet";
+    index.Refresh();
+    EXPECT_TRUE(index.Holds(u"Ab.jpg"_s));
+    EXPECT_TRUE(index.Holds(u"aB.JPG"_s));
+    EXPECT_FALSE(index.Holds(u"missing.jpg"_s));
+    EXPECT_FALSE(index.Holds({}));
+    dir.Write(u"new.jpg"_s, "4");
+    EXPECT_FALSE(index.Holds(u"new.jpg"_s));
+    index.Invalidate();
+    index.Refresh();
+    EXPECT_TRUE(index.Holds(u"NEW.jpg"_s));
+}
+
 TEST_F(FolderIndexTest, AFolderThatIsMissingHoldsNothing) {
     index.SetFolder(dir / u"gone"_s);
     EXPECT_EQ(Found(u"Ab.jpg"_s), QString());

@@ -281,7 +281,8 @@ TEST_F(ViewsTest, AnEpisodeBecomesTheCurrentTitle) {
     EXPECT_EQ(session.CurrentProfileID, u"H13"_s);
     EXPECT_TRUE(session.CurrentIsEpisode);
     EXPECT_EQ(browser.current_episode, 2);
-    EXPECT_EQ(LogLines().last(), u"Enter:    GetProfileInfos(H13, True, False)"_s);
+    EXPECT_EQ(Traced(u"GetProfileInfos(H13, True, False)"_s), 1);
+    EXPECT_EQ(Traced(u"UpdateTVCredits(, , , H13)"_s), 1);
 }
 
 TEST_F(ViewsTest, EpisodesAreSortedWithTheSelectedOneKept) {

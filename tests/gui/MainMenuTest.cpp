@@ -139,6 +139,9 @@ protected:
             const QStringList before = Rows();
             closer.start(5);
             Action(name)->trigger();
+            if (FindMenuEntry(name)->told_checked) {
+                Action(name)->trigger(); // a lock comes and goes
+            }
             closer.stop();
             QCoreApplication::processEvents();
             CloseOtherWindows();

@@ -4,6 +4,7 @@
 #include "browser/MediaIcon.h"
 #include "browser/ProfileInfos.h"
 #include "browser/Views.h"
+#include "browser/ui/ActorView.h"
 #include "browser/ui/GridDelegate.h"
 #include "browser/ui/MediumIcon.h"
 #include "browser/ui/PictureView.h"
@@ -19,7 +20,7 @@ namespace ostrand {
 
 CoverPanel::CoverPanel(Browser &browser, QWidget *parent) :
     QWidget(parent), browser_(browser), listSeasons_(new QComboBox(this)), picMedium_(new MediumIcon(this)),
-    picCover_(new PictureView(this)) {
+    picCover_(new PictureView(this)), picActor_(new ActorView(browser, this)) {
     setObjectName(QStringLiteral("Frame4_1"));
     listSeasons_->setObjectName(QStringLiteral("listSeasons"));
     listSeasons_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
@@ -30,6 +31,7 @@ CoverPanel::CoverPanel(Browser &browser, QWidget *parent) :
     layout->addWidget(listSeasons_);
     layout->addWidget(picMedium_);
     layout->addWidget(picCover_, 1);
+    layout->addWidget(picActor_, 1);
 
     connect(&browser_, &Browser::SeasonsChanged, this, &CoverPanel::ShowSeasons);
     connect(&browser_, &Browser::ModeChanged, this, &CoverPanel::ShowSeasons);
@@ -58,6 +60,7 @@ void CoverPanel::TranslateNames() {
     picMedium_->setAccessibleName(Translate(browser_.session, QStringLiteral("Medium")));
     listSeasons_->setAccessibleName(Translate(browser_.session, QStringLiteral("Season")));
     picCover_->setAccessibleName(Translate(browser_.session, QStringLiteral("Cover")));
+    picActor_->TranslateNames();
     picCover_->setToolTip(Translate(browser_.session, QStringLiteral("Click to see the other side")));
 }
 

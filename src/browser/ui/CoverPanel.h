@@ -6,16 +6,18 @@
 
 namespace ostrand {
 
+class ActorView;
 class Browser;
 class GridDelegate;
 class MediumIcon;
 class PictureView;
 
-/// Frame4_1: the seasons in TV view, the icon of the medium in movie view, the cover.
+/// Frame4_1: the seasons in TV view, the icon of the medium in movie view, the cover, the selected person.
 class CoverPanel : public QWidget {
     Q_OBJECT
 public:
     explicit CoverPanel(Browser &browser, QWidget *parent = nullptr);
+    ActorView *picActor() const { return picActor_; }
     void TranslateNames();
     /// The height in which the cover fills the width; 0 without a cover.
     int WantedHeight() const;
@@ -38,6 +40,7 @@ private:
     QComboBox *listSeasons_;
     MediumIcon *picMedium_;
     PictureView *picCover_;
+    ActorView *picActor_;
 };
 
 /// Frame4_2: the episodes.

@@ -1,9 +1,11 @@
 #include "browser/ui/MainCommands.h"
 
+#include "browser/AppearancesPanel.h"
 #include "browser/Attach.h"
 #include "browser/Browser.h"
 #include "browser/CollectionTabs.h"
 #include "browser/CollectionTypes.h"
+#include "browser/CreditCommands.h"
 #include "browser/Navigation.h"
 #include "browser/ProfileInfos.h"
 #include "browser/SkinView.h"
@@ -78,6 +80,11 @@ void ToggleGridLines(Browser &browser, bool ViewState::GridLines::*shown) {
     Q_EMIT browser.SettingsChanged();
 }
 
+template <void (*kRoutine)(Browser &, CreditKind), CreditKind kKind>
+void OfCredits(frmMain &main) {
+    kRoutine(main.browser, kKind);
+}
+
 template <int kKey, Order kOrder>
 void Sort(frmMain &main) {
     ReOrderSeriesList(main.browser, kKey, kOrder);
@@ -143,18 +150,28 @@ constexpr Handler kHandlers[] = {
     {u"mAddColType", Browse<AddColType>},
     {u"mRenameCollectionType", Browse<RenameCollectionType>},
     {u"mRemoveColType", Browse<RemoveColType>},
+    {u"mReverseCredit", Browse<ToggleReverseCredit>},
+    {u"mShowFullBoxsetCredits", Browse<ToggleFullBoxsetCredits>},
+    {u"mCrewTreeView", Browse<ToggleCrewTreeView>},
+    {u"mHideUnassignedCrew", Browse<ToggleHideUnassignedCrew>},
+    {u"mFindApperances", [](frmMain &main) { FindAppearances(main.browser); }},
+    {u"mCopyCastList", OfCredits<CopyCredits, CreditKind::Cast>},
+    {u"mCopyCrewList", OfCredits<CopyCredits, CreditKind::Crew>},
+    {u"mPasteCastList", OfCredits<PasteCredits, CreditKind::Cast>},
+    {u"mPasteCrewList", OfCredits<PasteCredits, CreditKind::Crew>},
+    {u"mLockCast", OfCredits<ToggleCreditLock, CreditKind::Cast>},
+    {u"mLockCrew", OfCredits<ToggleCreditLock, CreditKind::Crew>},
+    {u"mGotoAppearance", [](frmMain &main) { GoToAppearance(main.browser, main.browser.appearances.current_row); }},
+    {u"mNextHeadshot", [](frmMain &main) { main.browser.credits.picActor.AlternateHeadshot(); }},
     {u"mDropBox", ShowDropBox},
     {u"mSQLQuery", ShowSqlQuery},
     {u"mSettings", [](frmMain &main) { frmSettings(main.browser.session, &main).exec(); }},
     {u"mAbout", [](frmMain &main) { frmAbout(main.browser.session, &main).exec(); }},
 };
 
-/// The lists whose grid lines can be seen today.
-constexpr std::array kGridLists = {&ViewState::GridLines::ListCollection, &ViewState::GridLines::ListEpisodes};
-
 void HandleGridLines(frmMain &main) {
     for (const MenuEntry &entry : MenuEntries()) {
-        if (std::find(kGridLists.begin(), kGridLists.end(), entry.grid_lines) != kGridLists.end()) {
+        if (entry.grid_lines != nullptr) {
             main.browser.commands.Handle(QString::fromUtf16(entry.name),
                                          [&main, lines = entry.grid_lines] { ToggleGridLines(main.browser, lines); });
         }

@@ -2,7 +2,8 @@
 
 #include "browser/Browser.h"
 #include "browser/CollectionTabs.h"
-#include "browser/ui/EmptyPlace.h"
+#include "browser/ui/CreditListView.h"
+#include "browser/ui/CrewFrame.h"
 #include "browser/ui/ProfileAV.h"
 #include "browser/ui/ProfileDetails.h"
 #include "shell/Session.h"
@@ -15,7 +16,9 @@ namespace ostrand {
 
 MiddlePanel::MiddlePanel(Browser &browser, QWidget *parent) :
     QWidget(parent), browser_(browser), tabMain_(new QTabBar(this)), pages_(new QStackedWidget(this)),
-    Split4_(new SplitPanel), Details_(new ProfileDetails(browser)), AV_(new ProfileAV(browser)) {
+    Split4_(new SplitPanel), ListCast_(new CreditListView(browser, browser.credits.ListCast, QStringLiteral("ListCast"),
+                                                          browser.session.view.CastOrderColumns)),
+    FrameCrew_(new CrewFrame(browser)), Details_(new ProfileDetails(browser)), AV_(new ProfileAV(browser)) {
     tabMain_->setObjectName(QStringLiteral("tabMain"));
     tabMain_->setExpanding(false);
     tabMain_->setUsesScrollButtons(true);
@@ -25,8 +28,8 @@ MiddlePanel::MiddlePanel(Browser &browser, QWidget *parent) :
     Split4_->setObjectName(QStringLiteral("Split4"));
     Split4_->SetHorizontal(true);
     Split4_->SetMinPanelSize(0);
-    Split4_->SetControl1(EmptyPlace(QStringLiteral("ListCast")));
-    Split4_->SetControl2(EmptyPlace(QStringLiteral("FrameCrew")));
+    Split4_->SetControl1(ListCast_);
+    Split4_->SetControl2(FrameCrew_);
     pages_->addWidget(Split4_);
     pages_->addWidget(Details_);
     pages_->addWidget(AV_);
@@ -51,6 +54,8 @@ void MiddlePanel::TranslateNames() {
     tabMain_->setAccessibleName(Translate(browser_.session, QStringLiteral("Panels")));
     Details_->TranslateNames();
     AV_->TranslateNames();
+    ListCast_->setAccessibleName(Translate(browser_.session, QStringLiteral("Cast")));
+    FrameCrew_->TranslateNames();
 }
 
 void MiddlePanel::ShowTabs() {

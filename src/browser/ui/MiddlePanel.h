@@ -8,6 +8,8 @@ class QStackedWidget;
 namespace ostrand {
 
 class Browser;
+class CreditListView;
+class CrewFrame;
 class ProfileAV;
 class ProfileDetails;
 class SplitPanel;
@@ -18,6 +20,8 @@ class MiddlePanel : public QWidget {
 public:
     explicit MiddlePanel(Browser &browser, QWidget *parent = nullptr);
     SplitPanel *Split4() const { return Split4_; }
+    CreditListView *ListCast() const { return ListCast_; }
+    CrewFrame *FrameCrew() const { return FrameCrew_; }
     void TranslateNames();
 
 private:
@@ -27,6 +31,8 @@ private:
     QTabBar *tabMain_;
     QStackedWidget *pages_;
     SplitPanel *Split4_;
+    CreditListView *ListCast_;
+    CrewFrame *FrameCrew_;
     ProfileDetails *Details_;
     ProfileAV *AV_;
     bool following_ = false;

@@ -2,12 +2,17 @@
 
 #include "browser/Attach.h"
 #include "browser/Browser.h"
+#include "browser/CreditCommands.h"
 #include "browser/MenuStrings.h"
 #include "browser/Navigation.h"
 #include "browser/SkinView.h"
 #include "browser/Views.h"
+#include "browser/ui/ActorView.h"
+#include "browser/ui/AppearancesView.h"
+#include "browser/ui/AwardsFrame.h"
 #include "browser/ui/CoverPanel.h"
-#include "browser/ui/EmptyPlace.h"
+#include "browser/ui/CreditListView.h"
+#include "browser/ui/CrewFrame.h"
 #include "browser/ui/FileDrop.h"
 #include "browser/ui/Guarded.h"
 #include "browser/ui/MainCommands.h"
@@ -101,6 +106,8 @@ void frmMain::Compose() {
     cover_ = new CoverPanel(browser);
     episodes_ = new EpisodePanel(browser);
     middle_ = new MiddlePanel(browser);
+    appearances_ = new AppearancesView(browser);
+    awards_ = new AwardsFrame(browser);
 
     for (size_t i = 0; i < splits_.size(); ++i) {
         splits_[i] = i == 3 ? middle_->Split4() : new SplitPanel;
@@ -117,8 +124,8 @@ void frmMain::Compose() {
     Split(2)->SetSnapToEdge(true);
     Split(3)->SetControl1(middle_);
     Split(3)->SetControl2(Split(5));
-    Split(5)->SetControl1(EmptyPlace(u"listAppearences"_s));
-    Split(5)->SetControl2(EmptyPlace(u"FrameAwards"_s));
+    Split(5)->SetControl1(appearances_);
+    Split(5)->SetControl2(awards_);
     Split(6)->SetControl1(cover_);
     Split(6)->SetControl2(episodes_);
 
@@ -144,8 +151,10 @@ void frmMain::OrderTabs() {
         stops.append(toolMain_->findChild<QToolButton *>(action->objectName()));
     }
     for (const char16_t *name :
-         {u"tabColList", u"comboFilter", u"listSeries", u"listSeasons", u"picCover", u"listEpisodes", u"tabMain",
-          u"UPC", u"urlIMDB", u"listGenres", u"listStudios", u"listFeatures", u"listAudio", u"listSubtitles"}) {
+         {u"tabColList",   u"comboFilter",  u"listSeries",    u"listSeasons",     u"picCover",
+          u"picActor",     u"listEpisodes", u"tabMain",       u"ListCast",        u"ListCrew",
+          u"treeCrew",     u"UPC",          u"urlIMDB",       u"listGenres",      u"listStudios",
+          u"listFeatures", u"listAudio",    u"listSubtitles", u"listAppearences", u"treeAwards"}) {
         stops.append(findChild<QWidget *>(QString::fromUtf16(name)));
     }
     // What takes no focus, such as an empty cover, could get no place.
@@ -181,6 +190,7 @@ void frmMain::ConnectBrowser() {
             [this] { browser.commands.Run(u"mProfileInformation"_s); });
     connect(episodes_, &EpisodePanel::RowActivated, this, [this] { browser.commands.Run(u"mEpisodeInfoContext"_s); });
     ConnectContextMenus();
+    ConnectPeople();
     AddKeys();
 }
 
@@ -201,6 +211,24 @@ void frmMain::ConnectContextMenus() {
         browser.commands.SetChecked(u"mLockEpisode"_s, IsEpisodeLocked(browser));
         OpenContextMenu(u"mEpisodeTools"_s, place);
     });
+}
+
+void frmMain::ConnectPeople() {
+    connect(middle_->ListCast(), &CreditListView::MenuWanted, this, [this](const QPoint &place) {
+        browser.commands.SetChecked(u"mLockCast"_s, AreCreditsLocked(browser, CreditKind::Cast));
+        OpenContextMenu(u"mCastTools"_s, place);
+    });
+    connect(middle_->FrameCrew(), &CrewFrame::MenuWanted, this, [this](const QPoint &place) {
+        browser.commands.SetChecked(u"mLockCrew"_s, AreCreditsLocked(browser, CreditKind::Crew));
+        OpenContextMenu(u"mCrewTools"_s, place);
+    });
+    connect(cover_->picActor(), &ActorView::MenuWanted, this,
+            [this](const QPoint &place) { OpenContextMenu(u"mHeadshotTools"_s, place); });
+    connect(appearances_, &AppearancesView::MenuWanted, this,
+            [this](const QPoint &place) { OpenContextMenu(u"mToolsAppearances"_s, place); });
+    connect(appearances_, &AppearancesView::RowActivated, this, [this] { browser.commands.Run(u"mGotoAppearance"_s); });
+    connect(awards_, &AwardsFrame::MenuWanted, this,
+            [this](const QPoint &place) { OpenContextMenu(u"mAwardTools"_s, place); });
 }
 
 void frmMain::OpenContextMenu(const QString &name, const QPoint &place) {
@@ -311,6 +339,9 @@ void frmMain::SetFonts() {
 void frmMain::ApplyGridLines() {
     titles_->List()->SetGridLines(browser.session.view.grid_lines.ListCollection);
     episodes_->SetGridLines(browser.session.view.grid_lines.ListEpisodes);
+    middle_->ListCast()->SetGridLines(browser.session.view.grid_lines.ListCast);
+    middle_->FrameCrew()->SetGridLines(browser.session.view.grid_lines.ListCrew);
+    appearances_->SetGridLines(browser.session.view.grid_lines.ListAppearances);
 }
 
 void frmMain::ShowView() {
@@ -347,6 +378,8 @@ void frmMain::TranslateNames() {
     cover_->TranslateNames();
     episodes_->TranslateNames();
     middle_->TranslateNames();
+    appearances_->TranslateNames();
+    awards_->TranslateNames();
 }
 
 void frmMain::ShowListView(std::unique_ptr<ListTable> table) {

@@ -9,6 +9,8 @@
 
 namespace ostrand {
 
+class AppearancesView;
+class AwardsFrame;
 class Browser;
 class CoverPanel;
 class EpisodePanel;
@@ -57,6 +59,7 @@ private:
     void OrderTabs();
     void ConnectBrowser();
     void ConnectContextMenus();
+    void ConnectPeople();
     void AddKeys();
     void SetWindowHooks();
     void Layout(bool reset);
@@ -80,6 +83,8 @@ private:
     CoverPanel *cover_ = nullptr;
     EpisodePanel *episodes_ = nullptr;
     MiddlePanel *middle_ = nullptr;
+    AppearancesView *appearances_ = nullptr;
+    AwardsFrame *awards_ = nullptr;
     LazyHtmlView *WebSkin_ = nullptr;
     std::unique_ptr<SkinView> skin_;
     std::array<SplitPanel *, 6> splits_ = {};

@@ -1,0 +1,63 @@
+// The crew below its categories.
+#pragma once
+
+#include <QAbstractItemModel>
+#include <QStringList>
+
+#include <vector>
+
+namespace ostrand {
+
+struct CrewMember {
+    QString text;
+    QString tag; ///< name and birth year, joined by "|"
+    int position = 0;
+    bool has_headshot = false;
+};
+
+/// The crew of a title, or of one team of it, by categories.
+struct CrewTeam {
+    QString caption; ///< empty for those who belong to no team
+    /// Those of each category, in the order of the categories.
+    std::vector<std::vector<CrewMember>> members;
+    /// Those whose role belongs to no category.
+    std::vector<CrewMember> unassigned;
+};
+
+/// The item model of treeCrew: categories with their members, then the members without a category below a node of their
+/// own, then each team with the same below its caption. Nodes without members are left out.
+class CrewTree : public QAbstractItemModel {
+    Q_OBJECT
+public:
+    enum DataRole { KeyRole = Qt::UserRole, TagRole, CaptionRole, HeadshotRole };
+
+    using QAbstractItemModel::QAbstractItemModel;
+
+    QModelIndex index(int row, int column, const QModelIndex &parent = {}) const override;
+    QModelIndex parent(const QModelIndex &index) const override;
+    int rowCount(const QModelIndex &parent = {}) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+
+    /// `categories` are the captions of `CrewTeam::members`, `unassigned` that of the members without one.
+    void Assign(const QStringList &categories, const QString &unassigned, const std::vector<CrewTeam> &teams);
+    void Clear() { Assign({}, {}, {}); }
+
+private:
+    struct Node {
+        QString key; ///< "N" and a running number
+        QString text;
+        QString tag;
+        bool caption = false;
+        bool has_headshot = false;
+        int parent = 0;
+        int row = 0;
+        std::vector<int> children;
+    };
+    int Add(int parent, const QString &text, const QString &tag = {});
+    void AddCategory(int parent, const QString &text, std::vector<CrewMember> members);
+
+    std::vector<Node> nodes_ = std::vector<Node>(1); ///< the first is the root, which is not shown
+};
+
+} // namespace ostrand
