@@ -1,10 +1,7 @@
 #include "html_export/NameIndexFiles.h"
 
 #include "html_export/CrossLinkFiles.h"
-#include "html_export/SiteFiles.h"
 #include "html_export/SiteText.h"
-
-#include <QFile>
 
 namespace ostrand {
 
@@ -48,39 +45,24 @@ QStringList WordBeginnings(const QString &name) {
 }
 
 void NameIndexFiles::Add(const QString &name, const QString &cross_link_id, qsizetype profiles) {
-    const QByteArray entry = QString(u'[' + ScriptLiteral(name, u'"') + u',' + ScriptLiteral(cross_link_id, u'"') +
-                                     u',' + QString::number(profiles) + "],\r\n"_L1)
-                                 .toUtf8();
+    const QString entry = u'[' + ScriptLiteral(name, u'"') + u',' + ScriptLiteral(cross_link_id, u'"') + u',' +
+                          QString::number(profiles) + "],\r\n"_L1;
     for (const QString &beginning : WordBeginnings(name)) {
-        File &file = files_[beginning];
-        file.waiting += entry;
-        if (file.waiting.size() >= kWaiting) {
-            Write(beginning, file);
+        const auto [file, is_new] =
+            files_.try_emplace(beginning, folder_ + ScriptFileName("names-"_L1, beginning), kWaiting);
+        if (is_new) {
+            file->second.Write("crossLinkNames("_L1 + ScriptLiteral(beginning, u'"') + ",[\r\n"_L1);
         }
+        file->second.Write(entry);
     }
 }
 
 void NameIndexFiles::Finish() {
-    for (auto file = files_.begin(); file != files_.end(); ++file) {
-        file->waiting += "]);\r\n";
-        Write(file.key(), *file);
+    for (auto &[beginning, file] : files_) {
+        file.Write(u"]);\r\n"_s);
+        file.Commit();
     }
     files_.clear();
-}
-
-void NameIndexFiles::Write(const QString &beginning, File &file) {
-    QFile script(folder_ + ScriptFileName("names-"_L1, beginning));
-    QByteArray text = file.waiting;
-    if (!file.begun) {
-        const QString opening = "crossLinkNames("_L1 + ScriptLiteral(beginning, u'"') + ",[\r\n"_L1;
-        text.prepend("\xEF\xBB\xBF" + opening.toUtf8());
-    }
-    const QIODevice::OpenMode mode = file.begun ? QIODevice::Append : QIODevice::WriteOnly;
-    if (!script.open(mode | QIODevice::Unbuffered) || script.write(text) != text.size()) {
-        throw SiteFault(script.fileName() + ": "_L1 + script.errorString(), true);
-    }
-    file.begun = true;
-    file.waiting.clear();
 }
 
 } // namespace ostrand

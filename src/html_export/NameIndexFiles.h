@@ -1,9 +1,12 @@
 // The names of all persons for the search of the site, in a script for each beginning of a word.
 #pragma once
 
-#include <QHash>
+#include "html_export/SiteFiles.h"
+
 #include <QString>
 #include <QStringList>
+
+#include <map>
 
 namespace ostrand {
 
@@ -20,14 +23,8 @@ public:
     void Finish();
 
 private:
-    struct File {
-        QByteArray waiting;
-        bool begun = false;
-    };
-    void Write(const QString &beginning, File &file);
-
     QString folder_;
-    QHash<QString, File> files_;
+    std::map<QString, StreamedFile> files_;
 };
 
 /// The beginnings of a name's words: two letters or digits each (one, where one character can be a word), in small

@@ -129,39 +129,39 @@ bool CopyInto(const QString &from, const QString &to) {
     return !error;
 }
 
-StreamedFile::StreamedFile(const QString &path) :
+StreamedFile::StreamedFile(const QString &path, qsizetype block) :
     path_(path), file_(QFileInfo(path).path() + u"/.ostrand-part-"_s + QFileInfo(path).fileName()),
-    waiting_("\xEF\xBB\xBF") {
-    if (!OpenNew(file_, QIODevice::Unbuffered)) {
+    waiting_("\xEF\xBB\xBF"), block_(block) {
+    if (!OpenNew(file_)) {
         throw FaultOf(path_, file_);
     }
+    file_.close();
 }
 
 StreamedFile::~StreamedFile() {
-    if (file_.isOpen()) {
-        file_.close();
+    if (!committed_) {
         file_.remove();
     }
 }
 
 void StreamedFile::Write(const QString &text) {
-    constexpr qsizetype kBlock = 1 << 16;
     waiting_ += text.toUtf8();
-    if (waiting_.size() >= kBlock) {
+    if (waiting_.size() >= block_) {
         WriteWaiting();
     }
 }
 
 void StreamedFile::Commit() {
     WriteWaiting();
-    file_.close();
+    committed_ = true;
     TakePlace(file_.fileName(), path_);
 }
 
 void StreamedFile::WriteWaiting() {
-    if (!WriteAll(file_, waiting_)) {
+    if (!file_.open(QIODevice::Append | QIODevice::Unbuffered) || !WriteAll(file_, waiting_)) {
         throw FaultOf(path_, file_);
     }
+    file_.close();
     waiting_.clear();
 }
 

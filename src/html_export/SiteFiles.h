@@ -36,10 +36,12 @@ bool PutFile(const QString &path, const QByteArray &content);
 /// read or written; throws SiteFault on a full disk.
 bool CopyInto(const QString &from, const QString &to);
 
-/// A file that is written bit by bit and takes its place at the end. Throws SiteFault.
+/// A file that is written bit by bit and takes its place at the end. It is open while it is written only, so that there
+/// may be hundreds. Throws SiteFault.
 class StreamedFile {
 public:
-    explicit StreamedFile(const QString &path);
+    /// `block` bytes wait to be written.
+    explicit StreamedFile(const QString &path, qsizetype block = 1 << 16);
     /// Without Commit the old file stays.
     ~StreamedFile();
     StreamedFile(const StreamedFile &) = delete;
@@ -53,6 +55,8 @@ private:
     QString path_;
     QFile file_;
     QByteArray waiting_;
+    qsizetype block_;
+    bool committed_ = false;
 };
 
 } // namespace ostrand

@@ -19,6 +19,7 @@ using namespace Qt::StringLiterals;
 
 constexpr int kProfiles = 120;
 constexpr int kKills = 8;
+constexpr int kPersons = 2000;
 
 using Files = QMap<QString, QByteArray>;
 
@@ -37,6 +38,22 @@ protected:
         const QByteArray statements = "DELETE FROM DbInfo WHERE InfoName = '" + name +
                                       "';\nINSERT INTO DbInfo (InfoName, InfoValue) VALUES ('" + name + "', '" + value +
                                       "');";
+        ASSERT_EQ(program.Run({u"--sql"_s, u"a.mdb"_s}, statements).status, 0);
+    }
+    /// So many persons of one beginning that their script is larger than what the database itself writes.
+    void AddPersons() {
+        const QByteArray id =
+            program.Run({u"--sql"_s, u"a.mdb"_s, u"--format"_s, u"csv"_s}, "SELECT TOP 1 ProfileID FROM Profiles;")
+                .output.split('\n')
+                .value(1)
+                .trimmed();
+        ASSERT_TRUE(id.startsWith("Key_")) << id.constData();
+        QByteArray statements;
+        for (int i = 0; i < kPersons; ++i) {
+            const QByteArray number = QByteArray::number(i);
+            statements += "INSERT INTO CastCrew (ProfileID, Name, Role, Position, IsCast, BirthYear) VALUES ('" + id +
+                          "', 'Person " + number + "', 'x', " + QByteArray::number(5000 + i) + ", true, 0);\n";
+        }
         ASSERT_EQ(program.Run({u"--sql"_s, u"a.mdb"_s}, statements).status, 0);
     }
     /// What every run has to come to.
@@ -105,6 +122,7 @@ TEST_F(SiteDisturbedTest, ASecondRunOverAWholeSiteChangesNothing) {
 }
 
 TEST_F(SiteDisturbedTest, AFullDiskIsToldAndLeavesNoHalfFile) {
+    AddPersons();
     const struct {
         QString folder; ///< the largest file there has no room
         const char *crosslinks;
