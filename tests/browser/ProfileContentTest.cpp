@@ -78,23 +78,28 @@ const QString kEpisodesOf =
 
 TEST_F(ProfileContentTest, OnlyTheSelectedTabIsRead) {
     AddProfile(u"A''1"_s);
+    const QString boxset =
+        u"SELECT SWITCH(m.SortTitle<>'', m.SortTitle, m.Title<>'', m.Title) AS [RealSort], b.ChildID, m.Title, "
+        "m.OriginalTitle, m.CustomTitle FROM Boxset b, Profiles m WHERE b.BoxSetID = 'A''1' AND b.ChildID = "
+        "m.ProfileID ORDER BY 1"_s;
+    const QString credits = u"SELECT * FROM CastCrew WHERE ProfileID = 'A''1' ORDER BY Position"_s;
     const QString profile = u"SELECT * FROM Profiles WHERE ProfileID = 'A''1'"_s;
     const struct {
         const char *name;
         int tab;
         QStringList statements;
     } cases[] = {
-        {"credits", kCredits, {profile, kEpisodesOf}},
+        {"credits", kCredits, {profile, credits, kEpisodesOf, boxset}},
         {"details",
          kDetails,
          {profile, u"SELECT InfoValue FROM AdditionalInfo WHERE ProfileID = 'A''1' AND InfoName = 'IMDb'"_s,
           u"SELECT Genre FROM Genres WHERE ProfileID = 'A''1'"_s,
-          u"SELECT Studio, Type FROM Studios WHERE ProfileID = 'A''1' ORDER BY Type, Studio"_s, kEpisodesOf,
+          u"SELECT Studio, Type FROM Studios WHERE ProfileID = 'A''1' ORDER BY Type, Studio"_s, kEpisodesOf, boxset,
           u"SELECT * FROM Features WHERE ProfileID = 'A''1' ORDER BY Feature"_s,
           u"SELECT Region FROM Regions WHERE ProfileID = 'A''1' ORDER BY Region"_s}},
         {"sound and picture",
          kAV,
-         {profile, kEpisodesOf, u"SELECT Subtitle FROM Subtitles WHERE ProfileID = 'A''1'"_s,
+         {profile, kEpisodesOf, boxset, u"SELECT Subtitle FROM Subtitles WHERE ProfileID = 'A''1'"_s,
           u"SELECT * FROM AudioFormats WHERE ProfileID = 'A''1' ORDER BY OrderPos ASC"_s,
           u"SELECT * FROM VideoFormat WHERE ProfileID = 'A''1'"_s}},
     };

@@ -42,12 +42,15 @@ protected:
         Trigger(command);
         EXPECT_TRUE(seen) << command;
     }
-    /// Ratings and the names of the user's own tabs are data, and no texts of the program.
+    /// Ratings, roles, captions among credits and the names of the user's own tabs are data, and no texts of the
+    /// program.
     QStringList Untranslated() {
         QStringList texts;
         sql::Recordset rows = session.Database->OpenRecordset(
             u"SELECT OriginalString FROM Translation WHERE UserString = '' AND OriginalString NOT IN (SELECT ColType "
-            u"FROM Profiles) AND OriginalString NOT IN (SELECT Rating FROM Profiles WHERE Rating <> '')");
+            u"FROM Profiles) AND OriginalString NOT IN (SELECT Rating FROM Profiles WHERE Rating <> '') "
+            u"AND OriginalString NOT IN (SELECT Role FROM CastCrew) "
+            u"AND OriginalString NOT IN (SELECT Name FROM CastCrew)");
         for (; !rows.Eof(); rows.MoveNext()) {
             texts += rows.Text(0);
         }
