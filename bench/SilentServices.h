@@ -69,8 +69,9 @@ struct SilentServices {
     NoKeyboard keyboard;
     NoOpener opener;
     ImageHeads images;
+    NoDownloader downloader;
     Services services{dialogs, progress, pump,      clock,    random, processes,
-                      folders, locale,   clipboard, keyboard, opener, images};
+                      folders, locale,   clipboard, keyboard, opener, images, downloader};
 };
 
 } // namespace ostrand::bench

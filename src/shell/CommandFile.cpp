@@ -5,6 +5,7 @@
 #include "collection_files/AdditionalInfos.h"
 #include "collection_files/ProfilerImport.h"
 #include "database/DatabaseFunctions.h"
+#include "people/AliasFile.h"
 #include "shell/Session.h"
 
 namespace ostrand {
@@ -43,8 +44,8 @@ constexpr FileCommand kCommands[] = {
     {u"exportviewercollectionfiles", nullptr},
     {u"exportviewercollection", nullptr},
     {u"importprofilerdatabase", [](Session &s, const QString &file) { ImportProfilerData(s, file); }},
-    {u"exportaliastofile", nullptr},
-    {u"importaliasfromfile", nullptr},
+    {u"exportaliastofile", [](Session &s, const QString &file) { ExportAliasToFile(s, file); }},
+    {u"importaliasfromfile", [](Session &s, const QString &file) { ImportAliasFromFile(s, file, false); }},
     {u"exportsqltofile", nullptr},
     {u"importsqlfromfile", nullptr},
     {u"importtranslationfromfile", nullptr},
