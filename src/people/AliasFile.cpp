@@ -70,11 +70,11 @@ void ImportText(Session &session, const QString &path, bool silent) {
 }
 
 void ShowFault(Session &session, const XmlResult &result) {
-    ShowMessage(session, {.text = Translate(session, u"Invalid Alias XML file!"_s) + u'\n' + result.reason + u'\n' +
-                                  result.source + u'\n' + Translate(session, u"Line"_s) + u' ' +
-                                  QString::number(result.line),
-                          .title = Translate(session, u"Invalid file"_s),
-                          .icon = MessageIcon::Warning});
+    ShowMessage(session,
+                {.text = Translate(session, u"Invalid Alias XML file!"_s) + u'\n' + result.reason + u'\n' +
+                         result.source + u'\n' + Translate(session, u"Line"_s) + u' ' + QString::number(result.line),
+                 .title = Translate(session, u"Invalid file"_s),
+                 .icon = MessageIcon::Warning});
 }
 
 void ImportXml(Session &session, const QString &path, bool silent) {
@@ -218,10 +218,10 @@ bool ExportAliasToFile(Session &session, const QString &path) {
 }
 
 void ChooseAliasFileToImport(Session &session) {
-    const QString path = session.services.dialogs.OpenFile(
-        {.title = Translate(session, u"Please select the Alias file for import"_s),
-         .initial = session.DataFolder,
-         .filters = {Translate(session, u"Alias File"_s) + u"|*.cfg;*.7z;*.xml"_s}});
+    const QString path =
+        session.services.dialogs.OpenFile({.title = Translate(session, u"Please select the Alias file for import"_s),
+                                           .initial = session.DataFolder,
+                                           .filters = {Translate(session, u"Alias File"_s) + u"|*.cfg;*.7z;*.xml"_s}});
     if (!path.isEmpty()) {
         ImportAliasFromFile(session, path, false); // each refused link is traced
         ShowMessage(session,

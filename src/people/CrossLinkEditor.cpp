@@ -98,11 +98,11 @@ bool CrossLinkEditor::IsRefused(const QString &name, int birth_year) {
     if (links.Eof()) {
         return false;
     }
-    ShowMessage(session_, {.text = Text(u"Invalid Link Entry!") + u'\n' + name + u' ' +
-                                   Text(u"is already used as an alias for") + u' ' + links.Text(0) + u"!\n"_s +
-                                   Text(u"Therefore it cannot be used as a common name."),
-                           .title = Text(u"Invalid Link Entry"),
-                           .icon = MessageIcon::Warning});
+    ShowMessage(session_,
+                {.text = Text(u"Invalid Link Entry!") + u'\n' + name + u' ' + Text(u"is already used as an alias for") +
+                         u' ' + links.Text(0) + u"!\n"_s + Text(u"Therefore it cannot be used as a common name."),
+                 .title = Text(u"Invalid Link Entry"),
+                 .icon = MessageIcon::Warning});
     return true;
 }
 
@@ -119,8 +119,7 @@ void CrossLinkEditor::AddCommonName() {
     }
     const int listed = listCommonNames.Find(name, *birth_year);
     if (listed >= 0) {
-        ShowMessage(session_,
-                    {.text = name + u' ' + Text(u"is already listed!"), .title = Text(u"Already listed")});
+        ShowMessage(session_, {.text = name + u' ' + Text(u"is already listed!"), .title = Text(u"Already listed")});
     }
     Select(listed >= 0 ? listed : listCommonNames.Append({name, *birth_year}));
 }
@@ -144,8 +143,8 @@ void CrossLinkEditor::RemoveAliasFromList(const QString &alias) {
     if (Selected() < 0 || alias.isEmpty()) {
         return;
     }
-    const Message question = {.text = Text(u"Do you really want to remove") + u' ' + alias + u' ' +
-                                      Text(u"from the list?"),
+    const Message question = {.text =
+                                  Text(u"Do you really want to remove") + u' ' + alias + u' ' + Text(u"from the list?"),
                               .title = Text(u"Remove Alias?"),
                               .icon = MessageIcon::Question,
                               .buttons = MessageButtons::YesNo,
@@ -236,12 +235,11 @@ void CrossLinkEditor::ListYearsOf(const QString &name) {
 }
 
 void CrossLinkEditor::ClearAlias() {
-    const Message question = {
-        .text = Text(u"Do you really want to delete all Alias entries from the database?"),
-        .title = Text(u"Delete all entries"),
-        .icon = MessageIcon::Warning,
-        .buttons = MessageButtons::YesNo,
-        .neutral = MessageAnswer::No};
+    const Message question = {.text = Text(u"Do you really want to delete all Alias entries from the database?"),
+                              .title = Text(u"Delete all entries"),
+                              .icon = MessageIcon::Warning,
+                              .buttons = MessageButtons::YesNo,
+                              .neutral = MessageAnswer::No};
     if (ShowMessage(session_, question) == MessageAnswer::Yes) {
         session_.Database->Execute(u"DELETE FROM Alias");
         listCommonNames.Assign({});

@@ -164,7 +164,11 @@ bool PictureFolder::Remove(const QString &name) {
 
 bool PictureFolder::Write(const QString &name, const QByteArray &content) {
     const QString present = Find(name);
-    if (!MakeFolderPath(folder_) || !ReplaceFile(Path(present.isEmpty() ? name : present), content, &error_)) {
+    if (!MakeFolderPath(folder_)) {
+        error_ = u"cannot make the folder "_s + folder_;
+        return false;
+    }
+    if (!ReplaceFile(Path(present.isEmpty() ? name : present), content, &error_)) {
         return false;
     }
     if (present.isEmpty()) {
@@ -193,8 +197,9 @@ void HeadshotFolder::SetPattern(const QString &pattern) {
 
 void HeadshotFolder::Reload() {
     names_ = folder_.isEmpty() ? QStringList() : QDir(folder_).entryList(QDir::Files | QDir::Hidden, QDir::NoSort);
-    names_.erase(std::remove_if(names_.begin(), names_.end(), [](const QString &name) { return !IsHeadshotName(name); }),
-                 names_.end());
+    names_.erase(
+        std::remove_if(names_.begin(), names_.end(), [](const QString &name) { return !IsHeadshotName(name); }),
+        names_.end());
     names_.sort(Qt::CaseInsensitive);
     Filter();
 }

@@ -23,7 +23,8 @@ bool IsHeadshotName(const QString &file_name);
 bool IsIdenticalFile(const QString &a, const QString &b);
 
 /// Lets two pictures of a folder change places through "TemporaryImage.tmp" in it. Where the second does not exist, the
-/// first just takes its place. At every moment both pictures are in the folder; false on a fault, which changes nothing.
+/// first just takes its place. At every moment both pictures are in the folder; false on a fault, which changes
+/// nothing.
 bool SwapPictures(const QString &a, const QString &b, QString *error);
 
 /// The names of a folder's pictures, looked up without regard to case and kept up to date by its own changes. No change

@@ -36,15 +36,14 @@ public:
     bool IsIdentical(const QString &a, const QString &b) const {
         return a != b && IsIdenticalFile(files.Path(a), files.Path(b));
     }
-    void Rename(const QString &from, const QString &to) {
-        Note(from + u" -> "_s + to, files.Rename(from, to));
-    }
+    void Rename(const QString &from, const QString &to) { Note(from + u" -> "_s + to, files.Rename(from, to)); }
     bool Remove(const QString &name) {
         const bool removed = files.Remove(name);
         Note(name + u" removed"_s, removed);
         return removed;
     }
-    /// Moves a file to a name, or to the first free alternate of the stem. It goes when an identical file is in its way.
+    /// Moves a file to a name, or to the first free alternate of the stem. It goes when an identical file is in its
+    /// way.
     void MoveTo(const QString &name, const QString &stem, const QString &tail) {
         const QString wanted = Jpg(HeadshotName{stem, tail}.Joined());
         if (!TakesPlace(name, wanted)) {
@@ -168,9 +167,8 @@ void RemoveDuplicates(Tidying &tidying, const QString &primary) {
     for (const int number : tidying.files.AlternatesOf(parts.stem)) {
         const QString name = name_of(number);
         const bool known = tidying.IsIdentical(name, primary) ||
-                           std::any_of(numbers.begin(), numbers.end(), [&](int lower) {
-                               return tidying.IsIdentical(name, name_of(lower));
-                           });
+                           std::any_of(numbers.begin(), numbers.end(),
+                                       [&](int lower) { return tidying.IsIdentical(name, name_of(lower)); });
         if (!known || !tidying.Remove(name)) {
             numbers += number;
         }
@@ -210,9 +208,8 @@ void RemoveTrailingSpaces(Session &session, const QString &folder) {
 }
 
 void RenameAlias(Session &session, const QString &folder) {
-    ForEachPicture(
-        session, u"Renaming AliasNames..."_s, u"RenameAlias"_s, folder,
-        [&](Tidying &tidying, const QString &name) { MoveToCommonName(session, tidying, name); });
+    ForEachPicture(session, u"Renaming AliasNames..."_s, u"RenameAlias"_s, folder,
+                   [&](Tidying &tidying, const QString &name) { MoveToCommonName(session, tidying, name); });
 }
 
 void RenameAlternatives(Session &session, const QString &folder) {

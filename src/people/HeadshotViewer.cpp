@@ -75,12 +75,11 @@ void HeadshotViewer::DownloadHeadshotFromURL() {
         return;
     }
     bool cancelled = false;
-    const QString url = InputText(session_, Translate(session_, u"Enter URL of new headshot for"_s) + u' ' +
-                                                person->name,
-                                  person->name, cancelled, {});
+    const QString url =
+        InputText(session_, Translate(session_, u"Enter URL of new headshot for"_s) + u' ' + person->name, person->name,
+                  cancelled, {});
     if (!cancelled && session_.Database) {
-        DownloadHeadshot(url, GetCommonName(session_, person->name, person->birth_year.toInt()),
-                         session_.HeadshotPath);
+        DownloadHeadshot(url, GetCommonName(session_, person->name, person->birth_year.toInt()), session_.HeadshotPath);
     }
 }
 

@@ -22,8 +22,8 @@ bool AddAlias(Session &session, const QString &name, int birth_year) {
     if (cancelled || text == present || (name == present && sql::Compare(text, name) == 0)) {
         return false;
     }
-    const QString row = u" WHERE AliasName = '"_s + EscapeSql(name) + u"' AND BirthYear = "_s +
-                        QString::number(birth_year);
+    const QString row =
+        u" WHERE AliasName = '"_s + EscapeSql(name) + u"' AND BirthYear = "_s + QString::number(birth_year);
     const QString common = EscapeSql(text);
     QString statement;
     if (text.isEmpty()) {
