@@ -39,8 +39,8 @@ struct Desktop {
     QtOpener opener;
     QtImages images;
     QtDownloader downloader;
-    Services services{dialogs, progress, pump,      clock,    random, processes,
-                      folders, locale,   clipboard, keyboard, opener, images, downloader};
+    Services services{dialogs, progress,  pump,     clock,  random, processes, folders,
+                      locale,  clipboard, keyboard, opener, images, downloader};
 };
 
 /// Faults that no routine caught end here and not the program.

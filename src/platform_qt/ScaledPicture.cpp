@@ -16,11 +16,10 @@ QSize SizeInPlace(QSize natural, QSize place, PictureGrowth growth) {
 
 } // namespace
 
-QPixmap ScaledPicture(const QString &path, QSize place, qreal pixel_ratio, PictureGrowth growth) {
+QImage ScaledImage(const QString &path, QSize device_place, PictureGrowth growth) {
     if (path.isEmpty()) {
         return {};
     }
-    const QSize device_place = (QSizeF(place) * pixel_ratio).toSize();
     QImageReader reader(path);
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
@@ -32,7 +31,11 @@ QPixmap ScaledPicture(const QString &path, QSize place, qreal pixel_ratio, Pictu
     const bool turned = reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
     const QSize target = SizeInPlace(turned ? stored.transposed() : stored, device_place, growth);
     reader.setScaledSize(turned ? target.transposed() : target);
-    QPixmap picture = QPixmap::fromImage(reader.read());
+    return reader.read();
+}
+
+QPixmap ScaledPicture(const QString &path, QSize place, qreal pixel_ratio, PictureGrowth growth) {
+    QPixmap picture = QPixmap::fromImage(ScaledImage(path, (QSizeF(place) * pixel_ratio).toSize(), growth));
     picture.setDevicePixelRatio(pixel_ratio);
     return picture;
 }

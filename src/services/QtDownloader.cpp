@@ -76,7 +76,8 @@ QtDownloader::~QtDownloader() = default;
 bool QtDownloader::Fetch(const QString &url, const QString &path, EventPump &pump, QString *error) {
     const QUrl address(url.trimmed(), QUrl::TolerantMode);
     QString fault;
-    if (!address.isValid() || (address.scheme() != QLatin1String("http") && address.scheme() != QLatin1String("https"))) {
+    if (!address.isValid() ||
+        (address.scheme() != QLatin1String("http") && address.scheme() != QLatin1String("https"))) {
         fault = QStringLiteral("no address of a web server");
     } else {
         if (!network_) {

@@ -210,7 +210,7 @@ TEST(SettingsTable, WindowsHaveTheirSections) {
         EXPECT_TRUE(IsWindowSection(sections.last()));
     }
     EXPECT_EQ(sections.join(u' '), u"ProfileInfo Awards SQLQueries AssignEpisodes CoverWindow FilterTags EditMultiUse "
-                                   "CrewMapping ListViewWindow EditSkin EncryptionPad"_s);
+                                   "CrewMapping ListViewWindow EditSkin EncryptionPad CrossLinks ManageHeadshots HeadshotImport"_s);
     EXPECT_FALSE(IsWindowSection(u"Window"_s));
 }
 

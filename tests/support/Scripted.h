@@ -207,8 +207,8 @@ struct TestServices {
     ScriptedOpener opener;
     ImageHeads images;
     ScriptedDownloader downloader;
-    Services services{dialogs, progress, pump,      clock,    random, processes,
-                      folders, locale,   clipboard, keyboard, opener, images, downloader};
+    Services services{dialogs, progress,  pump,     clock,  random, processes, folders,
+                      locale,  clipboard, keyboard, opener, images, downloader};
 };
 
 } // namespace ostrand::test

@@ -12,7 +12,12 @@
 #include "collection_files/ProfilerImport.h"
 #include "database/TitlesDue.h"
 #include "database/ui/frmSwitchDatabase.h"
+#include "people/AliasFile.h"
+#include "people/CrossLinks.h"
+#include "people/ui/frmCompare.h"
+#include "people/ui/frmCrossLinks.h"
 #include "people/ui/frmDropBox.h"
+#include "people/ui/frmManageHeadshots.h"
 #include "shell/FileCommands.h"
 #include "shell/Session.h"
 #include "shell/ui/frmAbout.h"
@@ -62,6 +67,11 @@ template <void (*kRoutine)(Session &)>
 void Run(frmMain &main) {
     kRoutine(main.browser.session);
 }
+/// A modal window over the session.
+template <typename Window>
+void Open(frmMain &main) {
+    Window(main.browser.session, &main).exec();
+}
 
 struct Handler {
     const char16_t *name;
@@ -73,6 +83,8 @@ constexpr Handler kHandlers[] = {
     {u"mUpdateMovieData", [](frmMain &main) { ImportProfilerData(main.browser.session, {}); }},
     {u"mImportAdditionalInfos", Run<ChooseAdditionalInfosToImport>},
     {u"mExportAdditionalInfos", Run<ChooseAdditionalInfosToExport>},
+    {u"mImportAlias", Run<ChooseAliasFileToImport>},
+    {u"mExportAlias", Run<ChooseAliasFileToExport>},
     {u"mCommandFile", Run<ChooseCommandFile>},
     {u"mExit", [](frmMain &main) { main.close(); }},
     {u"mTVShows", Browse<ShowTVShows>},
@@ -106,9 +118,13 @@ constexpr Handler kHandlers[] = {
     {u"mAddColType", Browse<AddColType>},
     {u"mRenameCollectionType", Browse<RenameCollectionType>},
     {u"mRemoveColType", Browse<RemoveColType>},
+    {u"mEditCrossLinks", Open<frmCrossLinks>},
+    {u"mHeadshotImport", Open<frmCompare>},
+    {u"mManageHeadshots", Open<frmManageHeadshots>},
+    {u"mRemoveUnneededBirthYears", Run<RemoveUnneededBirthYears>},
     {u"mDropBox", ShowDropBox},
-    {u"mSettings", [](frmMain &main) { frmSettings(main.browser.session, &main).exec(); }},
-    {u"mAbout", [](frmMain &main) { frmAbout(main.browser.session, &main).exec(); }},
+    {u"mSettings", Open<frmSettings>},
+    {u"mAbout", Open<frmAbout>},
 };
 
 /// The lists whose grid lines can be seen today.
