@@ -76,6 +76,7 @@ void frmCompare::MakeButtons(QBoxLayout &layout) {
     // Made first, since no letter would be left for its key.
     QPushButton *more = AddButton(layout, "cbMore", u"More", u"Opens tools that work on all files of the source folder",
                                   [this] { OpenTools(); });
+    layout.removeWidget(more);
     layout.addStretch();
     cbCopyImage_ = AddButton(layout, "cbCopyImage", u"Copy Image", u"Copies the right picture into the headshot folder",
                              [this] { import_.CopyImage(); });
