@@ -74,6 +74,9 @@ TEST_F(CompareWindow, HasItsControls) {
         EXPECT_EQ(Button(name)->accessibleName(), QString::fromUtf16(text));
         EXPECT_FALSE(Button(name)->toolTip().isEmpty()) << name;
     }
+    EXPECT_GT(Button("cbMore")->y(), Button("cbDropBox")->y());
+    EXPECT_GT(Button("cbExit")->y(), Button("cbMore")->y());
+    EXPECT_TRUE(Button("cbMore")->text().contains(u'&'));
     EXPECT_TRUE(Label("labelClickHere").contains(u"Click here to change Editor"_s));
     EXPECT_EQ(FindControl<QCheckBox>(*window, "checkAlsoCopyTo")->accessibleName(), u"also copy to..."_s);
     EXPECT_EQ(FindControl<HeadshotView>(*window, "picExisting")->accessibleName(),
