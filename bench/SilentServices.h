@@ -69,8 +69,9 @@ struct SilentServices {
     NoKeyboard keyboard;
     NoOpener opener;
     ImageHeads images;
-    Services services{dialogs, progress, pump,      clock,    random, processes,
-                      folders, locale,   clipboard, keyboard, opener, images};
+    NoDownloader downloader;
+    Services services{dialogs, progress,  pump,     clock,  random, processes, folders,
+                      locale,  clipboard, keyboard, opener, images, downloader};
 };
 
 } // namespace ostrand::bench

@@ -35,8 +35,9 @@ struct World {
     NoKeyboard keyboard;
     NoOpener opener;
     ImageHeads images;
-    Services services{dialogs, progress, pump,      clock,    random, processes,
-                      folders, locale,   clipboard, keyboard, opener, images};
+    NoDownloader downloader;
+    Services services{dialogs, progress,  pump,     clock,  random, processes, folders,
+                      locale,  clipboard, keyboard, opener, images, downloader};
     Session session{services};
 };
 

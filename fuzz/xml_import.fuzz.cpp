@@ -19,7 +19,8 @@ namespace {
 class World : UserDialogs, ProgressView, EventPump, Clock, RandomNumbers, ProcessRunner, Folders, SystemLocale {
 public:
     World() :
-        services_{*this, *this, *this, *this, *this, *this, *this, *this, clipboard_, keyboard_, opener_, images_},
+        services_{*this, *this,      *this,     *this,   *this,   *this,      *this,
+                  *this, clipboard_, keyboard_, opener_, images_, downloader_},
         session_(services_) {
         CreateCollectionDatabase(session_, dir_.filePath(u"a.mdb"_s));
     }
@@ -73,6 +74,7 @@ private:
         return {};
     }
     std::optional<int> RunCommandLine(const QString &, ProcessStyle, EventPump *, QString *) override { return {}; }
+    bool Start(const QString &, const QStringList &, QString *) override { return false; }
     QString Documents() const override { return dir_.path(); }
     QString Temp() const override { return dir_.path(); }
     QString Program() const override { return dir_.path(); }
@@ -87,6 +89,7 @@ private:
     NoKeyboard keyboard_;
     NoOpener opener_;
     ImageHeads images_;
+    NoDownloader downloader_;
     Services services_;
     Session session_;
     quint64 state_ = 1;

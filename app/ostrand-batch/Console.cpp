@@ -64,8 +64,9 @@ bool StoppingPump::Stopping() const {
 
 Console::Console(const Arguments &arguments) :
     progress(errors, clock, Style(arguments)), locale(arguments.locale),
-    dialogs(output, Answers(arguments), progress), services{dialogs, progress, pump,      clock,    random, processes,
-                                                            folders, locale,   clipboard, keyboard, opener, images} {
+    dialogs(output, Answers(arguments), progress), services{dialogs,   progress, pump,      clock,     random,
+                                                            processes, folders,  locale,    clipboard, keyboard,
+                                                            opener,    images,   downloader} {
     output.open(stdout, QIODevice::WriteOnly | QIODevice::Unbuffered);
     errors.open(stderr, QIODevice::WriteOnly | QIODevice::Unbuffered);
 }

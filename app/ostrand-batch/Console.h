@@ -5,6 +5,7 @@
 #include "services/ConsoleDialogs.h"
 #include "services/ConsoleProgress.h"
 #include "services/NoDesktop.h"
+#include "services/QtDownloader.h"
 #include "services/QtProcessRunner.h"
 #include "services/SystemFolders.h"
 #include "services/SystemServices.h"
@@ -63,6 +64,7 @@ struct Console {
     NoKeyboard keyboard;
     NoOpener opener;
     ImageHeads images;
+    QtDownloader downloader;
     Dialogs dialogs;
     Services services;
 };

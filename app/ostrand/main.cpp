@@ -7,6 +7,7 @@
 #include "platform_qt/DesktopColours.h"
 #include "platform_qt/QtDesktop.h"
 #include "platform_qt/ThemedIcon.h"
+#include "services/QtDownloader.h"
 #include "services/QtProcessRunner.h"
 #include "services/StandardStreams.h"
 #include "services/StopSignals.h"
@@ -37,8 +38,9 @@ struct Desktop {
     QtKeyboard keyboard;
     QtOpener opener;
     QtImages images;
-    Services services{dialogs, progress, pump,      clock,    random, processes,
-                      folders, locale,   clipboard, keyboard, opener, images};
+    QtDownloader downloader;
+    Services services{dialogs, progress,  pump,     clock,  random, processes, folders,
+                      locale,  clipboard, keyboard, opener, images, downloader};
 };
 
 /// Faults that no routine caught end here and not the program.

@@ -106,6 +106,8 @@ public:
     /// The same with one line for the system's command interpreter.
     virtual std::optional<int> RunCommandLine(const QString &command, ProcessStyle style, EventPump *pump,
                                               QString *error) = 0;
+    /// Starts a program that lives on by itself. False when it could not be started, and then `error` says why.
+    virtual bool Start(const QString &program, const QStringList &arguments, QString *error) = 0;
 };
 
 class Folders {
@@ -167,6 +169,16 @@ public:
     virtual std::optional<std::pair<int, int>> Size(const QString &path) const = 0;
 };
 
+/// Fetches files from servers.
+class Downloader {
+public:
+    virtual ~Downloader() = default;
+    /// Fetches an http or https URL into a file by one GET past all caches, giving `pump` turns while it waits; when
+    /// the pump tells that the program is to end, the transfer ends too. False on a fault, which leaves a file of that
+    /// name as it was, and then `error` says why.
+    virtual bool Fetch(const QString &url, const QString &path, EventPump &pump, QString *error) = 0;
+};
+
 /// All of them, handed in once.
 struct Services {
     UserDialogs &dialogs;
@@ -181,6 +193,7 @@ struct Services {
     Keyboard &keyboard;
     Opener &opener;
     Images &images;
+    Downloader &downloader;
 };
 
 } // namespace ostrand

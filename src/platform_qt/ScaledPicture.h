@@ -18,8 +18,7 @@ QSize PictureSize(const QString &path);
 QImage ScaledImage(const QString &path, QSize place, qreal pixel_ratio, PictureGrowth growth = PictureGrowth::Fit);
 
 /// Loads an image file scaled to fit `place` (in device-independent pixels) keeping its ratio, with `pixel_ratio`
-/// device pixels each. Decodes no more than needed, as far as the format allows. Null for a broken or missing file and
-/// an empty place.
+/// device pixels each, as ScaledImage does.
 QPixmap ScaledPicture(const QString &path, QSize place, qreal pixel_ratio, PictureGrowth growth = PictureGrowth::Fit);
 
 } // namespace ostrand

@@ -29,6 +29,17 @@ public:
     void ChooseApplication(const QString &) override {}
 };
 
+/// There is no way to any server.
+class NoDownloader : public Downloader {
+public:
+    bool Fetch(const QString &, const QString &, EventPump &, QString *error) override {
+        if (error != nullptr) {
+            *error = QStringLiteral("there is no network");
+        }
+        return false;
+    }
+};
+
 /// Reads the heads of JPEG and PNG files, which is what collections hold.
 class ImageHeads : public Images {
 public:

@@ -81,4 +81,17 @@ std::optional<int> QtProcessRunner::RunCommandLine(const QString &command, Proce
 #endif
 }
 
+bool QtProcessRunner::Start(const QString &program, const QStringList &arguments, QString *error) {
+    QProcess process;
+    process.setProgram(program);
+    process.setArguments(arguments);
+    process.setStandardInputFile(QProcess::nullDevice());
+    process.setStandardOutputFile(QProcess::nullDevice());
+    process.setStandardErrorFile(QProcess::nullDevice());
+    const bool started = process.startDetached();
+    if (!started && error != nullptr)
+        *error = process.errorString();
+    return started;
+}
+
 } // namespace ostrand

@@ -13,6 +13,7 @@ public:
                            QString *error) override;
     std::optional<int> RunCommandLine(const QString &command, ProcessStyle style, EventPump *pump,
                                       QString *error) override;
+    bool Start(const QString &program, const QStringList &arguments, QString *error) override;
 };
 
 } // namespace ostrand

@@ -6,6 +6,7 @@
 #include "collection_files/ProfilerImport.h"
 #include "database/DatabaseFunctions.h"
 #include "html_export/CreateOfflineHtml.h"
+#include "people/AliasFile.h"
 #include "queries/LanguageFile.h"
 #include "queries/SqlFile.h"
 #include "shell/Session.h"
@@ -46,8 +47,8 @@ constexpr FileCommand kCommands[] = {
     {u"exportviewercollectionfiles", nullptr},
     {u"exportviewercollection", nullptr},
     {u"importprofilerdatabase", [](Session &s, const QString &file) { ImportProfilerData(s, file); }},
-    {u"exportaliastofile", nullptr},
-    {u"importaliasfromfile", nullptr},
+    {u"exportaliastofile", [](Session &s, const QString &file) { ExportAliasToFile(s, file); }},
+    {u"importaliasfromfile", [](Session &s, const QString &file) { ImportAliasFromFile(s, file, false); }},
     {u"exportsqltofile", [](Session &s, const QString &file) { ExportSQLToFile(s, file); }},
     {u"importsqlfromfile", [](Session &s, const QString &file) { ImportSQLFromFile(s, file); }},
     {u"importtranslationfromfile", [](Session &s, const QString &file) { ImportStringsFromFile(s, file); }},

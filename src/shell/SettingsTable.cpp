@@ -226,8 +226,22 @@ constexpr IniSetting kIniSettings[] = {
 };
 
 constexpr const char16_t *kWindowSections[] = {
-    u"ProfileInfo",  u"Awards",      u"SQLQueries",     u"AssignEpisodes", u"CoverWindow",   u"FilterTags",
-    u"EditMultiUse", u"CrewMapping", u"ListViewWindow", u"EditSkin",       u"EncryptionPad", u"HTMLExport",
+    u"ProfileInfo",
+    u"Awards",
+    u"SQLQueries",
+    u"AssignEpisodes",
+    u"CoverWindow",
+    u"FilterTags",
+    u"EditMultiUse",
+    u"CrewMapping",
+    u"ListViewWindow",
+    u"EditSkin",
+    u"EncryptionPad",
+    // Those that are no smaller than the others, though an older program kept no place for them.
+    u"CrossLinks",
+    u"ManageHeadshots",
+    u"HeadshotImport",
+    u"HTMLExport",
 };
 
 } // namespace

@@ -429,7 +429,8 @@ TEST_F(ProfilerImport, SampleCollectionsAreSkippedTheSecondTime) {
                       services.clipboard,
                       services.keyboard,
                       services.opener,
-                      services.images};
+                      services.images,
+                      services.downloader};
     Session all(agreeing);
     all.trace.Mask = kTraceError | kTraceInfo;
     CreateCollectionDatabase(all, Path(u"All.mdb"_s));

@@ -421,8 +421,9 @@ TEST_F(UpgradeTest, AProcessThatDiesInTheMiddleLeavesTheOldVersionWhichUpgradesA
     const int died = sql::testing::InChild([&] {
         DeadlyProgress deadly;
         Services &world = services.services;
-        Services own{world.dialogs, deadly,       world.pump,      world.clock,    world.random, world.processes,
-                     world.folders, world.locale, world.clipboard, world.keyboard, world.opener, world.images};
+        Services own{world.dialogs,   deadly,        world.pump,      world.clock,     world.random,
+                     world.processes, world.folders, world.locale,    world.clipboard, world.keyboard,
+                     world.opener,    world.images,  world.downloader};
         Session other(own);
         return OpenCollectionDatabase(other, Path(u"Old.mdb"_s)) ? 1 : 2;
     });

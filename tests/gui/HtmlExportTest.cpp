@@ -441,9 +441,9 @@ TEST_F(HtmlExportWindow, ASecondStartWaitsForTheFirst) {
 
 TEST_F(HtmlExportWindow, TheProgressWindowLiesAboveAndGoes) {
     ProgressWindow progress;
-    Services shown{services.dialogs,   progress,           services.pump,    services.clock,
-                   services.random,    services.processes, services.folders, services.locale,
-                   services.clipboard, services.keyboard,  services.opener,  services.images};
+    Services shown{services.dialogs,   progress,         services.pump,      services.clock,     services.random,
+                   services.processes, services.folders, services.locale,    services.clipboard, services.keyboard,
+                   services.opener,    services.images,  services.downloader};
     Session other(shown);
     progress.Attach(other.progress, [](const QString &text) { return text; });
     other.Database = std::move(session.Database);

@@ -185,7 +185,8 @@ protected:
                        services.clipboard,
                        services.keyboard,
                        services.opener,
-                       services.images};
+                       services.images,
+                       services.downloader};
     Session asked{with_user};
     Browser seen{asked};
     QTimer closer;

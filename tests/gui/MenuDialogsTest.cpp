@@ -136,5 +136,36 @@ TEST_F(MenuDialogs, TheDropBoxTakesTheFocusAndIsOneWindow) {
     window->close();
 }
 
+TEST_F(MenuDialogs, TheWindowsOfPeopleComeAndGo) {
+    Start();
+    session.HeadshotPath = services.folders.dir.Path() + u'/';
+    Use("mEditCrossLinks", u"frmCrossLinks"_s, [](QDialog &window) { Press(window, u"cbExit"_s); });
+    Use("mManageHeadshots", u"frmManageHeadshots"_s, [](QDialog &window) { Press(window, u"cbExit"_s); });
+    Use("mHeadshotImport", u"frmCompare"_s, [](QDialog &window) { Press(window, u"cbExit"_s); });
+}
+
+TEST_F(MenuDialogs, CrossLinksGoToFilesAndBack) {
+    Start(
+        {u"DELETE FROM Alias"_s, u"INSERT INTO Alias (AliasName, CommonName, BirthYear) VALUES ('Anny', 'Ann', 0)"_s});
+    const QString file = services.folders.dir / u"links.xml"_s;
+    services.dialogs.ExpectSaveFile(file);
+    services.dialogs.ExpectMessage(u"Export to alias file completed"_s);
+    Trigger("mExportAlias");
+    session.Database->Execute(u"DELETE FROM Alias");
+    services.dialogs.ExpectOpenFile(file);
+    services.dialogs.ExpectMessage(u"Import finished."_s);
+    Trigger("mImportAlias");
+    EXPECT_EQ(session.Database->RecordCount(u"Alias"), 1);
+}
+
+TEST_F(MenuDialogs, UnneededBirthYearsGo) {
+    Start({u"INSERT INTO CastCrew (Name, ProfileID, Position, BirthYear, IsCast) VALUES ('Nobody Else', 'K', 1, 1950, "
+           "true)"_s});
+    Trigger("mRemoveUnneededBirthYears");
+    EXPECT_TRUE(
+        session.Database->OpenRecordset(u"SELECT Name FROM CastCrew WHERE Name = 'Nobody Else' AND BirthYear <> 0")
+            .Eof());
+}
+
 } // namespace
 } // namespace ostrand

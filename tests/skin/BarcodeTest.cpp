@@ -125,7 +125,8 @@ TEST_F(BarcodeTag, FindsItsImagesInTheShareFolder) {
     TwoResourceFolders folders;
     Services with_share{services.dialogs,   services.progress,  services.pump,   services.clock,
                         services.random,    services.processes, folders,         services.locale,
-                        services.clipboard, services.keyboard,  services.opener, services.images};
+                        services.clipboard, services.keyboard,  services.opener, services.images,
+                        services.downloader};
     Session other(with_share);
     other.Database = std::move(session.Database);
     const sql::Recordset row = other.Database->OpenRecordset(u"Profiles");

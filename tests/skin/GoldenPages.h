@@ -54,10 +54,19 @@ private:
 
     TestServices scripted_;
     NotedDialogs dialogs_;
-    Services services_{dialogs_,           scripted_.progress, scripted_.pump,
-                       scripted_.clock,    scripted_.random,   scripted_.processes,
-                       scripted_.folders,  scripted_.locale,   scripted_.clipboard,
-                       scripted_.keyboard, scripted_.opener,   scripted_.images};
+    Services services_{dialogs_,
+                       scripted_.progress,
+                       scripted_.pump,
+                       scripted_.clock,
+                       scripted_.random,
+                       scripted_.processes,
+                       scripted_.folders,
+                       scripted_.locale,
+                       scripted_.clipboard,
+                       scripted_.keyboard,
+                       scripted_.opener,
+                       scripted_.images,
+                       scripted_.downloader};
     Session session_{services_};
     RenderOptions options_;
     QString back_profile_id_;

@@ -147,6 +147,25 @@ std::optional<int> ScriptedProcesses::RunCommandLine(const QString &command, Pro
     return Run(command, {}, style, pump, error);
 }
 
+bool ScriptedProcesses::Start(const QString &program, const QStringList &arguments, QString *error) {
+    return Run(program, arguments, ProcessStyle::Hidden, nullptr, error).has_value();
+}
+
+bool ScriptedDownloader::Fetch(const QString &url, const QString &path, EventPump &pump, QString *error) {
+    fetched += url;
+    pump.Turn();
+    const auto page = pages.constFind(url);
+    QFile file(path);
+    if (page == pages.constEnd() || !file.open(QIODevice::WriteOnly)) {
+        if (error != nullptr) {
+            *error = QStringLiteral("not found");
+        }
+        return false;
+    }
+    file.write(*page);
+    return true;
+}
+
 TempFolders::TempFolders() {
     for (const QString &path : {Documents(), Temp(), Program()})
         EXPECT_TRUE(QDir().mkpath(path));

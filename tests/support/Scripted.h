@@ -130,6 +130,9 @@ public:
     std::optional<int> RunCommandLine(const QString &command, ProcessStyle style, EventPump *pump,
                                       QString *error) override;
 
+    /// Notes the start; false where `behave` gives no exit code.
+    bool Start(const QString &program, const QStringList &arguments, QString *error) override;
+
     /// Each start as program and arguments; a command line as one text.
     std::vector<QStringList> runs;
     /// What happens: takes the start, returns the exit code, or nothing after it set the error.
@@ -179,6 +182,16 @@ public:
     bool answer = true;
 };
 
+/// A net of pages that the test names.
+class ScriptedDownloader : public Downloader {
+public:
+    bool Fetch(const QString &url, const QString &path, EventPump &pump, QString *error) override;
+
+    /// URL to content; others are not found.
+    QMap<QString, QByteArray> pages;
+    QStringList fetched;
+};
+
 /// All of them with the struct that a session takes.
 struct TestServices {
     ScriptedDialogs dialogs;
@@ -193,8 +206,9 @@ struct TestServices {
     FakeKeyboard keyboard;
     ScriptedOpener opener;
     ImageHeads images;
-    Services services{dialogs, progress, pump,      clock,    random, processes,
-                      folders, locale,   clipboard, keyboard, opener, images};
+    ScriptedDownloader downloader;
+    Services services{dialogs, progress,  pump,     clock,  random, processes, folders,
+                      locale,  clipboard, keyboard, opener, images, downloader};
 };
 
 } // namespace ostrand::test

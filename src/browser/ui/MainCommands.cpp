@@ -17,7 +17,12 @@
 #include "database/TitlesDue.h"
 #include "database/ui/frmSwitchDatabase.h"
 #include "html_export/ui/frmHTMLExport.h"
+#include "people/AliasFile.h"
+#include "people/CrossLinks.h"
+#include "people/ui/frmCompare.h"
+#include "people/ui/frmCrossLinks.h"
 #include "people/ui/frmDropBox.h"
+#include "people/ui/frmManageHeadshots.h"
 #include "queries/QueryFileCommands.h"
 #include "queries/ui/frmSQLQuery.h"
 #include "shell/FileCommands.h"
@@ -99,6 +104,11 @@ template <void (*kRoutine)(Session &)>
 void Run(frmMain &main) {
     kRoutine(main.browser.session);
 }
+/// A modal window over the session.
+template <typename Window>
+void Open(frmMain &main) {
+    Window(main.browser.session, &main).exec();
+}
 
 struct Handler {
     const char16_t *name;
@@ -115,6 +125,8 @@ constexpr Handler kHandlers[] = {
     {u"mExportSQL", Run<ChooseSQLToExport>},
     {u"mImportStrings", Run<ChooseStringsToImport>},
     {u"mExportStrings", Run<ChooseStringsToExport>},
+    {u"mImportAlias", Run<ChooseAliasFileToImport>},
+    {u"mExportAlias", Run<ChooseAliasFileToExport>},
     {u"mCommandFile", Run<ChooseCommandFile>},
     {u"mExit", [](frmMain &main) { main.close(); }},
     {u"mTVShows", Browse<ShowTVShows>},
@@ -165,8 +177,12 @@ constexpr Handler kHandlers[] = {
     {u"mNextHeadshot", [](frmMain &main) { main.browser.credits.picActor.AlternateHeadshot(); }},
     {u"mDropBox", ShowDropBox},
     {u"mSQLQuery", ShowSqlQuery},
-    {u"mSettings", [](frmMain &main) { frmSettings(main.browser.session, &main).exec(); }},
-    {u"mAbout", [](frmMain &main) { frmAbout(main.browser.session, &main).exec(); }},
+    {u"mEditCrossLinks", Open<frmCrossLinks>},
+    {u"mHeadshotImport", Open<frmCompare>},
+    {u"mManageHeadshots", Open<frmManageHeadshots>},
+    {u"mRemoveUnneededBirthYears", Run<RemoveUnneededBirthYears>},
+    {u"mSettings", Open<frmSettings>},
+    {u"mAbout", Open<frmAbout>},
 };
 
 void HandleGridLines(frmMain &main) {
