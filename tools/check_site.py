@@ -90,7 +90,8 @@ def keys_with_people(folder):
 
 def start_browser(width, height, dark=False):
     options = webdriver.ChromeOptions()
-    for argument in ("--headless=new", "--no-sandbox", "--disable-gpu", "--hide-scrollbars=false",
+    for argument in ("--headless=new", "--no-sandbox", "--disable-gpu", "--disable-dev-shm-usage",
+                     "--hide-scrollbars=false",
                      f"--window-size={width},{height}"):
         options.add_argument(argument)
     if dark:
