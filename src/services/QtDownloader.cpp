@@ -10,9 +10,9 @@ namespace ostrand {
 
 namespace {
 
-constexpr int kPoll = 20;                            // milliseconds
-constexpr int kSilence = 30'000;                     // milliseconds
-constexpr qint64 kLargestFile = 512 * 1024 * 1024LL; // bytes
+constexpr int kPoll = 20;                          // milliseconds
+constexpr int kSilence = 30'000;                   // milliseconds
+constexpr qint64 kLargestFile = qint64(512) << 20; // bytes
 
 QNetworkRequest RequestFor(const QUrl &url) {
     QNetworkRequest request(url);

@@ -77,7 +77,7 @@ std::vector<TagEnd> TagEnds(QStringView page) {
 }
 
 /// Most values are none of these words, which their lengths tell.
-QString ByRules(QString value) {
+QString ByRules(const QString &value) {
     constexpr qsizetype kNo = 2;
     constexpr qsizetype kYes = 3;
     constexpr qsizetype kBreak = 5;
