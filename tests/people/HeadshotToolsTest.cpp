@@ -157,11 +157,11 @@ TEST_F(HeadshotTools, DuplicatesGoAndGapsClose) {
 TEST_F(HeadshotTools, IdenticalsOfTheSourceGo) {
     LinkAlias(session, u"Ann: Lee"_s, u"Anny"_s, 0, true, {});
     Have({u"Ann - Lee.jpg=a"_s, u"Ann - Lee_1.jpg=bb"_s, u"Ann - Lee_3.jpg=ccc"_s, u"Bo.jpg=dddd"_s});
-    Have({u"Anny.jpg=x"_s, u"Anny_7.jpg=xx"_s, u"Anny_8.jpg=xxx"_s, u"Anny_9.jpg=xxxx"_s, u"Bo.jpg=x"_s,
-          u"Bo_1.jpg=xxxx"_s, u"Cy.jpg=x"_s, u"Bo.png=xxxx"_s},
+    Have({u"Anny.jpg=x"_s, u"Anny_7.jpg=mm"_s, u"Anny_8.jpg=mmm"_s, u"Anny_9.jpg=mmmm"_s, u"Bo.jpg=x"_s,
+          u"Bo_1.jpg=mmmm"_s, u"Cy.jpg=x"_s, u"Bo.png=mmmm"_s},
          u"source"_s);
     RemoveIdenticals(session, Path(u"source"_s));
-    EXPECT_EQ(Files(u"source"_s), (QStringList{u"Anny_9.jpg=xxxx"_s, u"Bo.jpg=x"_s, u"Bo.png=xxxx"_s, u"Cy.jpg=x"_s}));
+    EXPECT_EQ(Files(u"source"_s), (QStringList{u"Anny_9.jpg=mmmm"_s, u"Bo.jpg=x"_s, u"Bo.png=mmmm"_s, u"Cy.jpg=x"_s}));
     EXPECT_EQ(Files().size(), 4);
     EXPECT_EQ(services.progress.calls.first(), u"opened Removing Identicals..."_s);
 }
