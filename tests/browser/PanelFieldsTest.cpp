@@ -14,6 +14,7 @@ class PanelFields : public BrowserTest {
 protected:
     void SetUp() override {
         BrowserTest::SetUp();
+        browser.tabMain = QStringList{u"Credits"_s, u"Details"_s, u"AV"_s};
         AddProfile(u"P1"_s, u"Rating = 'PG', CaseType = 'Tin', Medium = 'DVD', UPC = '1', Locality = 'Norway'"_s);
         AddProfile(u"P2"_s, u"ColType = 'WishList', Rating = 'R'"_s);
         Run(u"INSERT INTO TVSeries (SeriesID, Title, OriginalTitle) VALUES ('S1', 'Attic', '')");
