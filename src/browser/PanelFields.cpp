@@ -92,25 +92,17 @@ Shows ShownBy(const FieldRow &row, const sql::Recordset &record, bool is_episode
     return shows;
 }
 
-FieldChange ChangeOf(Session &session, const Shows &shows) {
+FieldChange ChangeOf(const Session &session, const Shows &shows) {
     FieldChange change{.field = QString::fromUtf16(shows.column),
                        .label = QString::fromUtf16(shows.label),
                        .is_episode = session.CurrentIsEpisode,
                        .lock_name = LockName(shows.label),
                        .required = QStringView(shows.column) == u"Title"};
-    switch (shows.asks) {
-    case Asks::Text:
-        break;
-    case Asks::TranslatedValues:
+    if (shows.asks == Asks::TranslatedValues) {
         change.answer = FieldChange::Answer::Translated;
-        [[fallthrough]];
-    case Asks::Values:
-        change.choices = DistinctValues(session, change.field);
-        break;
-    case Asks::Priority:
+    } else if (shows.asks == Asks::Priority) {
         change.answer = FieldChange::Answer::Choice;
         change.choices = WishListPriorities();
-        break;
     }
     return change;
 }
@@ -134,6 +126,7 @@ std::optional<PanelField> FindPanelField(Browser &browser, const QString &contro
     PanelField field{.label = QString::fromUtf16(shows.label), .lock_name = LockName(shows.label), .change = {}};
     if (shows.column != nullptr) {
         field.change = ChangeOf(session, shows);
+        field.offers_values = shows.asks == Asks::Values || shows.asks == Asks::TranslatedValues;
     }
     return field;
 }
@@ -163,8 +156,14 @@ void ChangeMenuField(Browser &browser) {
 }
 
 void ChangePanelField(Browser &browser, const QString &control) {
-    const auto field = FindPanelField(browser, control);
-    if (field && field->change && ChangeField(browser.session, *field->change)) {
+    auto field = FindPanelField(browser, control);
+    if (!field || !field->change) {
+        return;
+    }
+    if (field->offers_values) {
+        field->change->choices = DistinctValues(browser.session, field->change->field);
+    }
+    if (ChangeField(browser.session, *field->change)) {
         ShowChangedTitle(browser);
     }
 }

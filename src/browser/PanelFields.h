@@ -16,6 +16,8 @@ struct PanelField {
     QString lock_name;
     /// What changes it; nothing for a field that holds more than one value.
     std::optional<FieldChange> change;
+    /// The user is to choose from the values of all profiles, which are not read yet.
+    bool offers_values = false;
 };
 
 /// What a control of Details, Audio/Video or above them shows of the current title; nothing for a control that shows

@@ -201,8 +201,8 @@ void RenameRows(Browser &browser, const QString &id) {
     }
 }
 
-/// The list after the current title, or these selected ones, got other values.
-void ShowChangedProfiles(Browser &browser, const QStringList &ids) {
+/// The list after these profiles got other values; `renamed` is the one whose row may say something else, if any.
+void ShowChangedProfiles(Browser &browser, const QStringList &ids, const QString &renamed) {
     const QString id = browser.session.CurrentProfileID;
     const QString tab = SelectedColType(browser);
     const QStringList keys = {KeyOfRow(browser, browser.current_row), KeyBeside(browser, ids)};
@@ -211,8 +211,8 @@ void ShowChangedProfiles(Browser &browser, const QStringList &ids) {
         RefillMovieNames(browser, keys);
         return;
     }
-    for (const QString &changed : ids) {
-        RenameRows(browser, changed);
+    if (!renamed.isEmpty()) {
+        RenameRows(browser, renamed);
     }
     GetProfileInfos(browser, id, false, true);
 }
@@ -293,7 +293,7 @@ void MoveSelectedProfiles(Browser &browser) {
         return;
     }
     WithEach(browser, u"Moving profiles"_s, ids, [&](const QString &id) { MoveProfile(browser.session, id, type); });
-    ShowChangedProfiles(browser, ids);
+    ShowChangedProfiles(browser, ids, {});
 }
 
 void LockSelectedProfiles(Browser &browser) {
@@ -308,7 +308,8 @@ void ShowChangedTitle(Browser &browser) {
     if (browser.session.CurrentIsEpisode) {
         ShowChangedEpisode(browser);
     } else {
-        ShowChangedProfiles(browser, {browser.session.CurrentProfileID});
+        const QString id = browser.session.CurrentProfileID;
+        ShowChangedProfiles(browser, {id}, id);
     }
 }
 
