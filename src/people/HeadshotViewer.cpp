@@ -30,6 +30,11 @@ bool HeadshotViewer::LoadHeadShot(const QString &name, bool reset, const QString
     int alternate = reset ? 0 : alternate_;
     picture_ = name.isEmpty() ? QString() : FindHeadshot(session_, index_, name, birth_year, alternate);
     alternate_ = qint16(alternate);
+    has_pictures_ = !picture_.isEmpty();
+    if (!has_pictures_ && !name.isEmpty()) {
+        int first_alternate = 1;
+        has_pictures_ = !FindHeadshot(session_, index_, name, birth_year, first_alternate).isEmpty();
+    }
     Q_EMIT PictureChanged();
     return !picture_.isEmpty();
 }
@@ -45,6 +50,7 @@ void HeadshotViewer::AlternateHeadshot() {
 
 void HeadshotViewer::Clear() {
     picture_.clear();
+    has_pictures_ = false;
     Q_EMIT PictureChanged();
 }
 

@@ -78,6 +78,9 @@ void PictureView::Take() {
     }
     cache_.insert(wanted_, new QPixmap(picture_));
     update();
+    if (natural_.isEmpty()) {
+        Q_EMIT PictureFailed();
+    }
 }
 
 void PictureView::paintEvent(QPaintEvent *) {
