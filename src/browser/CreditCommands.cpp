@@ -133,8 +133,9 @@ void EnablePersonEntries(Browser &browser) {
     const CreditsPanel &panel = browser.credits;
     const bool person = !panel.selected_name.isEmpty();
     browser.commands.Together([&] {
-        for (const QString &name : {u"mNextHeadshot"_s, u"mDownloadHeadshotFromURL"_s, u"mAddAlias"_s}) {
-            browser.commands.SetEnabled(name, person);
+        for (const char16_t *name : {u"mNextHeadshot", u"mDownloadHeadshotFromURL", u"mDownloadHeadshotCast",
+                                     u"mDownloadHeadshotCrew", u"mAddAliasCast", u"mAddAliasCrew"}) {
+            browser.commands.SetEnabled(QString::fromUtf16(name), person);
         }
         browser.commands.SetEnabled(u"mSetHeadshotAsPrimary"_s, person && panel.picActor.CanSetAsPrimary());
     });

@@ -221,8 +221,9 @@ TEST_F(PeopleRefresh, AnAlternateThatBecomesPrimaryIsMarked) {
 }
 
 TEST_F(PeopleRefresh, EntriesNeedAPerson) {
-    for (const QString &name : {u"mNextHeadshot"_s, u"mSetHeadshotAsPrimary"_s, u"mDownloadHeadshotFromURL"_s,
-                                u"mAddAlias"_s}) {
+    for (const QString &name :
+         {u"mNextHeadshot"_s, u"mSetHeadshotAsPrimary"_s, u"mDownloadHeadshotFromURL"_s, u"mDownloadHeadshotCast"_s,
+          u"mDownloadHeadshotCrew"_s, u"mAddAliasCast"_s, u"mAddAliasCrew"_s}) {
         browser.commands.Handle(name, [] {});
     }
     const auto enabled = [this] {
@@ -234,7 +235,7 @@ TEST_F(PeopleRefresh, EntriesNeedAPerson) {
                  {u"mDownloadHeadshotFromURL"_s, u"d"_s},
                  {u"mDownloadHeadshotCast"_s, u"d"_s},
                  {u"mDownloadHeadshotCrew"_s, u"d"_s},
-                 {u"mAddAlias"_s, u"a"_s},
+                 {u"mAddAliasCast"_s, u"a"_s},
                  {u"mAddAliasCrew"_s, u"a"_s}}) {
             letters += browser.commands.IsEnabled(name) ? letter : QString();
         }
