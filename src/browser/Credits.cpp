@@ -333,8 +333,7 @@ void Fill(Browser &browser, const QString &id, bool is_episode) {
 
 CreditsPanel::CreditsPanel(Session &session) : picActor(session) {
     picActor.selected = [this] {
-        return selected_name.isEmpty() ? std::nullopt
-                                       : std::optional(CreditPerson{selected_name, selected_birth_year});
+        return selected_name.isEmpty() ? std::nullopt : std::optional(CreditPerson{selected_name, selected_birth_year});
     };
 }
 
@@ -440,8 +439,8 @@ void RefreshPeople(Browser &browser) {
     }
     CreditsPanel &panel = browser.credits;
     AppearancesPanel &appearances = browser.appearances;
-    const bool of_selected = appearances.shown_name == panel.selected_name &&
-                             appearances.shown_birth_year == panel.selected_birth_year;
+    const bool of_selected =
+        appearances.shown_name == panel.selected_name && appearances.shown_birth_year == panel.selected_birth_year;
     panel.headshots.Invalidate(); // pictures may have come and gone within the time that the folder's date tells apart
     RefillCredits(browser);
     if (of_selected && !panel.selected_name.isEmpty()) {

@@ -89,6 +89,10 @@ void HeadshotViewer::DownloadHeadshotFromURL() {
     }
 }
 
+CreditPerson HeadshotViewer::Selected() const {
+    return selected ? selected().value_or(CreditPerson()) : CreditPerson();
+}
+
 bool HeadshotViewer::IsHeadshotFolder(const QString &folder) const {
     return QDir::cleanPath(folder) == QDir::cleanPath(session_.HeadshotPath);
 }
@@ -111,12 +115,14 @@ bool HeadshotViewer::DownloadHeadshot(const QString &url, const QString &name, c
     const bool shown = IsHeadshotFolder(folder);
     MakeFolderPath(folder);
     const HeadshotPlace place = FreeHeadshotPlace(folder, name);
+    const CreditPerson before = Selected();
     // The windows get their turns meanwhile, and must not begin a second transfer to the same place.
     fetching_ = true;
     const bool stored = Fetch(url.trimmed(), place.path);
     fetching_ = false;
     index_.Invalidate();
-    if (stored && shown) {
+    const CreditPerson now = Selected();
+    if (stored && shown && now.name == before.name && now.birth_year == before.birth_year) {
         alternate_ = qint16(place.alternate);
         LoadHeadShot(name, false, {});
     }

@@ -60,6 +60,8 @@ Q_SIGNALS:
 private:
     /// The URL's picture at a place that is free; true when it is one.
     bool Fetch(const QString &url, const QString &path);
+    /// Nobody has no name.
+    CreditPerson Selected() const;
     bool IsHeadshotFolder(const QString &folder) const;
 
     Session &session_;

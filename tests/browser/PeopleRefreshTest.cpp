@@ -89,9 +89,6 @@ TEST_F(PeopleRefresh, SwitchesKeepThePersonAndThePicture) {
     Touch(u"Mara Hale_1.jpg"_s);
     UpdateCastInfo(browser, u"Mara Hale"_s, u"1950"_s);
     panel.picActor.AlternateHeadshot();
-    ASSERT_EQ(Shown(), u"Mara Hale.jpg"_s) << "no alternate is of that year, so that it begins anew";
-    UpdateCastInfo(browser, u"Mara Hale"_s, {});
-    panel.picActor.AlternateHeadshot();
     ASSERT_EQ(Shown(), u"Mara Hale_1.jpg"_s);
     ToggleReverseCredit(browser);
     EXPECT_EQ(Shown(), u"Mara Hale_1.jpg"_s);
@@ -161,9 +158,9 @@ TEST_F(PeopleRefresh, LeavesOtherListsAlone) {
 TEST_F(PeopleRefresh, AwardsFollowTheirNominees) {
     Run(u"INSERT INTO Awards (Award, Year, Category, MovieTitle, Nominee, Won) VALUES ('Gull', 2001, 'Actress', 'P1', "
         u"'Mara H.', True)");
-    UpdateCastInfo(browser, u"Mara Hale"_s, {});
+    UpdateCastInfo(browser, u"Mara Hale"_s, u"1950"_s);
     ASSERT_EQ(appearances.treeAwards.rowCount(), 0);
-    Run(u"UPDATE Awards SET Nominee = 'Mara Hale'");
+    Run(u"UPDATE Awards SET Nominee = 'Mara Hale (1950)'");
     RefreshPeople(browser);
     EXPECT_EQ(appearances.treeAwards.rowCount(), 1);
 }
@@ -229,14 +226,14 @@ TEST_F(PeopleRefresh, EntriesNeedAPerson) {
     const auto enabled = [this] {
         EnablePersonEntries(browser);
         QString letters;
-        for (const auto &[name, letter] : std::initializer_list<std::pair<QString, QString>>{
-                 {u"mNextHeadshot"_s, u"n"_s},
-                 {u"mSetHeadshotAsPrimary"_s, u"p"_s},
-                 {u"mDownloadHeadshotFromURL"_s, u"d"_s},
-                 {u"mDownloadHeadshotCast"_s, u"d"_s},
-                 {u"mDownloadHeadshotCrew"_s, u"d"_s},
-                 {u"mAddAliasCast"_s, u"a"_s},
-                 {u"mAddAliasCrew"_s, u"a"_s}}) {
+        for (const auto &[name, letter] :
+             std::initializer_list<std::pair<QString, QString>>{{u"mNextHeadshot"_s, u"n"_s},
+                                                                {u"mSetHeadshotAsPrimary"_s, u"p"_s},
+                                                                {u"mDownloadHeadshotFromURL"_s, u"d"_s},
+                                                                {u"mDownloadHeadshotCast"_s, u"d"_s},
+                                                                {u"mDownloadHeadshotCrew"_s, u"d"_s},
+                                                                {u"mAddAliasCast"_s, u"a"_s},
+                                                                {u"mAddAliasCrew"_s, u"a"_s}}) {
             letters += browser.commands.IsEnabled(name) ? letter : QString();
         }
         return letters;

@@ -338,7 +338,8 @@ TEST_F(CreditsWindow, TheCoverAndThePersonFillTheWidth) {
     QImage cover(100, 140, QImage::Format_RGB32);
     cover.fill(Qt::darkRed);
     ASSERT_TRUE(cover.save(covers + u"T1f.jpg"_s));
-    Draw(u"Wanda Quill.jpg"_s); // 40 x 60
+    ASSERT_TRUE(QImage(600, 900, QImage::Format_RGB32).save(headshots + u"Wanda Quill.jpg"_s));
+    Draw(u"Tom Vesper.jpg"_s); // smaller than the panel, and not to grow
     StartWith({u"DELETE FROM DbInfo WHERE InfoName = 'CoverPath'"_s,
                u"INSERT INTO DbInfo (InfoName, InfoValue) VALUES ('CoverPath', '%1')"_s.arg(covers),
                u"INSERT INTO Profile2Episodes (ProfileID, EpisodeID) VALUES ('T1', 'S11.1')"_s});
@@ -353,6 +354,18 @@ TEST_F(CreditsWindow, TheCoverAndThePersonFillTheWidth) {
     QCoreApplication::processEvents();
     EXPECT_NEAR(ratio("picCover"), 1.4, 0.03);
     EXPECT_NEAR(ratio("picActor"), 1.5, 0.03);
+    session.view.DoNotResizeHeadshots = true;
+    Click("ListCast", 3);
+    QCoreApplication::processEvents();
+    EXPECT_NEAR(ratio("picCover"), 1.4, 0.03);
+    EXPECT_NEAR(Control<ActorView>("picActor")->HeightAt(200), 60, 1);
+    Click("ListCast", 0);
+    session.Database->Execute(u"DELETE FROM Profile2Episodes");
+    ClickRow(RowOf(u"Aab Other"_s));
+    ClickRow(RowOf(u"Aaa Test"_s));
+    Click("ListCast", 0);
+    QCoreApplication::processEvents();
+    EXPECT_NEAR(ratio("picCover"), 1.4, 0.03) << "nothing below, and the person comes at once";
     main->resize(1000, 600); // too low for both
     QCoreApplication::processEvents();
     EXPECT_NEAR(ratio("picCover") / ratio("picActor"), 1.4 / 1.5, 0.03) << "both shrink alike";

@@ -215,4 +215,16 @@ TEST_F(HeadshotViewerTest, OneTransferAtATime) {
     EXPECT_EQ(Files(), QStringList{u"Ann.jpg"_s});
 }
 
+TEST_F(HeadshotViewerTest, WhoIsSelectedMeanwhileKeepsThePicture) {
+    Have({u"Bo.jpg"_s});
+    services.downloader.pages[u"http://host/a"_s] = kPicture;
+    services.pump.At(1, [this] {
+        person = CreditPerson{u"Bo"_s, u"0"_s};
+        viewer.LoadHeadShot(u"Bo"_s, true, u"0"_s);
+    });
+    EXPECT_TRUE(viewer.DownloadHeadshot(u"http://host/a"_s, u"Ann"_s, session.HeadshotPath));
+    EXPECT_EQ(Shown(), u"Bo.jpg"_s);
+    EXPECT_EQ(Files(), (QStringList{u"Ann.jpg"_s, u"Bo.jpg"_s}));
+}
+
 } // namespace ostrand

@@ -53,9 +53,8 @@ int ActorView::HeightAt(int width) const {
     if (natural.isEmpty() || broken) {
         return fontMetrics().height() * kEmptyLines; // to be clicked for an alternate
     }
-    const qreal own_width = natural.width() / devicePixelRatioF();
-    const qreal shown_width = Growth() == PictureGrowth::Never ? std::min<qreal>(width, own_width) : width;
-    return int(shown_width * natural.height() / natural.width());
+    const int shown_width = Growth() == PictureGrowth::Never ? std::min(width, natural.width()) : width;
+    return shown_width * natural.height() / natural.width();
 }
 
 void ActorView::ShowNext() {

@@ -96,9 +96,12 @@ int CoverPanel::WantedHeight() const {
 
 void CoverPanel::ShareHeight() {
     auto *box = static_cast<QVBoxLayout *>(layout());
+    const int cover = CoverHeight();
     const int actor = ActorHeight();
-    box->setStretchFactor(picCover_, actor == 0 ? 1 : CoverHeight());
+    box->setStretchFactor(picCover_, actor == 0 ? 1 : cover);
     box->setStretchFactor(picActor_, actor);
+    // Room to spare stays below both.
+    picCover_->setMaximumHeight(actor == 0 ? QWIDGETSIZE_MAX : cover);
     Q_EMIT WantedHeightChanged();
 }
 

@@ -38,7 +38,7 @@ private:
     int CoverHeight() const;
     /// 0 while nobody is shown.
     int ActorHeight() const;
-    /// The cover and the person share the height as theirs are, so that both fill the width alike.
+    /// The cover and the person below it share the height as theirs are, so that both fill the width alike.
     void ShareHeight();
 
     Browser &browser_;
