@@ -30,6 +30,11 @@ bool HeadshotViewer::LoadHeadShot(const QString &name, bool reset, const QString
     int alternate = reset ? 0 : alternate_;
     picture_ = name.isEmpty() ? QString() : FindHeadshot(session_, index_, name, birth_year, alternate);
     alternate_ = qint16(alternate);
+    has_pictures_ = !picture_.isEmpty();
+    if (!has_pictures_ && !name.isEmpty()) {
+        int first_alternate = 1;
+        has_pictures_ = !FindHeadshot(session_, index_, name, birth_year, first_alternate).isEmpty();
+    }
     Q_EMIT PictureChanged();
     return !picture_.isEmpty();
 }
@@ -45,6 +50,7 @@ void HeadshotViewer::AlternateHeadshot() {
 
 void HeadshotViewer::Clear() {
     picture_.clear();
+    has_pictures_ = false;
     Q_EMIT PictureChanged();
 }
 
@@ -83,6 +89,10 @@ void HeadshotViewer::DownloadHeadshotFromURL() {
     }
 }
 
+CreditPerson HeadshotViewer::Selected() const {
+    return selected ? selected().value_or(CreditPerson()) : CreditPerson();
+}
+
 bool HeadshotViewer::IsHeadshotFolder(const QString &folder) const {
     return QDir::cleanPath(folder) == QDir::cleanPath(session_.HeadshotPath);
 }
@@ -105,12 +115,14 @@ bool HeadshotViewer::DownloadHeadshot(const QString &url, const QString &name, c
     const bool shown = IsHeadshotFolder(folder);
     MakeFolderPath(folder);
     const HeadshotPlace place = FreeHeadshotPlace(folder, name);
+    const CreditPerson before = Selected();
     // The windows get their turns meanwhile, and must not begin a second transfer to the same place.
     fetching_ = true;
     const bool stored = Fetch(url.trimmed(), place.path);
     fetching_ = false;
     index_.Invalidate();
-    if (stored && shown) {
+    const CreditPerson now = Selected();
+    if (stored && shown && now.name == before.name && now.birth_year == before.birth_year) {
         alternate_ = qint16(place.alternate);
         LoadHeadShot(name, false, {});
     }
