@@ -82,7 +82,13 @@ bool SwapPictures(const QString &a, const QString &b, QString *error) {
         return Move(a, b, error);
     }
     const QString temporary = TemporaryPlace(QFileInfo(a).dir());
-    if (temporary.isEmpty() || !Move(a, temporary, error)) {
+    if (temporary.isEmpty()) {
+        if (error != nullptr) {
+            *error = QFileInfo(a).dir().filePath(kTemporary) + u" is in the way"_s;
+        }
+        return false;
+    }
+    if (!Move(a, temporary, error)) {
         return false;
     }
     if (!Move(b, a, error)) {
@@ -98,6 +104,9 @@ bool SwapPictures(const QString &a, const QString &b, QString *error) {
 }
 
 PictureFolder::PictureFolder(const QString &folder) : folder_(WithSeparator(folder)) {
+    if (folder.isEmpty()) {
+        return; // it would be the one that the program was started in
+    }
     for (const QString &name : QDir(folder).entryList(QDir::Files | QDir::Hidden, QDir::Name)) {
         if (IsHeadshotName(name)) {
             names_[name.toCaseFolded()] += name;
@@ -164,7 +173,7 @@ bool PictureFolder::Remove(const QString &name) {
 
 bool PictureFolder::Write(const QString &name, const QByteArray &content) {
     const QString present = Find(name);
-    if (!MakeFolderPath(folder_)) {
+    if (folder_.isEmpty() || !MakeFolderPath(folder_)) {
         error_ = u"cannot make the folder "_s + folder_;
         return false;
     }

@@ -1,6 +1,7 @@
 #include "people/HeadshotImport.h"
 
 #include "base/Files.h"
+#include "people/HeadshotFiles.h"
 #include "people/HeadshotTools.h"
 #include "people/ProgressJob.h"
 
@@ -159,11 +160,8 @@ void HeadshotImport::MakePrimary() {
     }
     const QString newest = primary_.chopped(4) + u'_' + QString::number(alternates_ - 1) + u".jpg"_s;
     const QString primary = FindIgnoringCase(session_.HeadshotPath, primary_);
-    QString error;
-    if (!SwapPictures(WithSeparator(session_.HeadshotPath) + newest,
-                      primary.isEmpty() ? WithSeparator(session_.HeadshotPath) + primary_ : primary, &error)) {
-        Trace(session_, u"MakePrimary: "_s + error, kTraceError);
-    }
+    ChangePlaces(session_, u"MakePrimary"_s, WithSeparator(session_.HeadshotPath) + newest,
+                 primary.isEmpty() ? WithSeparator(session_.HeadshotPath) + primary_ : primary);
     alternates_ = 1;
     Changed();
 }

@@ -238,6 +238,22 @@ TEST_F(CompareWindow, KeepsItsSettings) {
     EXPECT_EQ(window->size(), QSize(1100, 760));
 }
 
+TEST_F(CompareWindow, TheToolsKeepTheirPlace) {
+    HeadshotImport import(session);
+    QRect place;
+    {
+        frmComparerTools tools(session, import);
+        tools.show();
+        tools.setGeometry(50, 60, tools.width() + 70, tools.height() + 80);
+        place = tools.geometry();
+        QTest::keyClick(&tools, Qt::Key_Escape);
+        EXPECT_FALSE(tools.isVisible());
+    }
+    frmComparerTools again(session, import);
+    again.show();
+    EXPECT_EQ(again.geometry(), place);
+}
+
 TEST_F(CompareWindow, ASourceThatIsGoneIsAnEmptyList) {
     Picture(u"source/Ann.jpg"_s, {8, 8});
     Open();

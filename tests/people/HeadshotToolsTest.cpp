@@ -85,6 +85,7 @@ TEST_F(HeadshotTools, TrailingSpacesAndUnderscoresGo) {
              {u" .jpg=a"_s, u"_1.jpg=b"_s, u"__.jpg=c"_s},
              {u" .jpg=a"_s, u"_1.jpg=b"_s, u"__.jpg=c"_s}},
             {"other files", {u"Ann_Lee.png=a"_s, u"Ann_Lee.jpg.txt=b"_s}, {u"Ann_Lee.png=a"_s, u"Ann_Lee.jpg.txt=b"_s}},
+            {"an extension in the name", {u"Ann.jpg.jpg=a"_s, u"Bo .jpg.jpg=b"_s}, {u"Ann.jpg.jpg=a"_s, u"Bo .jpg.jpg=b"_s}},
             {"an extension in capitals", {u"Ann_Lee.JPG=a"_s, u"Bo.JPG=b"_s}, {u"Ann Lee.jpg=a"_s, u"Bo.JPG=b"_s}},
         });
 }

@@ -212,7 +212,8 @@ TEST(SettingsTable, WindowsHaveTheirSections) {
     EXPECT_EQ(
         sections.join(u' '),
         u"ProfileInfo Awards SQLQueries AssignEpisodes CoverWindow FilterTags EditMultiUse "
-        "CrewMapping ListViewWindow EditSkin EncryptionPad CrossLinks ManageHeadshots HeadshotImport HTMLExport"_s);
+        "CrewMapping ListViewWindow EditSkin EncryptionPad CrossLinks ManageHeadshots HeadshotImport "
+        "HeadshotTools DropBox HTMLExport"_s);
     EXPECT_FALSE(IsWindowSection(u"Window"_s));
 }
 

@@ -79,7 +79,7 @@ QWidget *frmCrossLinks::MakeNames() {
     listCommonNames_->header()->setSortIndicator(CommonNames::CommonName, Qt::AscendingOrder);
     listCommonNames_->setSortingEnabled(true);
     LetCopy(*listCommonNames_);
-    OnDelete(*listCommonNames_, [this] { editor_.RemoveCommonName(); });
+    OnDelete(*listCommonNames_, u"Remove Common Name", [this] { editor_.RemoveCommonName(); });
     return listCommonNames_;
 }
 
@@ -98,7 +98,7 @@ QWidget *frmCrossLinks::MakeAliases() {
     listAlias_->setMinimumWidth(fontMetrics().averageCharWidth() * 22);
     layout->addWidget(listAlias_);
     LetCopy(*listAlias_);
-    OnDelete(*listAlias_, [this] { RemoveAliasFromList(SelectedAlias()); });
+    OnDelete(*listAlias_, u"Remove Alias", [this] { RemoveAliasFromList(SelectedAlias()); });
     return box;
 }
 

@@ -86,7 +86,7 @@ void frmManageHeadshots::MakeList(QBoxLayout &layout) {
     FileListImages_->setSelectionMode(QAbstractItemView::ExtendedSelection);
     FileListImages_->setMinimumWidth(fontMetrics().averageCharWidth() * 26);
     LetCopy(*FileListImages_);
-    OnDelete(*FileListImages_, [this] { DeleteSelected(); });
+    OnDelete(*FileListImages_, u"Delete Images", [this] { DeleteSelected(); });
     row->addWidget(listAlphabeth_);
     row->addWidget(FileListImages_, 1);
     layout.addLayout(row, 1);
