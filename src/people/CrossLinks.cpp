@@ -46,8 +46,8 @@ void Refuse(Session &session, bool silent, const QString &text, const QString &t
     }
 }
 
-/// The proposed alias is a common name: the pair is turned round, so that its group keeps its name. The aliases that the
-/// other name has itself come along, since no name is both an alias and a common name.
+/// The proposed alias is a common name: the pair is turned round, so that its group keeps its name. The aliases that
+/// the other name has itself come along, since no name is both an alias and a common name.
 void LinkTurnedRound(Session &session, const QString &common_name, const QString &alias_name, int birth_year,
                      const QString &comment) {
     const sql::Database::Bracket bracket(*session.Database);

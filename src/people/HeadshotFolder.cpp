@@ -171,19 +171,33 @@ bool PictureFolder::Remove(const QString &name) {
     return true;
 }
 
-bool PictureFolder::Write(const QString &name, const QByteArray &content) {
-    const QString present = Find(name);
+bool PictureFolder::Copy(const QString &source, const QString &name) {
     if (folder_.isEmpty() || !MakeFolderPath(folder_)) {
         error_ = u"cannot make the folder "_s + folder_;
         return false;
     }
-    if (!ReplaceFile(Path(present.isEmpty() ? name : present), content, &error_)) {
+    const QString present = Find(name);
+    return present.isEmpty() ? CopyNew(source, name) : Replace(present, source);
+}
+
+bool PictureFolder::CopyNew(const QString &source, const QString &name) {
+    QFile file(source);
+    if (!file.copy(Path(name))) {
+        error_ = source + u": "_s + file.errorString();
         return false;
     }
-    if (present.isEmpty()) {
-        names_[name.toCaseFolded()] += name;
-    }
+    // A copy of a file that may only be read is to be mended and replaced all the same.
+    QFile::setPermissions(Path(name), QFile::permissions(Path(name)) | QFile::ReadOwner | QFile::WriteOwner);
+    names_[name.toCaseFolded()] += name;
     return true;
+}
+
+bool PictureFolder::Replace(const QString &name, const QString &source) {
+    const std::optional<QByteArray> picture = ReadFile(source);
+    if (!picture) {
+        error_ = u"cannot read "_s + source;
+    }
+    return picture && ReplaceFile(Path(name), *picture, &error_);
 }
 
 int HeadshotFolder::rowCount(const QModelIndex &parent) const {

@@ -44,14 +44,10 @@ public:
 
     /// Writes a picture into both folders, in place of what is there. Empty, or why it could not be done.
     QString Store(const QString &source, const QString &name) {
-        const std::optional<QByteArray> picture = ReadFile(source);
-        if (!picture) {
-            return u"cannot read "_s + source;
-        }
-        if (!heads.Write(name, *picture)) {
+        if (!heads.Copy(source, name)) {
             return heads.Error();
         }
-        return additional_ && !additional_->Write(name, *picture) ? additional_->Error() : QString();
+        return additional_ && !additional_->Copy(source, name) ? additional_->Error() : QString();
     }
 
 private:

@@ -69,7 +69,8 @@ TEST_F(LanguageTest, EveryTextThatIsMetHasATranslation) {
                                     "mBoxsetView", "mOrderByGenre", "mOrderByRating"}) {
             Trigger(command);
         }
-        for (const char *command : {"mSettings", "mAbout", "mSwitchDatabase", "mEditCrossLinks", "mHeadshotImport", "mManageHeadshots"}) {
+        for (const char *command :
+             {"mSettings", "mAbout", "mSwitchDatabase", "mEditCrossLinks", "mHeadshotImport", "mManageHeadshots"}) {
             OpenAndClose(command);
         }
         {

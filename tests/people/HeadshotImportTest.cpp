@@ -143,7 +143,7 @@ TEST_F(HeadshotImportTest, AFaultIsTold) {
     wizard->CopyImage();
     EXPECT_EQ(wizard->CopyAlternative(), -1);
     EXPECT_EQ(Files(), QStringList());
-    EXPECT_EQ(LogLines().filter(u"Error:    CopyAll: cannot read "_s).size(), 2);
+    EXPECT_EQ(LogLines().filter(u"Error:    CopyAll: "_s + Path(u"source/Ann.jpg"_s)).size(), 2);
     folder_.Write(u"source/Ann.jpg"_s, "x");
     QDir(session.HeadshotPath).removeRecursively();
     folder_.Write(u"heads"_s, "a file in the folder's place");
@@ -175,6 +175,25 @@ TEST_F(HeadshotImportTest, AnAlternateThatIsGoneDoesNotBecomeThePrimary) {
            MessageIcon::Warning);
     wizard->MakePrimary();
     EXPECT_EQ(Files(), QStringList{u"Ann.jpg=heads/Ann.jpg"_s});
+}
+
+TEST_F(HeadshotImportTest, AFileThatMayOnlyBeReadIsReplacedLater) {
+    Have(u"source"_s, {u"Ann.jpg"_s});
+    const QString source = Path(u"source/Ann.jpg"_s);
+    QFile::setPermissions(source, QFile::ReadOwner);
+    Select(u"Ann.jpg"_s);
+    wizard->CopyImage();
+    EXPECT_TRUE(QFile::permissions(session.HeadshotPath + u"Ann.jpg"_s).testFlag(QFile::WriteOwner));
+    QFile::remove(source);
+    folder_.Write(u"source/Ann.jpg"_s, "new");
+    wizard->CopyImage();
+    EXPECT_EQ(Files(), QStringList{u"Ann.jpg=new"_s});
+    QFile::remove(source);
+    Log(kTraceError);
+    Expect(u"Error copying image"_s, {}, MessageIcon::Critical);
+    wizard->CopyImage();
+    EXPECT_EQ(Files(), QStringList{u"Ann.jpg=new"_s});
+    EXPECT_EQ(LogLines().filter(u"Error:    CopyAll: cannot read "_s).size(), 1);
 }
 
 TEST_F(HeadshotImportTest, AFolderThatIsGoneIsMade) {

@@ -85,7 +85,9 @@ TEST_F(HeadshotTools, TrailingSpacesAndUnderscoresGo) {
              {u" .jpg=a"_s, u"_1.jpg=b"_s, u"__.jpg=c"_s},
              {u" .jpg=a"_s, u"_1.jpg=b"_s, u"__.jpg=c"_s}},
             {"other files", {u"Ann_Lee.png=a"_s, u"Ann_Lee.jpg.txt=b"_s}, {u"Ann_Lee.png=a"_s, u"Ann_Lee.jpg.txt=b"_s}},
-            {"an extension in the name", {u"Ann.jpg.jpg=a"_s, u"Bo .jpg.jpg=b"_s}, {u"Ann.jpg.jpg=a"_s, u"Bo .jpg.jpg=b"_s}},
+            {"an extension in the name",
+             {u"Ann.jpg.jpg=a"_s, u"Bo .jpg.jpg=b"_s},
+             {u"Ann.jpg.jpg=a"_s, u"Bo .jpg.jpg=b"_s}},
             {"an extension in capitals", {u"Ann_Lee.JPG=a"_s, u"Bo.JPG=b"_s}, {u"Ann Lee.jpg=a"_s, u"Bo.JPG=b"_s}},
         });
 }
@@ -201,7 +203,7 @@ TEST_F(HeadshotTools, WithoutAFolderNothingHappens) {
          {RemoveTrailingSpaces, RenameAlias, RenameAlternatives, DeleteDuplicateImages, RemoveIdenticals}) {
         tool(session, {});
     }
-    EXPECT_FALSE(PictureFolder({}).Write(u"Bo.jpg"_s, "x"));
+    EXPECT_FALSE(PictureFolder({}).Copy(u"Ann.jpg"_s, u"Bo.jpg"_s));
     QDir::setCurrent(present);
     EXPECT_EQ(Files(), before) << "no folder is not the one that the program was started in";
 }

@@ -153,9 +153,9 @@ TEST_F(HeadshotViewerTest, APictureThatIsGoneChangesNothing) {
 
 TEST_F(HeadshotViewerTest, APictureOfTheNetThatHasNoPlaceIsNotKept) {
     services.downloader.pages[u"http://host/a"_s] = kPicture;
-    for (const auto &[name, folder] : {std::pair(u"Ann"_s, QString()), std::pair(QString(), session.HeadshotPath),
-                                       std::pair(u"???"_s, session.HeadshotPath),
-                                       std::pair(QString(300, u'x'), session.HeadshotPath)}) {
+    for (const auto &[name, folder] :
+         {std::pair(u"Ann"_s, QString()), std::pair(QString(), session.HeadshotPath),
+          std::pair(u"???"_s, session.HeadshotPath), std::pair(QString(300, u'x'), session.HeadshotPath)}) {
         EXPECT_FALSE(viewer.DownloadHeadshot(u"http://host/a"_s, name, folder)) << qPrintable(name);
     }
     EXPECT_EQ(Files(), QStringList());

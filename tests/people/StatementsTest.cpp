@@ -37,8 +37,9 @@ protected:
                         number + u"')"_s));
             for (const auto &[table, key] :
                  {std::pair(u"CastCrew"_s, u"ProfileID"_s), std::pair(u"TVCastCrew"_s, u"EpisodeID"_s)}) {
-                Run(QString(u"INSERT INTO "_s + table + u" (Name, "_s + key + u", Position, BirthYear) VALUES ('Ann "_s +
-                            number + u"', 'K', "_s + number + u", 1940)"_s));
+                Run(QString(u"INSERT INTO "_s + table + u" (Name, "_s + key +
+                            u", Position, BirthYear) VALUES ('Ann "_s + number + u"', 'K', "_s + number +
+                            u", 1940)"_s));
             }
         }
         session.Database->SetObserver([this](QStringView sql) {
@@ -57,8 +58,8 @@ protected:
     int EndJob(const char *job) {
         const int statements = int(sent_.size());
         for (const Sent &sent : std::as_const(sent_)) {
-            const bool searches =
-                std::any_of(sent.plan.begin(), sent.plan.end(), [](const QString &step) { return step.contains(u"SCAN"_s); });
+            const bool searches = std::any_of(sent.plan.begin(), sent.plan.end(),
+                                              [](const QString &step) { return step.contains(u"SCAN"_s); });
             EXPECT_FALSE(searches && sent.times > 1)
                 << job << ", " << sent.times << " times: " << qPrintable(sent.example) << "\n"
                 << qPrintable(sent.plan.join(u'\n'));

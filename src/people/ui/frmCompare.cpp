@@ -44,7 +44,7 @@ frmCompare::frmCompare(Session &session, QWidget *parent) :
     MakeSource(*layout);
     connect(&import_, &HeadshotImport::PicturesChanged, this, &frmCompare::ShowPictures);
     connect(FileListImages_->selectionModel(), &QItemSelectionModel::currentChanged, this, &frmCompare::LoadImage);
-    UpdateSourceImageList();
+    ShowList(0);
     FileListImages_->setFocus();
     new WindowPlace(session_, u"HeadshotImport"_s, this,
                     sizeHint().expandedTo({fontMetrics().averageCharWidth() * 150, fontMetrics().lineSpacing() * 32}));
@@ -183,7 +183,11 @@ void frmCompare::UpdateSourceImageList() {
     import_.UpdateSourceImageList();
     const HeadshotFolder &list = import_.FileListImages;
     const int same = list.RowOf(name);
-    const int row = same >= 0 ? same : std::clamp(place, 0, std::max(0, list.rowCount() - 1));
+    ShowList(same >= 0 ? same : std::clamp(place, 0, std::max(0, list.rowCount() - 1)));
+}
+
+void frmCompare::ShowList(int row) {
+    const HeadshotFolder &list = import_.FileListImages;
     FileListImages_->setCurrentIndex(list.index(row));
     LoadImage();
     labelImageCount_->setText(QString::number(list.rowCount()) + u' ' + Text(u"Images"));

@@ -76,6 +76,7 @@ QWidget *frmCrossLinks::MakeNames() {
     listCommonNames_->setAllColumnsShowFocus(true);
     listCommonNames_->setMinimumWidth(fontMetrics().averageCharWidth() * 30);
     listCommonNames_->header()->setStretchLastSection(false);
+    listCommonNames_->header()->setTextElideMode(Qt::ElideRight);
     listCommonNames_->header()->setSortIndicator(CommonNames::CommonName, Qt::AscendingOrder);
     listCommonNames_->setSortingEnabled(true);
     LetCopy(*listCommonNames_);
