@@ -176,28 +176,28 @@ bool PictureFolder::Copy(const QString &source, const QString &name) {
         error_ = u"cannot make the folder "_s + folder_;
         return false;
     }
-    const QString present = Find(name);
-    return present.isEmpty() ? CopyNew(source, name) : Replace(present, source);
-}
-
-bool PictureFolder::CopyNew(const QString &source, const QString &name) {
-    QFile file(source);
-    if (!file.copy(Path(name))) {
-        error_ = source + u": "_s + file.errorString();
-        return false;
-    }
-    // A copy of a file that may only be read is to be mended and replaced all the same.
-    QFile::setPermissions(Path(name), QFile::permissions(Path(name)) | QFile::ReadOwner | QFile::WriteOwner);
-    names_[name.toCaseFolded()] += name;
-    return true;
-}
-
-bool PictureFolder::Replace(const QString &name, const QString &source) {
     const std::optional<QByteArray> picture = ReadFile(source);
     if (!picture) {
         error_ = u"cannot read "_s + source;
+        return false;
     }
-    return picture && ReplaceFile(Path(name), *picture, &error_);
+    const QString present = Find(name);
+    return present.isEmpty() ? WriteNew(name, *picture) : ReplaceFile(Path(present), *picture, &error_);
+}
+
+/// Not made durable one by one, which takes most of the time of many: the source still has them.
+bool PictureFolder::WriteNew(const QString &name, const QByteArray &picture) {
+    QFile file(Path(name));
+    const bool opened = file.open(QIODevice::NewOnly);
+    if (!opened || file.write(picture) != picture.size() || !file.flush()) {
+        error_ = file.errorString();
+        if (opened) {
+            file.remove();
+        }
+        return false;
+    }
+    names_[name.toCaseFolded()] += name;
+    return true;
 }
 
 int HeadshotFolder::rowCount(const QModelIndex &parent) const {

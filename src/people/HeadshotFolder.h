@@ -52,8 +52,7 @@ public:
 
 private:
     void Forget(const QString &name);
-    bool CopyNew(const QString &source, const QString &name);
-    bool Replace(const QString &name, const QString &source);
+    bool WriteNew(const QString &name, const QByteArray &picture);
 
     QString folder_;
     QHash<QString, QStringList> names_; // folded to those that are spelt so

@@ -168,6 +168,18 @@ TEST_F(CrossLinksWindow, CtrlCCopiesRows) {
     EXPECT_EQ(services.clipboard.Text().split(u'\n').size(), 3) << "all, since none is selected";
 }
 
+TEST_F(CrossLinksWindow, AllIsReachedWithTheKeyboard) {
+    aliases->setCurrentIndex(aliases->model()->index(0, 0));
+    QStringList reached;
+    for (int i = 0; i < 40 && !reached.contains(window->focusWidget()->objectName()); ++i) {
+        reached += window->focusWidget()->objectName();
+        QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+    }
+    EXPECT_EQ(reached.join(u' ').toStdString(),
+              "listCommonNames listAlias cbAddCommonName cbAddAlias cbRemoveAlias cbSetAsCommon cbChangeYear "
+              "cbAdjustAwardData cbClearAlias cbExit");
+}
+
 TEST_F(CrossLinksWindow, TheMenusOfTheListsCopyAndRemove) {
     const auto entry = [](QWidget *list, const char *name) {
         EXPECT_EQ(list->contextMenuPolicy(), Qt::ActionsContextMenu);

@@ -188,6 +188,19 @@ TEST_F(ManageHeadshots, KeepsItsSettings) {
     EXPECT_EQ(window->size(), QSize(1000, 720));
 }
 
+TEST_F(ManageHeadshots, AllIsReachedWithTheKeyboard) {
+    Picture(u"heads/Ann_1.jpg"_s, {4, 6});
+    Open();
+    QStringList reached;
+    for (int i = 0; i < 40 && !reached.contains(window->focusWidget()->objectName()); ++i) {
+        reached += window->focusWidget()->objectName();
+        QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+    }
+    EXPECT_EQ(reached.join(u' ').toStdString(),
+              "FileListImages checkNoResizeLeft cbRemoveDuplicates cbRemoveTrailingSpaces cbRenameAlternatives "
+              "cbRenameAliase cbMakePrimary cbExit textFilter checkFilterSubstring listAlphabeth");
+}
+
 TEST_F(ManageHeadshots, APictureTooLargeForItsOwnSizeIsFitted) {
     QImage large(12'000, 9'000, QImage::Format_Grayscale8);
     large.fill(100);

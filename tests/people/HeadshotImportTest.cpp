@@ -143,7 +143,7 @@ TEST_F(HeadshotImportTest, AFaultIsTold) {
     wizard->CopyImage();
     EXPECT_EQ(wizard->CopyAlternative(), -1);
     EXPECT_EQ(Files(), QStringList());
-    EXPECT_EQ(LogLines().filter(u"Error:    CopyAll: "_s + Path(u"source/Ann.jpg"_s)).size(), 2);
+    EXPECT_EQ(LogLines().filter(u"Error:    CopyAll: cannot read "_s).size(), 2);
     folder_.Write(u"source/Ann.jpg"_s, "x");
     QDir(session.HeadshotPath).removeRecursively();
     folder_.Write(u"heads"_s, "a file in the folder's place");

@@ -5,6 +5,7 @@
 #include "people/ui/frmDropBox.h"
 #include "platform_qt/ElidedLabel.h"
 #include "shell/Session.h"
+#include "shell/ui/PressedLabel.h"
 #include "shell/ui/WindowPlace.h"
 
 #include <QCheckBox>
@@ -96,15 +97,14 @@ void frmCompare::MakeButtons(QBoxLayout &layout) {
                   [this] { import_.OpenImage(); }),
         AddButton(layout, "cbReload", u"Reload Image", u"Reads both pictures again", [this] { LoadImage(); }),
         cbCopyImage_};
-    auto *editor = new QLabel(this);
+    auto *editor = new PressedLabel(this);
     editor->setObjectName(u"labelClickHere"_s);
     const QString caption = Text(u"Click here to change Editor");
-    editor->setText(u"<a href=\"#\">"_s + caption.toHtmlEscaped() + u"</a>"_s);
-    editor->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
-    editor->setFocusPolicy(Qt::StrongFocus);
+    editor->setText(caption);
+    editor->SetPressable(true);
     editor->setAccessibleName(caption);
     editor->setToolTip(Text(u"Chooses the program that edits pictures"));
-    connect(editor, &QLabel::linkActivated, this, &frmCompare::SetImageEditor);
+    connect(editor, &PressedLabel::Pressed, this, &frmCompare::SetImageEditor);
     layout.addWidget(editor);
     layout.addStretch();
     QPushButton *box = AddButton(layout, "cbDropBox", u"Image Drop Box",
