@@ -1,5 +1,6 @@
 #include "people/HeadshotFolder.h"
 
+#include "base/FileNames.h"
 #include "base/Files.h"
 #include "base/Text.h"
 #include "platform/Services.h"
@@ -107,9 +108,11 @@ PictureFolder::PictureFolder(const QString &folder) : folder_(WithSeparator(fold
     if (folder.isEmpty()) {
         return; // it would be the one that the program was started in
     }
-    for (const QString &name : QDir(folder).entryList(QDir::Files | QDir::Hidden, QDir::Name)) {
+    for (const QString &name : FileNamesOf(folder)) {
         if (IsHeadshotName(name)) {
-            names_[name.toCaseFolded()] += name;
+            QStringList &spelt = names_[name.toCaseFolded()];
+            spelt += name;
+            spelt.sort(); // so that it is always the same that is found
         }
     }
 }
@@ -219,7 +222,7 @@ void HeadshotFolder::SetPattern(const QString &pattern) {
 }
 
 void HeadshotFolder::Reload() {
-    names_ = folder_.isEmpty() ? QStringList() : QDir(folder_).entryList(QDir::Files | QDir::Hidden, QDir::NoSort);
+    names_ = folder_.isEmpty() ? QStringList() : FileNamesOf(folder_);
     names_.erase(
         std::remove_if(names_.begin(), names_.end(), [](const QString &name) { return !IsHeadshotName(name); }),
         names_.end());
