@@ -17,6 +17,8 @@ public:
         return keys_.size() != before;
     }
 
+    bool Contains(const QString &key) const { return keys_.contains({key}); }
+
 private:
     struct Key {
         QString text;
