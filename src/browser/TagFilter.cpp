@@ -68,7 +68,7 @@ private:
         rows_.reserve(size_t(record.RecordCount()));
         for (; !record.Eof(); record.MoveNext()) {
             if (wanted(record.Get(ordinal))) {
-                rows_.push_back(reader.GroupRow(0, 0));
+                rows_.push_back(reader.TaggedRow());
             }
         }
     }

@@ -79,6 +79,13 @@ TEST_F(TagFilterTest, OperatorsAndTabs) {
     EXPECT_EQ(LogLines(), QStringList());
 }
 
+TEST_F(TagFilterTest, ATitleWithoutAnyTextTakesNoOtherOutOfTheList) {
+    AddProfile(u"Nameless"_s, u"Title = '', SortTitle = ''"_s);
+    EXPECT_EQ(Filter({}), (QStringList{QString(), u"Arc"_s, u"Cove"_s, u"Mill"_s, u"Bay"_s}));
+    EXPECT_EQ(Filter({u"Mood/Dark"_s}, Or, true), (QStringList{QString(), u"Cove"_s, u"Bay"_s}));
+    EXPECT_EQ(LogLines(), QStringList());
+}
+
 TEST_F(TagFilterTest, TypesIncludedInOwnedStayOut) {
     session.view.IncludeInOwned = u"Ordered"_s;
     SelectTab(u"Owned"_s);
