@@ -18,8 +18,6 @@ public:
     }
     bool Contains(const QString &key) const { return keys_.contains({key}); }
 
-    bool Contains(const QString &key) const { return keys_.contains({key}); }
-
 private:
     struct Key {
         QString text;
