@@ -116,6 +116,8 @@ Q_SIGNALS:
     /// ShowFrontCover or the cover stem changed.
     void CoverChanged();
     void TabsChanged();
+    /// The collection's tags may be others; `other_collection` where they belong to another one, or to none.
+    void TagsChanged(bool other_collection);
     void MainTabChanged();
     void FilterChanged();
     void FilterCountChanged();

@@ -1,6 +1,7 @@
 // The program in another language.
 #include "MainWindowFixture.h"
 
+#include "browser/CollectionTabs.h"
 #include "people/HeadshotImport.h"
 #include "people/ui/frmComparerTools.h"
 #include "queries/LanguageFile.h"
@@ -69,6 +70,7 @@ TEST_F(LanguageTest, EveryTextThatIsMetHasATranslation) {
                                     "mBoxsetView", "mOrderByGenre", "mOrderByRating"}) {
             Trigger(command);
         }
+        ChooseFilter(browser, Translate(session, u"Filter Profiles by Tags"_s));
         for (const char *command :
              {"mSettings", "mAbout", "mSwitchDatabase", "mEditCrossLinks", "mHeadshotImport", "mManageHeadshots"}) {
             OpenAndClose(command);

@@ -371,6 +371,20 @@ TEST_F(MainMenu, TheTabKeyWalksFromLeftToRight) {
     }
 }
 
+TEST_F(MainMenu, TheMenuOfTheTabsIsThatOfTheTabMeant) {
+    StartAsked(true);
+    auto *tabs = Control<QTabBar>("tabColList");
+    ASSERT_GE(tabs->count(), 4);
+    tabs->resize(tabs->sizeHint());
+    tabs->setCurrentIndex(0);
+    ASSERT_GT(tabs->tabAt(tabs->rect().center()), 0);
+    EXPECT_EQ(OpenedBy(tabs, QContextMenuEvent::Keyboard), u"mColTabTools"_s);
+    EXPECT_EQ(tabs->currentIndex(), 0) << "a key means the tab that is selected";
+    const int below = tabs->tabAt(tabs->rect().center());
+    EXPECT_EQ(OpenedBy(tabs, QContextMenuEvent::Mouse), u"mColTabTools"_s);
+    EXPECT_EQ(tabs->currentIndex(), below) << "the mouse means the one below it";
+}
+
 TEST_F(MainMenu, EachListOpensItsContextMenu) {
     StartAsked(true);
     for (const auto reason : {QContextMenuEvent::Mouse, QContextMenuEvent::Keyboard}) {

@@ -16,6 +16,7 @@
 #include "browser/Views.h"
 #include "browser/ui/Guarded.h"
 #include "browser/ui/frmCover.h"
+#include "browser/ui/frmFilterTags.h"
 #include "browser/ui/frmMain.h"
 #include "collection_files/ProfilerImport.h"
 #include "database/TitlesDue.h"
@@ -66,6 +67,17 @@ void ShowCoverWindow(frmMain &main) {
     auto *window = main.findChild<frmCover *>();
     if (!window) {
         window = new frmCover(main.browser, &main);
+    }
+    window->show();
+    window->raise();
+    window->activateWindow();
+}
+
+void ShowFilterTags(frmMain &main) {
+    auto *window = main.findChild<frmFilterTags *>();
+    if (!window) {
+        window = new frmFilterTags(main.browser, &main);
+        window->perform = [&main](const std::function<void()> &action) { main.Perform(action); };
     }
     window->show();
     window->raise();
@@ -226,6 +238,7 @@ void HandleGridLines(frmMain &main) {
 
 void HandleCommands(frmMain &main) {
     HandleGridLines(main);
+    main.browser.hooks.ShowFilterTags = [&main] { ShowFilterTags(main); };
     for (const Handler &handler : kHandlers) {
         main.browser.commands.Handle(QString::fromUtf16(handler.name),
                                      [&main, run = handler.run] { main.Perform([&] { run(main); }); });

@@ -81,6 +81,7 @@ frmMain::frmMain(Browser &the_browser, LazyHtmlView::MakeEngine make_engine) : b
 frmMain::~frmMain() {
     // What still runs must not reach a window that is gone.
     browser.session.window = {};
+    browser.hooks.ShowFilterTags = {};
     browser.disconnect(this);
     skin_.reset();
 }
