@@ -42,8 +42,7 @@ void ProfileSheet::Restart() {
         tags.ReadTree();
         events.ReadUsers();
     }
-    Forget();
-    EnableTab(tab_);
+    Show(SheetTitle(title_));
 }
 
 void ProfileSheet::Show(const SheetTitle &title) {
@@ -76,13 +75,15 @@ void ProfileSheet::ClearProfileInfos() {
     EnableTab(tab_);
 }
 
-void ProfileSheet::EnableTab(SheetTab tab) {
+bool ProfileSheet::EnableTab(SheetTab tab) {
     tab_ = tab;
-    if (!IsRead(tab)) {
-        ReadTab(tab);
-        read_[size_t(tab) - 1] = true;
-        Q_EMIT TabRead(tab);
+    if (IsRead(tab)) {
+        return false;
     }
+    ReadTab(tab);
+    read_[size_t(tab) - 1] = true;
+    Q_EMIT TabRead(tab);
+    return true;
 }
 
 void ProfileSheet::ReadTab(SheetTab tab) {

@@ -33,8 +33,8 @@ public:
     void Show(const SheetTitle &title);
     /// Shows no title.
     void ClearProfileInfos();
-    /// Reads what a tab shows, unless that was done for this title, and tells of it.
-    void EnableTab(SheetTab tab);
+    /// Reads what a tab shows and tells of it; false when that was done for this title.
+    bool EnableTab(SheetTab tab);
     /// The language or the database changed: headers and lists that stand beside all titles are read anew.
     void Restart();
 

@@ -232,6 +232,10 @@ TEST_F(ProfileSheetTest, WithoutADatabaseTheViewIsEmpty) {
     sheet.SetReview({1, 1, 1, 1});
     sheet.Restart();
     EXPECT_EQ(sheet.review, Review());
+    for (int tab = 1; tab <= kSheetTabs; ++tab) {
+        sheet.EnableTab(SheetTab(tab));
+    }
+    EXPECT_EQ(sheet.tags.Checked(), QStringList());
 }
 
 TEST_F(ProfileSheetTest, AdditionalInfos) {
@@ -288,6 +292,8 @@ TEST_F(ProfileSheetTest, TheTitleOfTheSelection) {
     EXPECT_EQ(SelectedTitle(browser), (SheetTitle{CurrentKey(), false}));
     EXPECT_EQ(SelectedEpisode(browser).id, QString());
     ChangeMode(browser, false);
+    UpdateEpisodes(browser, u"S1"_s, u"One"_s);
+    LoadEpisode(browser, u"H13"_s);
     ASSERT_GE(browser.current_episode, 0);
     const SheetTitle episode = {browser.listEpisodes.Rows()[size_t(browser.current_episode)].key, true};
     EXPECT_EQ(SelectedTitle(browser), episode);

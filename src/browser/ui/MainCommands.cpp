@@ -8,11 +8,13 @@
 #include "browser/CreditCommands.h"
 #include "browser/Navigation.h"
 #include "browser/ProfileInfos.h"
+#include "browser/SheetTitle.h"
 #include "browser/SkinView.h"
 #include "browser/TitleQueries.h"
 #include "browser/Views.h"
 #include "browser/ui/frmCover.h"
 #include "browser/ui/frmMain.h"
+#include "browser/ui/frmProfile.h"
 #include "collection_files/ProfilerImport.h"
 #include "database/TitlesDue.h"
 #include "database/ui/frmSwitchDatabase.h"
@@ -66,6 +68,36 @@ void ShowCoverWindow(frmMain &main) {
     window->show();
     window->raise();
     window->activateWindow();
+}
+
+void ShowProfile(frmMain &main, const SheetTitle &title) {
+    auto *window = main.findChild<frmProfile *>();
+    if (!window) {
+        window = new frmProfile(
+            main.browser,
+            [&main](WebEngineRules rules, std::function<void(const QString &)> failed) {
+                return main.EngineFor(std::move(rules), std::move(failed));
+            },
+            [&main](const std::function<void()> &action) { main.Perform(action); }, &main);
+    }
+    window->show();
+    if (title.is_episode) {
+        window->GetEpisodeInfo(title.id);
+    } else {
+        window->GetProfileInfo(title.id);
+    }
+    window->raise();
+    window->activateWindow();
+}
+
+void ShowProfileInfo(frmMain &main) {
+    ShowProfile(main, SelectedTitle(main.browser));
+}
+
+void ShowEpisodeInfo(frmMain &main) {
+    if (const SheetTitle episode = SelectedEpisode(main.browser); !episode.id.isEmpty()) {
+        ShowProfile(main, episode);
+    }
 }
 
 void ShowSqlQuery(frmMain &main) {
@@ -136,6 +168,8 @@ constexpr Handler kHandlers[] = {
     {u"mUseCustomTitle", Browse<ToggleCustomTitle>},
     {u"mUseOriginalTitle", Browse<ToggleOriginalTitle>},
     {u"mShowDescription", Browse<ToggleDescription>},
+    {u"mProfileInformation", ShowProfileInfo},
+    {u"mEpisodeInfoContext", ShowEpisodeInfo},
     {u"mShowCover", ShowCoverWindow},
     {u"mFlipCover", Browse<FlipCover>},
     {u"mGotoProfile", Browse<GotoProfile>},
