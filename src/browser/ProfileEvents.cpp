@@ -29,6 +29,13 @@ bool IsType(const QString &type, const char16_t *name) {
     return type.compare(QStringView(name), Qt::CaseInsensitive) == 0;
 }
 
+/// Keeps a setting, unless the database belongs to a newer program.
+void Keep(Session &session, const QString &name, const QString &value) {
+    if (!session.DatabaseTooNew) {
+        WriteDbInfo(session, name, value);
+    }
+}
+
 /// A value of a statement; the empty text for none.
 QString Quoted(const QString &value) {
     return value.isEmpty() ? u"NULL"_s : u'\'' + EscapeSql(value) + u'\'';
@@ -90,6 +97,7 @@ void ProfileEvents::Clear() {
 void ProfileEvents::TickUser(const QString &user, bool on) {
     users.SetChecked(user, on);
     session_.view.SelectedUsers = users.Checked().join(kDivider);
+    Keep(session_, u"SelectedUsers"_s, session_.view.SelectedUsers);
 }
 
 QStringList ProfileEvents::Types() const {
@@ -121,6 +129,7 @@ void ProfileEvents::RememberType(const QString &type) {
     if (!Holds(OwnTypes(), type) && !Holds(types, type)) {
         types += type;
         session_.view.EventTypes = types.join(kDivider);
+        Keep(session_, u"EventTypes"_s, session_.view.EventTypes);
     }
 }
 

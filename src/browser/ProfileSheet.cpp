@@ -86,6 +86,13 @@ bool ProfileSheet::EnableTab(SheetTab tab) {
     return true;
 }
 
+bool ProfileSheet::SelectTab(SheetTab tab) {
+    if (std::exchange(session_.view.ProfileInfoLastTab, int(tab)) != int(tab) && !session_.DatabaseTooNew) {
+        WriteDbInfo(session_, u"ProfileInfoLastTab"_s, QString::number(int(tab)));
+    }
+    return EnableTab(tab);
+}
+
 void ProfileSheet::ReadTab(SheetTab tab) {
     const bool empty = title_.id.isEmpty();
     switch (tab) {

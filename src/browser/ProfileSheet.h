@@ -35,6 +35,8 @@ public:
     void ClearProfileInfos();
     /// Reads what a tab shows and tells of it; false when that was done for this title.
     bool EnableTab(SheetTab tab);
+    /// The same for a tab that the user chose, which is remembered.
+    bool SelectTab(SheetTab tab);
     /// The language or the database changed: headers and lists that stand beside all titles are read anew.
     void Restart();
 

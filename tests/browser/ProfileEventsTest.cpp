@@ -72,6 +72,7 @@ TEST_F(ProfileEventsTest, ActiveUsersAreOffered) {
 TEST_F(ProfileEventsTest, TickedUsersAreKept) {
     const auto sheet = Open(u"A1"_s, {ben, cleo});
     EXPECT_EQ(session.view.SelectedUsers, u"Ben Moor|Cleo D'Arc"_s);
+    EXPECT_EQ(ReadDbInfo(session, u"SelectedUsers"_s, {}), u"Ben Moor|Cleo D'Arc"_s);
     sheet->events.TickUser(ben, false);
     EXPECT_EQ(session.view.SelectedUsers, cleo);
     EXPECT_EQ(Open(u"B1"_s)->events.users.Checked(), QStringList{cleo}) << "in another window";
@@ -143,6 +144,7 @@ TEST_F(ProfileEventsTest, ANewTypeIsOfferedFromThenOn) {
     EXPECT_EQ(session.view.EventTypes, u"Shown   at school"_s);
     sheet->AddEvent({u"Cleaned"_s, sheet->Now(), {}});
     EXPECT_EQ(session.view.EventTypes, u"Shown   at school|Cleaned"_s);
+    EXPECT_EQ(ReadDbInfo(session, u"EventTypes"_s, {}), u"Shown   at school|Cleaned"_s);
 }
 
 TEST_F(ProfileEventsTest, AnEventThatLendsNotesTheLoan) {

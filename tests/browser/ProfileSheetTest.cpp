@@ -120,6 +120,20 @@ TEST_F(ProfileSheetTest, OnlyTheTabThatIsShownIsRead) {
     session.Database->SetObserver({});
 }
 
+TEST_F(ProfileSheetTest, TheTabThatIsChosenIsRemembered) {
+    ProfileSheet sheet(session);
+    sheet.EnableTab(SheetTab::Events);
+    EXPECT_EQ(ReadDbInfo(session, u"ProfileInfoLastTab"_s, u"1"_s), u"1"_s);
+    sheet.SelectTab(SheetTab::Skins);
+    EXPECT_EQ(ReadDbInfo(session, u"ProfileInfoLastTab"_s, u"1"_s), u"7"_s);
+    EXPECT_EQ(session.view.ProfileInfoLastTab, 7);
+    session.DatabaseTooNew = true;
+    sheet.SelectTab(SheetTab::Main);
+    sheet.events.TickUser(u"Ada Quill"_s, true);
+    EXPECT_EQ(ReadDbInfo(session, u"ProfileInfoLastTab"_s, u"1"_s), u"7"_s) << "of a newer program's database";
+    EXPECT_EQ(ReadDbInfo(session, u"SelectedUsers"_s, u"-"_s), u"-"_s);
+}
+
 TEST_F(ProfileSheetTest, NoStatementOfATitleScansATable) {
     ProfileSheet sheet(session);
     QStringList statements;

@@ -35,11 +35,12 @@ private:
 class ProfileWindow : public MainWindowTest {
 protected:
     void Load(const QStringList &statements = {}) {
-        const auto file = sql::Database::Open(database);
+        auto file = sql::Database::Open(database);
         file->Execute(u"INSERT INTO Users (UserID, IsActive) VALUES ('Ada Quill', true)");
         for (const QString &statement : statements) {
             file->Execute(statement);
         }
+        file.reset();
         main = std::make_unique<frmMain>(browser, [this](QWidget *parent) -> HtmlEngine {
             auto *engine = new NotingPages(parent, urls);
             return {engine, engine};
@@ -304,6 +305,17 @@ TEST_F(ProfileWindow, AnEventIsAddedChangedAndDeleted) {
     QTest::mouseClick(remove, Qt::LeftButton);
     EXPECT_EQ(list->model()->rowCount(), 0);
     EXPECT_FALSE(remove->isEnabled());
+}
+
+TEST_F(ProfileWindow, WhatIsTypedStaysWhileTheTitleDoes) {
+    Open();
+    SelectTab(SheetTab::Events);
+    auto *comment = Find<QLineEdit>("textEventComment");
+    comment->setText(u"Half a sentence"_s);
+    window->GetProfileInfo(session.CurrentProfileID);
+    EXPECT_EQ(comment->text(), u"Half a sentence"_s);
+    ClickRow(browser.current_row == 3 ? 4 : 3);
+    EXPECT_EQ(comment->text(), QString());
 }
 
 TEST_F(ProfileWindow, MarksAreGivenByMouseAndKeyboard) {

@@ -55,6 +55,7 @@ ProfileEventsTab::ProfileEventsTab(Browser &browser, ProfileSheet &sheet, QWidge
     layout->setColumnStretch(1, 1);
     ConnectFields();
     ShowTypes();
+    ShowEvent();
     ShowTitle();
 }
 
@@ -100,13 +101,18 @@ void ProfileEventsTab::AddButtons(QGridLayout &layout) {
     buttons->addWidget(cbDeleteEvent_);
     buttons->addStretch(1);
     layout.addLayout(buttons, 3, 0, 1, 2);
-    connect(cbAddEvent_, &QPushButton::clicked, this, [this] { Do([this] { sheet_.AddEvent(Input()); }); });
+    const auto remove = [this] { Change([this] { sheet_.DeleteEvent(SelectedEvent()); }); };
+    connect(cbAddEvent_, &QPushButton::clicked, this, [this] { Change([this] { sheet_.AddEvent(Input()); }); });
     connect(cbChangeEvent_, &QPushButton::clicked, this,
-            [this] { Do([this] { sheet_.ChangeEvent(SelectedEvent(), Input()); }); });
-    connect(cbDeleteEvent_, &QPushButton::clicked, this,
-            [this] { Do([this] { sheet_.DeleteEvent(SelectedEvent()); }); });
-    auto *remove = new QShortcut(QKeySequence::Delete, listEvents_, nullptr, nullptr, Qt::WidgetShortcut);
-    connect(remove, &QShortcut::activated, this, [this] { Do([this] { sheet_.DeleteEvent(SelectedEvent()); }); });
+            [this] { Change([this] { sheet_.ChangeEvent(SelectedEvent(), Input()); }); });
+    connect(cbDeleteEvent_, &QPushButton::clicked, this, remove);
+    auto *key = new QShortcut(QKeySequence::Delete, listEvents_, nullptr, nullptr, Qt::WidgetShortcut);
+    connect(key, &QShortcut::activated, this, remove);
+}
+
+void ProfileEventsTab::Change(const std::function<void()> &change) {
+    Do(change);
+    ShowEvent();
 }
 
 QGroupBox *ProfileEventsTab::MakeReview() {
@@ -126,6 +132,7 @@ QGroupBox *ProfileEventsTab::MakeReview() {
             Review marks = sheet_.review;
             marks.*member = value;
             Do([&] { sheet_.SetReview(marks); });
+            ShowSetReview(); // also where it could not be written
         });
         marks_.push_back({mark.mark, bar, text});
         ++row;
@@ -142,7 +149,7 @@ void ProfileEventsTab::ConnectFields() {
     connect(listEvents_->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &ProfileEventsTab::ShowEvent);
     connect(comboEventType_, &QComboBox::currentTextChanged, this, &ProfileEventsTab::EnableButtons);
     connect(&sheet_.events.users, &CheckList::Ticked, this, [this](const QString &user, bool on) {
-        sheet_.events.TickUser(user, on);
+        Do([&] { sheet_.events.TickUser(user, on); });
         EnableButtons();
     });
 }
@@ -198,7 +205,11 @@ void ProfileEventsTab::EnableButtons() {
 void ProfileEventsTab::ShowTitle() {
     setEnabled(!sheet_.Title().id.isEmpty());
     ShowTypes();
-    ShowEvent();
+    if (std::exchange(shown_, sheet_.Title()) != sheet_.Title()) {
+        ShowEvent();
+    } else {
+        EnableButtons(); // what was typed for this title stays
+    }
     ShowSetReview();
 }
 

@@ -44,8 +44,11 @@ private:
     void ShowEvent();
     void ShowTypes();
     void EnableButtons();
+    /// Runs a change of the events; the fields are ready for the next one.
+    void Change(const std::function<void()> &change);
 
-    QTreeView *listEvents_;
+    SheetTitle shown_;
+    SheetList *listEvents_;
     QListView *listUsers_;
     QComboBox *comboEventType_;
     QDateTimeEdit *textEventTime_;

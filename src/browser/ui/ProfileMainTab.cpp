@@ -93,6 +93,10 @@ void ProfileMainTab::AddPrices(QGridLayout &layout) {
 void ProfileMainTab::ShowTitle() {
     setEnabled(!sheet_.Title().id.isEmpty());
     const bool of_profile = !sheet_.Title().is_episode;
+    const auto &discs = sheet_.listDiscs.Rows();
+    const bool has_second_side =
+        std::any_of(discs.begin(), discs.end(), [](const ListTableRow &disc) { return !disc.texts[1].isEmpty(); });
+    listDiscs_->Stretch(has_second_side ? QList<int>{0, 1} : QList<int>{0});
     discs_label_->setVisible(of_profile);
     listDiscs_->setVisible(of_profile);
     for (qsizetype i = 0; i < price_texts_.size() && i < sheet_.prices.size(); ++i) {

@@ -4,7 +4,6 @@
 #include "browser/ui/SheetPage.h"
 
 class QGridLayout;
-class QTreeView;
 
 namespace ostrand {
 
@@ -23,7 +22,7 @@ private:
     void AddPrices(QGridLayout &layout);
 
     QTreeView *treeTags_;
-    QTreeView *listDiscs_;
+    SheetList *listDiscs_;
     QLabel *discs_label_ = nullptr;
     QList<QLabel *> price_labels_;
     QList<QLabel *> price_texts_;

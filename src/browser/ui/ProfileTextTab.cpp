@@ -50,6 +50,7 @@ ProfileInfosTab::ProfileInfosTab(Browser &browser, ProfileSheet &sheet, const En
     split->setStretchFactor(0, 1);
     split->setStretchFactor(1, 2);
     split->setChildrenCollapsible(false);
+    split->setSizes({1000, 2000}); // shares, whatever the two would like
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(split);
     connect(listInfos_->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &ProfileInfosTab::ShowValue);

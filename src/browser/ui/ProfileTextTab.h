@@ -6,7 +6,6 @@
 #include "browser/ui/SheetPage.h"
 
 class QComboBox;
-class QTreeView;
 
 namespace ostrand {
 
@@ -33,7 +32,7 @@ public:
 private:
     void ShowValue();
 
-    QTreeView *listInfos_;
+    SheetList *listInfos_;
     PageField *page_;
 };
 

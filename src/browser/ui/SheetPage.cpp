@@ -6,12 +6,46 @@
 #include "browser/ui/Guarded.h"
 
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
-#include <QTreeView>
+#include <QToolTip>
 
 namespace ostrand {
+
+SheetList::SheetList(ListTable &table, QWidget *parent) : QTreeView(parent) {
+    setModel(&table);
+    setRootIsDecorated(false);
+    setUniformRowHeights(true);
+    setAllColumnsShowFocus(true);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    // The order of the database stands until a header is clicked.
+    const auto unsorted = [this] { header()->setSortIndicator(-1, Qt::AscendingOrder); };
+    unsorted();
+    setSortingEnabled(true);
+    connect(&table, &QAbstractItemModel::modelReset, this, unsorted);
+}
+
+void SheetList::Stretch(const QList<int> &columns) {
+    header()->setStretchLastSection(false);
+    for (int column = 0; column < header()->count(); ++column) {
+        const bool stretched = columns.contains(column);
+        header()->setSectionResizeMode(column, stretched ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
+    }
+}
+
+bool SheetList::viewportEvent(QEvent *event) {
+    if (event->type() != QEvent::ToolTip) {
+        return QTreeView::viewportEvent(event);
+    }
+    const auto *help = static_cast<QHelpEvent *>(event);
+    const QModelIndex index = indexAt(help->pos());
+    const bool cut = index.isValid() && sizeHintForIndex(index).width() > columnWidth(index.column());
+    QToolTip::showText(help->globalPos(), cut ? index.data().toString().toHtmlEscaped() : QString(), this);
+    return true;
+}
 
 SheetPage::SheetPage(Browser &browser, ProfileSheet &sheet, const QString &name, QWidget *parent) :
     QWidget(parent), browser_(browser), sheet_(sheet) {
@@ -40,19 +74,8 @@ QPushButton *SheetPage::MakeButton(const char *name, const QString &caption, con
     return button;
 }
 
-QTreeView *SheetPage::MakeList(ListTable &table) {
-    auto *list = new QTreeView;
-    list->setModel(&table);
-    list->setRootIsDecorated(false);
-    list->setUniformRowHeights(true);
-    list->setAllColumnsShowFocus(true);
-    list->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    // The order of the database stands until a header is clicked.
-    const auto unsorted = [list] { list->header()->setSortIndicator(-1, Qt::AscendingOrder); };
-    unsorted();
-    list->setSortingEnabled(true);
-    connect(&table, &QAbstractItemModel::modelReset, list, unsorted);
+SheetList *SheetPage::MakeList(ListTable &table) {
+    auto *list = new SheetList(table);
     LetCopy(*list);
     return list;
 }

@@ -21,7 +21,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr int kDesignLetters = 100;
+constexpr int kDesignLetters = 120;
 constexpr int kDesignLines = 34;
 
 } // namespace
@@ -105,11 +105,10 @@ void frmProfile::AddKeys() {
 
 void frmProfile::EnableTab(int tab) {
     const SheetTab shown = SheetTab(ClampTab(tab, kSheetTabs));
-    browser_.session.view.ProfileInfoLastTab = int(shown);
     tabProfile_->setCurrentIndex(int(shown) - 1);
     pages_->setCurrentWidget(PageOf(shown));
     Guarded(browser_.session, [&] {
-        if (!sheet_.EnableTab(shown)) {
+        if (!sheet_.SelectTab(shown)) {
             ShowTab(shown); // the tabs with texts share their page
         }
     });
