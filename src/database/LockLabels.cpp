@@ -23,7 +23,7 @@ constexpr LockLabel kLabels[] = {
     {u"Features", false},
     {u"Events", false},
     {u"IMDb Link", false},
-    {kLockEntire, false},
+    {u"Entire", false},
     {u"Reviews", false},
     {u"Tags", false},
     {u"IMDb Data", false},
