@@ -193,9 +193,8 @@ void ProfileEvents::Delete(const SheetTitle &title, const QString &id) {
 }
 
 void ProfileEvents::Finish(const SheetTitle &title) {
-    if (session_.view.AutoLockEvents && !IsLocked(session_, title.id, u"Events"_s)) {
-        session_.Database->Execute(
-            QString(u"INSERT INTO Locks (ProfileID, LockName) VALUES ('"_s + EscapeSql(title.id) + u"', 'Events')"_s));
+    if (session_.view.AutoLockEvents) {
+        SetLock(session_, title.id, u"Events"_s);
     }
     MarkEdited(session_, title, u"Events");
     ReadEvents(title);
