@@ -11,6 +11,7 @@
 #include "browser/PanelFields.h"
 #include "browser/ProfileCommands.h"
 #include "browser/ProfileInfos.h"
+#include "browser/SheetTitle.h"
 #include "browser/SkinView.h"
 #include "browser/TitleQueries.h"
 #include "browser/Views.h"
@@ -18,6 +19,7 @@
 #include "browser/ui/frmCover.h"
 #include "browser/ui/frmFilterTags.h"
 #include "browser/ui/frmMain.h"
+#include "browser/ui/frmProfile.h"
 #include "collection_files/ProfilerImport.h"
 #include "database/TitlesDue.h"
 #include "database/ui/frmSwitchDatabase.h"
@@ -82,6 +84,36 @@ void ShowFilterTags(frmMain &main) {
     window->show();
     window->raise();
     window->activateWindow();
+}
+
+void ShowProfile(frmMain &main, const SheetTitle &title) {
+    auto *window = main.findChild<frmProfile *>();
+    if (!window) {
+        window = new frmProfile(
+            main.browser,
+            [&main](WebEngineRules rules, std::function<void(const QString &)> failed) {
+                return main.EngineFor(std::move(rules), std::move(failed));
+            },
+            [&main](const std::function<void()> &action) { main.Perform(action); }, &main);
+    }
+    window->show();
+    if (title.is_episode) {
+        window->GetEpisodeInfo(title.id);
+    } else {
+        window->GetProfileInfo(title.id);
+    }
+    window->raise();
+    window->activateWindow();
+}
+
+void ShowProfileInfo(frmMain &main) {
+    ShowProfile(main, SelectedTitle(main.browser));
+}
+
+void ShowEpisodeInfo(frmMain &main) {
+    if (const SheetTitle episode = SelectedEpisode(main.browser); !episode.id.isEmpty()) {
+        ShowProfile(main, episode);
+    }
 }
 
 void ShowSqlQuery(frmMain &main) {
@@ -159,6 +191,8 @@ constexpr Handler kHandlers[] = {
     {u"mUseCustomTitle", Browse<ToggleCustomTitle>},
     {u"mUseOriginalTitle", Browse<ToggleOriginalTitle>},
     {u"mShowDescription", Browse<ToggleDescription>},
+    {u"mProfileInformation", ShowProfileInfo},
+    {u"mEpisodeInfoContext", ShowEpisodeInfo},
     {u"mShowCover", ShowCoverWindow},
     {u"mFlipCover", Browse<FlipCover>},
     {u"mGotoProfile", Browse<GotoProfile>},

@@ -24,6 +24,7 @@
 #include "browser/ui/SkinRules.h"
 #include "browser/ui/TitleListPanel.h"
 #include "browser/ui/ToolMain.h"
+#include "browser/ui/frmProfile.h"
 #include "collection_files/ProfilerImport.h"
 #include "database/ui/frmSwitchDatabase.h"
 #include "shell/InstanceMarker.h"
@@ -59,10 +60,11 @@ QString BaseCaption() {
 
 } // namespace
 
-frmMain::frmMain(Browser &the_browser, LazyHtmlView::MakeEngine make_engine) : browser(the_browser) {
+frmMain::frmMain(Browser &the_browser, LazyHtmlView::MakeEngine make_engine) :
+    browser(the_browser), make_engine_(std::move(make_engine)) {
     setObjectName(u"frmMain"_s);
     setAcceptDrops(true);
-    MakeSkinView(std::move(make_engine));
+    MakeSkinView();
     Compose();
     ConnectBrowser();
     AttachBrowser(browser);
@@ -83,6 +85,7 @@ frmMain::~frmMain() {
     browser.session.window = {};
     browser.hooks.ShowFilterTags = {};
     browser.disconnect(this);
+    delete findChild<frmProfile *>();
     skin_.reset();
 }
 
@@ -90,13 +93,14 @@ SplitPanel *frmMain::Split(int number) const {
     return splits_[size_t(number - 1)];
 }
 
-void frmMain::MakeSkinView(LazyHtmlView::MakeEngine make_engine) {
-    if (!make_engine) {
-        make_engine = LoadWebEngine(SkinRules(browser.session), [this](const QString &reason) {
-            Guarded(browser.session, [&] { skin_->TellNoEngine(reason); });
-        });
-    }
-    WebSkin_ = new LazyHtmlView(std::move(make_engine));
+LazyHtmlView::MakeEngine frmMain::EngineFor(WebEngineRules rules, std::function<void(const QString &)> failed) const {
+    return make_engine_ ? make_engine_ : LoadWebEngine(std::move(rules), std::move(failed));
+}
+
+void frmMain::MakeSkinView() {
+    WebSkin_ = new LazyHtmlView(EngineFor(SkinRules(browser.session), [this](const QString &reason) {
+        Guarded(browser.session, [&] { skin_->TellNoEngine(reason); });
+    }));
     WebSkin_->setObjectName(u"WebSkin"_s);
     skin_ = std::make_unique<SkinView>(browser, *WebSkin_);
     skin_->later = [this](const std::function<void()> &action) {
