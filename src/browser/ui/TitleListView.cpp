@@ -28,6 +28,8 @@ TitleListView::TitleListView(Browser &browser, QWidget *parent) :
     header()->setSectionsMovable(false);
     header()->setStretchLastSection(false);
     header()->setMinimumSectionSize(0);
+    connect(header(), &QHeaderView::sectionResized, this,
+            [this](int column, int, int size) { KeepWidth(column, size); });
     connect(header(), &QHeaderView::sectionClicked, this, [this](int column) { SortByHeader(browser_, column); });
     connect(&browser_, &Browser::CurrentRowChanged, this, &TitleListView::FollowBrowser);
     connect(&browser_.listSeries, &TitleList::WidthsChanged, this, &TitleListView::ApplyWidths);
@@ -116,11 +118,18 @@ void TitleListView::resizeEvent(QResizeEvent *event) {
     ApplyWidths();
 }
 
+void TitleListView::KeepWidth(int column, int size) {
+    if (!applying_ && size > 0 && width() > 0) {
+        browser_.listSeries.SetWidth(column, double(size) / width());
+    }
+}
+
 void TitleListView::ApplyWidths() {
+    const QScopedValueRollback<bool> apply(applying_, true);
     const int list_width = width();
     int others = 0;
     for (int column = 1; column < kTitleColumns; ++column) {
-        const int wanted = int(browser_.listSeries.Width(column) * list_width);
+        const int wanted = qRound(browser_.listSeries.Width(column) * list_width);
         setColumnHidden(column, wanted == 0);
         if (wanted > 0) {
             setColumnWidth(column, wanted);
@@ -128,7 +137,7 @@ void TitleListView::ApplyWidths() {
         }
     }
     // The two widths may add up to more than there is; the list does not scroll sideways for that.
-    setColumnWidth(0, std::min(int(browser_.listSeries.Width(0) * list_width), viewport()->width() - others));
+    setColumnWidth(0, std::min(qRound(browser_.listSeries.Width(0) * list_width), viewport()->width() - others));
 }
 
 void TitleListView::ShowSortMark() {

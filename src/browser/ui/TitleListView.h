@@ -37,12 +37,15 @@ protected:
 
 private:
     void FollowBrowser();
+    /// The user drew a column to another width, which it keeps as a part of the list's.
+    void KeepWidth(int column, int size);
     void ApplyWidths();
     void ShowSortMark();
 
     Browser &browser_;
     TitleDelegate *delegate_;
     bool following_ = false;
+    bool applying_ = false;
     QString typed_;
     QElapsedTimer last_typed_;
 };
