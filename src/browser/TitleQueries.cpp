@@ -67,6 +67,18 @@ std::vector<TitleRow> ReadTitles(Session &session, const QString &tab) {
     return rows;
 }
 
+/// Tells windows of the time in which the list is filled, whichever way that ends.
+class Filling {
+public:
+    explicit Filling(Browser &browser) : browser_(browser) { Q_EMIT browser_.ListFillingBegun(); }
+    ~Filling() { Q_EMIT browser_.ListFillingEnded(); }
+    Filling(const Filling &) = delete;
+    Filling &operator=(const Filling &) = delete;
+
+private:
+    Browser &browser_;
+};
+
 /// A stored sort that there is none of gives way to the one that it was taken for; boxsets could never show else.
 void KeepValidSort(Browser &browser) {
     const ViewState &view = browser.session.view;
@@ -82,6 +94,7 @@ void KeepValidSort(Browser &browser) {
 void GetMovieNames(Browser &browser) {
     Session &session = browser.session;
     Trace(session, u"GetMovieNames()"_s, kTraceEntry);
+    const Filling filling(browser);
     BeginList(browser);
     const QString tab = SelectedColType(browser);
     if (session.view.ProfilesSortKey != TitleList::SortTitle ||

@@ -354,6 +354,23 @@ TEST_F(MainWindow, ColumnsOfTheListFollowItsWidth) {
     EXPECT_EQ(header->hiddenSectionCount(), kTitleColumns - 1);
 }
 
+TEST_F(MainWindow, TheListIsHiddenAndTheCursorWaitsWhileItIsFilled) {
+    Start();
+    List()->setFocus();
+    int looks = 0;
+    QObject::connect(&browser, &Browser::CurrentRowChanged, List(), [&] {
+        ++looks;
+        EXPECT_FALSE(List()->viewport()->isVisible());
+        EXPECT_TRUE(QApplication::overrideCursor());
+        EXPECT_TRUE(List()->hasFocus());
+    });
+    Trigger("mBoxsetView");
+    EXPECT_GT(looks, 0);
+    EXPECT_TRUE(List()->viewport()->isVisible());
+    EXPECT_FALSE(QApplication::overrideCursor());
+    EXPECT_TRUE(List()->hasFocus());
+}
+
 TEST_F(MainWindow, AColumnDrawnToAnotherWidthKeepsIt) {
     Start();
     main->resize(1400, 600);

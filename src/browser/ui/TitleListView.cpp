@@ -31,6 +31,8 @@ TitleListView::TitleListView(Browser &browser, QWidget *parent) :
     connect(header(), &QHeaderView::sectionResized, this,
             [this](int column, int, int size) { KeepWidth(column, size); });
     connect(header(), &QHeaderView::sectionClicked, this, [this](int column) { SortByHeader(browser_, column); });
+    connect(&browser_, &Browser::ListFillingBegun, this, [this] { ShowFilling(true); });
+    connect(&browser_, &Browser::ListFillingEnded, this, [this] { ShowFilling(false); });
     connect(&browser_, &Browser::CurrentRowChanged, this, &TitleListView::FollowBrowser);
     connect(&browser_.listSeries, &TitleList::WidthsChanged, this, &TitleListView::ApplyWidths);
     connect(&browser_.listSeries, &QAbstractItemModel::modelReset, this, &TitleListView::ApplyWidths);
@@ -42,6 +44,16 @@ TitleListView::TitleListView(Browser &browser, QWidget *parent) :
 void TitleListView::SetGridLines(bool shown) {
     delegate_->SetGridLines(shown);
     viewport()->update();
+}
+
+void TitleListView::ShowFilling(bool on) {
+    // The rows and not the list: what is hidden loses the focus.
+    viewport()->setVisible(!on);
+    if (on) {
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    } else {
+        QApplication::restoreOverrideCursor();
+    }
 }
 
 void TitleListView::FollowBrowser() {

@@ -36,6 +36,8 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    /// The list is being filled: its rows are hidden and the cursor waits.
+    void ShowFilling(bool on);
     void FollowBrowser();
     /// The user drew a column to another width, which it keeps as a part of the list's.
     void KeepWidth(int column, int size);
