@@ -362,13 +362,13 @@ TEST_F(MainWindow, TheListIsHiddenAndTheCursorWaitsWhileItIsFilled) {
         ++looks;
         EXPECT_FALSE(List()->viewport()->isVisible());
         EXPECT_TRUE(QApplication::overrideCursor());
-        EXPECT_TRUE(List()->hasFocus());
+        EXPECT_EQ(main->focusWidget(), List());
     });
     Trigger("mBoxsetView");
     EXPECT_GT(looks, 0);
     EXPECT_TRUE(List()->viewport()->isVisible());
     EXPECT_FALSE(QApplication::overrideCursor());
-    EXPECT_TRUE(List()->hasFocus());
+    EXPECT_EQ(main->focusWidget(), List());
 }
 
 TEST_F(MainWindow, AColumnDrawnToAnotherWidthKeepsIt) {
