@@ -15,6 +15,7 @@ class TitleListView : public QTreeView {
     Q_OBJECT
 public:
     explicit TitleListView(Browser &browser, QWidget *parent = nullptr);
+    ~TitleListView() override;
 
     void SetGridLines(bool shown);
 
@@ -41,6 +42,10 @@ private:
     void FollowBrowser();
     /// The user drew a column to another width, which it keeps as a part of the list's.
     void KeepWidth(int column, int size);
+    /// The user went to a row.
+    void Move(int row);
+    void FollowView();
+    QList<int> SelectedRows() const;
     void ApplyWidths();
     void ShowSortMark();
 
@@ -48,6 +53,7 @@ private:
     TitleDelegate *delegate_;
     bool following_ = false;
     bool applying_ = false;
+    bool moving_ = false; ///< to the row that the user chose
     QString typed_;
     QElapsedTimer last_typed_;
 };
