@@ -16,7 +16,7 @@ public:
         keys_.insert({key, HashOf(key)});
         return keys_.size() != before;
     }
-    bool Contains(const QString &key) const { return keys_.contains({key}); }
+    bool Contains(const QString &key) const { return keys_.contains({key, HashOf(key)}); }
 
 private:
     struct Key {
