@@ -102,6 +102,10 @@ public:
 Q_SIGNALS:
     /// Another database is open; its path and name are known.
     void DatabaseOpened();
+    /// The titles of listSeries are about to be read anew, and are there. The list is not to be seen between the two,
+    /// and the user waits.
+    void ListFillingBegun();
+    void ListFillingEnded();
     /// `current_row` is to be selected and scrolled to.
     void CurrentRowChanged();
     /// `current_episode` is to be selected and scrolled to.

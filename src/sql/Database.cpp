@@ -179,12 +179,14 @@ private:
 
 } // namespace
 
-std::unique_ptr<Recordset::Data> Database::Impl::Collect(const Compiled &compiled, Statement &statement) {
+std::unique_ptr<Recordset::Data> Database::Impl::Collect(const Compiled &compiled, Statement &statement,
+                                                         int expected_rows) {
     auto data = std::make_unique<Recordset::Data>();
     data->database = this;
     data->shape = compiled.result;
     data->columns = int(compiled.result->fields.size());
     const bool row_ids = !compiled.result->table.isEmpty();
+    data->cells.reserve(size_t(expected_rows) * size_t(data->columns));
     while (statement.Step()) {
         for (int i = 0; i < data->columns; ++i) {
             data->cells.push_back(statement.Column(i));
@@ -202,7 +204,8 @@ std::unique_ptr<Recordset::Data> Database::Impl::ReadRows(CachedStatement &cache
     BindLiterals(cached.compiled, cached.statement);
     const bool outer = interruptible.exchange(true);
     try {
-        auto data = Collect(cached.compiled, cached.statement);
+        auto data = Collect(cached.compiled, cached.statement, cached.last_rows);
+        cached.last_rows = data->rows;
         interruptible = outer;
         return data;
     } catch (const SqlError &) {
