@@ -2,6 +2,7 @@
 #include "browser/ui/frmProfile.h"
 
 #include "MainWindowFixture.h"
+#include "browser/Attach.h"
 #include "browser/Views.h"
 #include "browser/ui/ReviewBar.h"
 #include "shell/ui/Twips.h"
@@ -427,6 +428,18 @@ TEST_F(ProfileWindow, AnotherDatabaseWhileItIsOpen) {
     ASSERT_TRUE(OpenCollectionDatabase(session, other));
     EXPECT_EQ(window->windowTitle(), Caption());
     EXPECT_TRUE(Find<QTreeView>("listEvents") != nullptr);
+}
+
+TEST_F(ProfileWindow, WithoutADatabaseItsTabsAreEmpty) {
+    Open();
+    session.Database.reset();
+    ShowNoCollection(browser);
+    EXPECT_EQ(window->windowTitle(), u"Profile Information"_s);
+    for (int tab = kSheetTabs; tab >= 1; --tab) {
+        SelectTab(SheetTab(tab));
+    }
+    EXPECT_FALSE(Find<QListView>("listLocks")->isEnabled());
+    EXPECT_FALSE(Find<QTreeView>("listEvents")->isEnabled());
 }
 
 TEST_F(ProfileWindow, EveryControlHasANameAndAKey) {
