@@ -16,6 +16,7 @@
 #include <QPushButton>
 #include <QTabBar>
 #include <QTreeView>
+#include <QWindow>
 
 namespace ostrand::test {
 namespace {
@@ -124,6 +125,10 @@ TEST_F(ProfileWindow, ShowsTheEpisodeInTvView) {
     EXPECT_TRUE(window->isVisible());
     EXPECT_EQ(window->windowTitle(), u"Profile Information: Dust"_s);
     EXPECT_TRUE(Find<QTreeView>("listDiscs")->isHidden()) << "an episode has none";
+    QCoreApplication::processEvents();
+    const auto *locks = Find<QListView>("listLocks");
+    EXPECT_LT(locks->parentWidget()->height() - locks->geometry().bottom(), locks->fontMetrics().height() * 3)
+        << "the room is not left empty";
     EXPECT_EQ(Find<QListView>("listLocks")->model()->rowCount(), 24);
     Trigger("mMovies");
     EXPECT_FALSE(Find<QTreeView>("listDiscs")->isHidden());
@@ -185,6 +190,20 @@ TEST_F(ProfileWindow, EscClosesItAndItsPlaceIsKept) {
     Trigger("mProfileInformation");
     EXPECT_EQ(window->size(), QSize(700, 500));
     EXPECT_EQ(window->windowTitle(), Caption());
+}
+
+TEST_F(ProfileWindow, StaysWhereItWasPut) {
+    Open();
+    const QPoint place(123, 87);
+    window->windowHandle()->setPosition(place); // as a desktop moves it
+    QCoreApplication::processEvents();
+    ASSERT_EQ(window->geometry().topLeft(), place);
+    for (int i = 0; i < 3; ++i) {
+        QTest::keyClick(window, Qt::Key_Escape);
+        Trigger("mProfileInformation");
+        QCoreApplication::processEvents();
+        EXPECT_EQ(window->geometry().topLeft(), place) << i;
+    }
 }
 
 TEST_F(ProfileWindow, OnlyTheTabThatIsShownLoadsAPage) {
@@ -306,6 +325,20 @@ TEST_F(ProfileWindow, AnEventIsAddedChangedAndDeleted) {
     QTest::mouseClick(remove, Qt::LeftButton);
     EXPECT_EQ(list->model()->rowCount(), 0);
     EXPECT_FALSE(remove->isEnabled());
+}
+
+TEST_F(ProfileWindow, ATimeThatNobodySetGoesOn) {
+    Open({u"DELETE FROM Events"_s});
+    SelectTab(SheetTab::Events);
+    auto *users = Find<QListView>("listUsers");
+    Tick(users, users->model()->index(0, 0));
+    services.clock.now += 1.0 / 24;
+    QTest::mouseClick(Find<QPushButton>("cbAddEvent"), Qt::LeftButton);
+    services.clock.now += 1.0 / 24;
+    Find<QDateTimeEdit>("textEventTime")->setDateTime({{2024, 1, 2}, {3, 4, 5}});
+    QTest::mouseClick(Find<QPushButton>("cbAddEvent"), Qt::LeftButton);
+    EXPECT_EQ(Rows(u"SELECT EventTimeStamp FROM Events ORDER BY EventTimeStamp"_s),
+              (QStringList{u"2024-01-02 03:04:05"_s, u"2024-05-17 11:20:30"_s}));
 }
 
 TEST_F(ProfileWindow, WhatIsTypedStaysWhileTheTitleDoes) {
