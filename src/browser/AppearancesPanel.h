@@ -24,6 +24,12 @@ public:
     /// The caption above treeAwards; "&" stands doubled in it.
     QString labelAwards;
 
+    /// A name and a birth year.
+    using Person = std::pair<QString, QString>;
+    /// Whose appearances the list shows, and whose awards the tree; a name is empty for none.
+    QList<Person> appearances_of;
+    Person awards_of;
+
     /// Row of the list that is selected; -1 for none.
     int current_row = -1;
     /// The column that sorts the list; -1 while its rows stand as they came.
@@ -68,5 +74,7 @@ void GoToAwardedMovie(Browser &browser, const QModelIndex &nomination);
 
 /// The captions in the present language.
 void ShowAppearanceHeaders(Browser &browser);
+/// The rows and the awards anew, in the present language; their order and the row that is selected stay.
+void RefillAppearances(Browser &browser);
 
 } // namespace ostrand
