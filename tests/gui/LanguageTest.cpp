@@ -3,6 +3,8 @@
 
 #include "browser/Appearances.h"
 #include "browser/CreditCommands.h"
+#include "people/HeadshotImport.h"
+#include "people/ui/frmComparerTools.h"
 #include "queries/LanguageFile.h"
 #include "queries/ui/frmSQLQuery.h"
 #include "shell/SettingsForm.h"
@@ -104,15 +106,17 @@ protected:
         Trigger(command);
         EXPECT_TRUE(seen) << command;
     }
-    /// Ratings, roles, captions among credits and the names of the user's own tabs are data, and no texts of the
-    /// program.
+    /// Ratings, roles, captions among credits, studios, formats and the names of the user's own tabs are data, and no
+    /// texts of the program.
     QStringList Untranslated() {
         QStringList texts;
         sql::Recordset rows = session.Database->OpenRecordset(
             u"SELECT OriginalString FROM Translation WHERE UserString = '' AND OriginalString NOT IN (SELECT ColType "
             u"FROM Profiles) AND OriginalString NOT IN (SELECT Rating FROM Profiles WHERE Rating <> '') "
             u"AND OriginalString NOT IN (SELECT Role FROM CastCrew) "
-            u"AND OriginalString NOT IN (SELECT Name FROM CastCrew)");
+            u"AND OriginalString NOT IN (SELECT Name FROM CastCrew) AND OriginalString NOT IN (SELECT Studio FROM "
+            u"Studios) AND OriginalString NOT IN (SELECT Medium FROM Profiles) AND OriginalString NOT IN (SELECT "
+            u"Compression FROM AudioFormats) AND OriginalString NOT IN (SELECT Channels FROM AudioFormats)");
         for (; !rows.Eof(); rows.MoveNext()) {
             texts += rows.Text(0);
         }
@@ -156,8 +160,16 @@ TEST_F(LanguageTest, EveryTextThatIsMetHasATranslation) {
                                     "mBoxsetView", "mOrderByGenre", "mOrderByRating"}) {
             Trigger(command);
         }
-        for (const char *command : {"mSettings", "mAbout", "mSwitchDatabase"}) {
+        for (const char *command : {"mSettings", "mAbout", "mSwitchDatabase", "mExportHTMLCollection",
+                                    "mEditCrossLinks", "mManageHeadshots", "mHeadshotImport"}) {
             OpenAndClose(command);
+        }
+        HeadshotImport import(session);
+        const frmComparerTools tools(session, import);
+        Trigger("mMovies");
+        for (int tab = 0; tab < 3; ++tab) {
+            Control<QTabBar>("tabMain")->setCurrentIndex(tab);
+            ClickRow(tab);
         }
         EXPECT_EQ(Untranslated().join(u'\n').toStdString(), std::string());
         TearDown();
