@@ -9,6 +9,7 @@
 #include "queries/ui/frmSQLQuery.h"
 #include "shell/SettingsForm.h"
 #include "shell/ui/frmListView.h"
+#include "shell/ui/frmSettings.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
@@ -16,6 +17,7 @@
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
+#include <QListWidget>
 #include <QMap>
 #include <QPlainTextEdit>
 #include <QTabBar>
@@ -233,6 +235,14 @@ TEST_F(LanguageTest, WhatPanelsTellOfAPersonChangesToo) {
     EXPECT_EQ(role(browser.appearances.listAppearences), u"Owl (stem)"_s);
     EXPECT_EQ(cast->model()->index(0, 1).data().toString(), u"Owl (stem)"_s);
     EXPECT_EQ(browser.appearances.labelAwards, u"Prijzen voor Ida Roe"_s);
+}
+
+TEST_F(LanguageTest, TheSettingsNameTheTypesAsTheTabsDo) {
+    StartIn(u"German"_s);
+    const frmSettings settings(session);
+    const auto *types = settings.findChild<QListWidget *>(u"listIncludeInOwned"_s);
+    EXPECT_FALSE(types->findItems(u"Bestellt"_s, Qt::MatchExactly).isEmpty());
+    EXPECT_TRUE(types->findItems(u"Ordered"_s, Qt::MatchExactly).isEmpty());
 }
 
 TEST_F(LanguageTest, OneLanguageIsLeftForAnother) {

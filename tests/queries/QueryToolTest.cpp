@@ -352,6 +352,16 @@ TEST_F(QueryToolTest, ALongStatementShowsProgressAndCanBeCancelled) {
     EXPECT_FALSE(session.progress.IsShown());
 }
 
+TEST_F(QueryToolTest, TheValuesOfAVariableCanTakeTooLongToo) {
+    FillAliases();
+    services.pump.At(2, [this] { session.progress.Close(); });
+    services.dialogs.ExpectMessage(u"An Error occured"_s);
+    services.dialogs.ExpectInput(u"Please enter the value for the variable 'n'"_s, std::nullopt);
+    Send(u"SELECT $n$ ; $n$ \""_s + kEndless + u'"');
+    EXPECT_TRUE(services.dialogs.last_values.isEmpty());
+    EXPECT_EQ(services.progress.calls.last(), u"closed"_s);
+}
+
 TEST_F(QueryToolTest, ACancelledChangeChangesNothing) {
     FillAliases();
     services.pump.At(1, [this] { session.Database->FlushIfDue(); });
