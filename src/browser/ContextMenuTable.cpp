@@ -69,6 +69,7 @@ constexpr MenuEntry kEntries[] = {
     ContextMenu(u"mCoverTools"),
     SameAs(u"mShowCover", Entry(u"mShowCoverContext", u"mCoverTools", u"&Show in a Window")),
     Entry(u"mFlipCover", u"mCoverTools", u"&Other Side"),
+    Told(Entry(u"mLockCovers", u"mCoverTools", u"&Lock Covers", u"Protects the covers from imports and updates")),
 
     // The rows of listEpisodes.
     ContextMenu(u"mEpisodeTools"),
@@ -110,6 +111,9 @@ constexpr MenuEntry kEntries[] = {
 
     // The fields of the panels.
     ContextMenu(u"mLockTools"),
+    Entry(u"mChangeField", u"mLockTools", u"&Change...", u"Asks for another value of this field"),
+    Entry(u"mCopyField", u"mLockTools", u"C&opy"),
+    Separator(u"mLockTools"),
     Told(Entry(u"mLockField", u"mLockTools", u"&Lock", u"Protects this field from imports and updates")),
 
     // treeAwards.

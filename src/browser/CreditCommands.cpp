@@ -5,7 +5,7 @@
 #include "browser/Browser.h"
 #include "browser/Credits.h"
 #include "collection_files/ImportCredits.h"
-#include "database/DatabaseFunctions.h"
+#include "database/RecordOperations.h"
 #include "database/TitleLocks.h"
 #include "shell/Session.h"
 
@@ -67,13 +67,6 @@ void TellImported(Session &session, CreditKind kind) {
                                                                   : u"Crew successfully imported"_s),
                           .title = Translate(session, u"Import successfull"_s),
                           .icon = MessageIcon::Information});
-}
-
-/// The next import must see that the profile was changed by hand.
-void MarkEdited(Session &session, const QString &id) {
-    const QString of_profile = u" WHERE ProfileID = '"_s + EscapeSql(id) + u'\'';
-    session.Database->Execute(QString(u"UPDATE Profiles SET LastEdited = Now()"_s + of_profile));
-    session.Database->Execute(QString(u"UPDATE Profiles SET MD5 = ''"_s + of_profile));
 }
 
 void Replace(Browser &browser, CreditKind kind, pugi::xml_node credits) {

@@ -100,6 +100,38 @@ void TitleList::Clear() {
     Assign({});
 }
 
+void TitleList::RemoveTitles(const QStringList &ids) {
+    KeySet gone;
+    for (const QString &id : ids) {
+        gone.Add(id);
+    }
+    std::vector<TitleRow> rows;
+    const auto drop_empty_group = [&rows] {
+        if (!rows.empty() && rows.back().header) {
+            rows.pop_back();
+        }
+    };
+    for (TitleRow &row : rows_) {
+        if (row.header) {
+            drop_empty_group();
+        } else if (gone.Contains(ProfileOfKey(row.key))) {
+            continue;
+        }
+        rows.push_back(std::move(row));
+    }
+    drop_empty_group();
+    Assign(std::move(rows));
+}
+
+void TitleList::SetTexts(int row, const TitleRow &texts) {
+    TitleRow &shown = rows_[size_t(row)];
+    shown.texts = texts.texts;
+    shown.tool_tip = texts.tool_tip;
+    shown.tag = texts.tag;
+    keyed_column_ = -1;
+    Q_EMIT dataChanged(index(row, 0), index(row, kTitleColumns - 1));
+}
+
 void TitleList::SortBy(int column, Order order) {
     sorted_ = true;
     sort_column_ = std::clamp(column, 0, kTitleColumns - 1);

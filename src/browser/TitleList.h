@@ -44,6 +44,10 @@ public:
     /// is left out; returns how many were.
     int Assign(std::vector<TitleRow> rows);
     void Clear();
+    /// Takes all rows of these titles away, and the headers that stand above no title then.
+    void RemoveTitles(const QStringList &ids);
+    /// Gives a row other texts; it stays in its place and keeps its key.
+    void SetTexts(int row, const TitleRow &texts);
     const std::vector<TitleRow> &Rows() const { return rows_; }
 
     /// Turns the automatic sort on and sorts: a text comparison of the column in the database's collation, stable.

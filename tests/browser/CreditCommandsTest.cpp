@@ -117,7 +117,7 @@ TEST_F(CreditCommands, CtrlKeepsTheStoredNames) {
     Show(u"P1"_s);
     CopyCredits(browser, CreditKind::Cast);
     EXPECT_TRUE(Clipboard().contains(u"LastName=\"Stone\""_s));
-    EXPECT_TRUE(Clipboard().contains(u"CreditedAs=\"Mara Hale\""_s));
+    EXPECT_TRUE(Clipboard().contains(u" CreditedAs=\"Mara Hale\" Role="_s)) << "behind the name, before the role";
     services.keyboard.ctrl = true;
     CopyCredits(browser, CreditKind::Cast);
     EXPECT_TRUE(Clipboard().contains(u"LastName=\"Hale\""_s));

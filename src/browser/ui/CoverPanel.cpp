@@ -18,6 +18,8 @@
 
 namespace ostrand {
 
+using namespace Qt::StringLiterals;
+
 CoverPanel::CoverPanel(Browser &browser, QWidget *parent) :
     QWidget(parent), browser_(browser), listSeasons_(new QComboBox(this)), picMedium_(new MediumIcon(this)),
     picCover_(new PictureView(this)), picActor_(new ActorView(browser, this)) {
@@ -46,6 +48,9 @@ CoverPanel::CoverPanel(Browser &browser, QWidget *parent) :
     picCover_->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(picCover_, &QWidget::customContextMenuRequested, this,
             [this](const QPoint &place) { Q_EMIT CoverMenuWanted(picCover_->mapToGlobal(place)); });
+    picMedium_->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(picMedium_, &QWidget::customContextMenuRequested, this,
+            [this](const QPoint &place) { Q_EMIT FieldMenuWanted(u"picMedium"_s, picMedium_->mapToGlobal(place)); });
     for (const auto signal : {&Browser::TitleChanged, &Browser::PageShown, &Browser::SkinChanged, &Browser::ModeChanged,
                               &Browser::SettingsChanged}) {
         connect(&browser_, signal, this, &CoverPanel::ShowMedium);

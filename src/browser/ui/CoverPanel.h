@@ -27,6 +27,8 @@ Q_SIGNALS:
     void SeasonMenuWanted(const QPoint &place);
     /// The same of the cover.
     void CoverMenuWanted(const QPoint &place);
+    /// The same of a control that shows a field of the title.
+    void FieldMenuWanted(const QString &control, const QPoint &place);
     void WantedHeightChanged();
 
 protected:

@@ -7,6 +7,8 @@
 #include "browser/CollectionTypes.h"
 #include "browser/CreditCommands.h"
 #include "browser/Navigation.h"
+#include "browser/PanelFields.h"
+#include "browser/ProfileCommands.h"
 #include "browser/ProfileInfos.h"
 #include "browser/SkinView.h"
 #include "browser/TitleQueries.h"
@@ -160,6 +162,17 @@ constexpr Handler kHandlers[] = {
     {u"mOrderPDateDesc", Sort<4, Order::Descending>},
     {u"mOrderRDateAsc", Sort<5, Order::Ascending>},
     {u"mOrderRDateDesc", Sort<5, Order::Descending>},
+    {u"mRemoveProfileInEdit", Browse<RemoveCurrentProfile>},
+    {u"mRemoveSelected", Browse<RemoveSelectedProfiles>},
+    {u"mMoveSelected", Browse<MoveSelectedProfiles>},
+    {u"mLockSelectedProfiles", Browse<LockSelectedProfiles>},
+    {u"mUnlockSelectedProfiles", Browse<UnlockSelectedProfiles>},
+    {u"mLockProfile", Browse<ToggleProfileLock>},
+    {u"mLockEpisode", Browse<ToggleEpisodeLock>},
+    {u"mLockField", Browse<ToggleFieldLock>},
+    {u"mLockCovers", Browse<ToggleFieldLock>},
+    {u"mChangeField", Browse<ChangeMenuField>},
+    {u"mCopyField", [](frmMain &main) { main.CopyField(); }},
     {u"mAddColType", Browse<AddColType>},
     {u"mRenameCollectionType", Browse<RenameCollectionType>},
     {u"mRemoveColType", Browse<RemoveColType>},
