@@ -29,6 +29,9 @@ public:
     /// Whose appearances the list shows, and whose awards the tree; a name is empty for none.
     QList<Person> appearances_of;
     Person awards_of;
+    /// Whose appearances the list holds; empty while it lists something else, or those of several persons.
+    QString shown_name;
+    QString shown_birth_year;
 
     /// Row of the list that is selected; -1 for none.
     int current_row = -1;
@@ -40,12 +43,16 @@ Q_SIGNALS:
     /// The list has other columns.
     void ColumnsChanged();
     void SortChanged();
+    /// `current_row` is to be selected.
+    void CurrentRowChanged();
     void AwardsChanged();
 };
 
 /// The appearances of a person in the list, whose present rows stay with `keep`. Nothing happens without a name or
 /// with both films and series left out.
 void GetAppearances(Browser &browser, const QString &name, const QString &birth_year, bool keep);
+/// Reads the person's appearances anew, sorted as they are; the selected row stays selected.
+void RefreshAppearances(Browser &browser);
 /// Empties the list; its columns stay.
 void ClearAppearences(Browser &browser);
 /// The episodes on a title's discs in the list; false, and the list stays, when there are none.

@@ -168,6 +168,7 @@ TEST_F(LanguageTest, EveryTextThatIsMetHasATranslation) {
         }
         HeadshotImport import(session);
         const frmComparerTools tools(session, import);
+        EXPECT_NE(tools.windowTitle(), u"Tools"_s);
         Trigger("mMovies");
         for (int tab = 0; tab < 3; ++tab) {
             Control<QTabBar>("tabMain")->setCurrentIndex(tab);

@@ -271,14 +271,18 @@ void frmMain::CopyField() {
 void frmMain::ConnectPeople() {
     connect(middle_->ListCast(), &CreditListView::MenuWanted, this, [this](const QPoint &place) {
         browser.commands.SetChecked(u"mLockCast"_s, AreCreditsLocked(browser, CreditKind::Cast));
+        EnablePersonEntries(browser);
         OpenContextMenu(u"mCastTools"_s, place);
     });
     connect(middle_->FrameCrew(), &CrewFrame::MenuWanted, this, [this](const QPoint &place) {
         browser.commands.SetChecked(u"mLockCrew"_s, AreCreditsLocked(browser, CreditKind::Crew));
+        EnablePersonEntries(browser);
         OpenContextMenu(u"mCrewTools"_s, place);
     });
-    connect(cover_->picActor(), &ActorView::MenuWanted, this,
-            [this](const QPoint &place) { OpenContextMenu(u"mHeadshotTools"_s, place); });
+    connect(cover_->picActor(), &ActorView::MenuWanted, this, [this](const QPoint &place) {
+        EnablePersonEntries(browser);
+        OpenContextMenu(u"mHeadshotTools"_s, place);
+    });
     connect(appearances_, &AppearancesView::MenuWanted, this,
             [this](const QPoint &place) { OpenContextMenu(u"mToolsAppearances"_s, place); });
     connect(appearances_, &AppearancesView::RowActivated, this, [this] { browser.commands.Run(u"mGotoAppearance"_s); });
