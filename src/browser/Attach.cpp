@@ -169,6 +169,7 @@ void TranslateBrowser(Browser &browser) {
     Q_EMIT browser.FilterChanged();
     ShowFilterCount(browser, browser.filter_count);
     RefreshProfileInfos(browser);
+    RefillAppearances(browser);
 }
 
 void AttachBrowser(Browser &browser) {

@@ -128,6 +128,8 @@ Q_SIGNALS:
     void SeasonsChanged();
     void HistoryChanged();
     void ModeChanged();
+    /// Texts are to be shown in another language: windows beside the main one, which has done so, give theirs anew.
+    void LanguageChanged();
     /// Fonts, tool bar, grid lines: what the settings tell.
     void SettingsChanged();
 };

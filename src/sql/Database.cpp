@@ -189,7 +189,15 @@ std::unique_ptr<Recordset::Data> Database::Impl::Collect(const Compiled &compile
     data->cells.reserve(size_t(expected_rows) * size_t(data->columns));
     while (statement.Step()) {
         for (int i = 0; i < data->columns; ++i) {
-            data->cells.push_back(statement.Column(i));
+            Value value = statement.Column(i);
+            if (data->rows > 0 && value.GetType() == Value::Type::Text) {
+                // Rows of a join repeat their texts, which then need no memory of their own.
+                const Value &above = data->cells[data->cells.size() - size_t(data->columns)];
+                if (value == above) {
+                    value = above;
+                }
+            }
+            data->cells.push_back(std::move(value));
         }
         if (row_ids) {
             data->row_ids.push_back(statement.ColumnInteger(data->columns));

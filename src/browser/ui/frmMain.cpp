@@ -315,6 +315,7 @@ void frmMain::SetWindowHooks() {
         MenuStrings(browser.session, browser.commands);
         TranslateBrowser(browser);
         TranslateNames();
+        Q_EMIT browser.LanguageChanged();
     };
     session.window.ShowAuditMenus = [this] {
         ostrand::ShowAuditMenus(browser.commands, browser.session.audit.menus_shown);
@@ -457,6 +458,8 @@ void frmMain::ShowListView(std::unique_ptr<ListTable> table) {
         Guarded(browser.session,
                 [&] { kind == ListRowKind::Episode ? ShowEpisode(browser, key) : ShowMovie(browser, key); });
     };
+    connect(&browser, &Browser::LanguageChanged, window,
+            [this, window] { Guarded(browser.session, [&] { window->ShowAgain(); }); });
     window->show();
     window->raise();
 }
