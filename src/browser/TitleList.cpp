@@ -24,10 +24,14 @@ quint64 StartOf(const QByteArray &key) {
     return qFromBigEndian(start);
 }
 
+bool IsOfTitle(const TitleRow &row, const QString &id) {
+    return !row.header && QStringView(row.key).left(row.key.indexOf(u'|')).compare(id, Qt::CaseInsensitive) == 0;
+}
+
 } // namespace
 
 int TitleList::rowCount(const QModelIndex &parent) const {
-    return parent.isValid() ? 0 : int(rows_.size());
+    return parent.isValid() ? 0 : int(shown_.size());
 }
 
 int TitleList::columnCount(const QModelIndex &parent) const {
@@ -92,8 +96,80 @@ int TitleList::Assign(std::vector<TitleRow> rows) {
     if (sorted_) {
         SortRows();
     }
+    shown_ = Passing();
     endResetModel();
     return int(clashes);
+}
+
+bool TitleList::Narrow() {
+    std::vector<int> shown = Passing();
+    if (shown == shown_) {
+        return false;
+    }
+    beginResetModel();
+    shown_ = std::move(shown);
+    endResetModel();
+    return true;
+}
+
+std::vector<TitleRow> TitleList::Rows() const {
+    std::vector<TitleRow> rows;
+    rows.reserve(shown_.size());
+    for (const int row : shown_) {
+        rows.push_back(rows_[size_t(row)]);
+    }
+    return rows;
+}
+
+std::vector<int> TitleList::Parents() const {
+    QHash<QStringView, int> places;
+    places.reserve(qsizetype(rows_.size()));
+    for (const TitleRow &row : rows_) {
+        places.insert(row.key, int(places.size()));
+    }
+    std::vector<int> parents;
+    parents.reserve(rows_.size());
+    for (const TitleRow &row : rows_) {
+        parents.push_back(row.parent_key.isEmpty() ? -1 : places.value(row.parent_key, -1));
+    }
+    return parents;
+}
+
+std::vector<int> TitleList::Passing() const {
+    std::vector<int> shown;
+    const RowTest test = make_test_ ? make_test_() : RowTest();
+    if (!test) {
+        shown.resize(rows_.size());
+        std::iota(shown.begin(), shown.end(), 0);
+        return shown;
+    }
+    const bool flat =
+        std::all_of(rows_.begin(), rows_.end(), [](const TitleRow &row) { return row.parent_key.isEmpty(); });
+    const std::vector<int> parents = flat ? std::vector<int>(rows_.size(), -1) : Parents();
+    std::vector<bool> passes(rows_.size());
+    for (size_t i = 0; i < rows_.size(); ++i) {
+        if (rows_[i].header || !test(rows_[i])) {
+            continue;
+        }
+        for (int row = int(i); row >= 0 && !passes[size_t(row)]; row = parents[size_t(row)]) {
+            passes[size_t(row)] = true;
+        }
+    }
+    for (size_t i = 0; i < rows_.size(); ++i) {
+        if (passes[i]) {
+            shown.push_back(int(i));
+        }
+    }
+    return shown;
+}
+
+bool TitleList::HoldsHidden(const QString &id) const {
+    return shown_.size() < rows_.size() &&
+           std::any_of(rows_.begin(), rows_.end(), [&id](const TitleRow &row) { return IsOfTitle(row, id); });
+}
+
+int TitleList::TitleCount() const {
+    return int(std::count_if(shown_.begin(), shown_.end(), [this](int row) { return !rows_[size_t(row)].header; }));
 }
 
 void TitleList::Clear() {
@@ -106,12 +182,21 @@ void TitleList::SortBy(int column, Order order) {
     sort_order_ = order;
     Q_EMIT layoutAboutToBeChanged({}, VerticalSortHint);
     const std::vector<int> new_places = SortRows();
+    std::vector<int> shown;
+    shown.reserve(shown_.size());
+    for (const int row : shown_) {
+        shown.push_back(new_places[size_t(row)]);
+    }
+    std::sort(shown.begin(), shown.end());
     const QModelIndexList before = persistentIndexList();
     QModelIndexList after;
     after.reserve(before.size());
     for (const QModelIndex &index : before) {
-        after.append(createIndex(new_places[size_t(index.row())], index.column()));
+        const int row = new_places[size_t(shown_[size_t(index.row())])];
+        const auto place = std::lower_bound(shown.begin(), shown.end(), row);
+        after.append(createIndex(int(place - shown.begin()), index.column()));
     }
+    shown_ = std::move(shown);
     changePersistentIndexList(before, after);
     Q_EMIT layoutChanged({}, VerticalSortHint);
 }
@@ -165,7 +250,7 @@ std::vector<int> TitleList::SortRows() {
 
 void TitleList::SetStriping(Striping striping) {
     // A view looks at every row for this.
-    if (std::exchange(striping_, striping) != striping && !rows_.empty()) {
+    if (std::exchange(striping_, striping) != striping && !shown_.empty()) {
         Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, kTitleColumns - 1), {ColourRole});
     }
 }
@@ -178,18 +263,19 @@ void TitleList::SetWidth(int column, double fraction) {
 }
 
 int TitleList::RowOfKey(const QString &key) const {
-    const auto row = std::find_if(rows_.begin(), rows_.end(), [&key](const TitleRow &candidate) {
-        return candidate.key.size() == key.size() && candidate.key.compare(key, Qt::CaseInsensitive) == 0;
+    return FirstShown([&key](const TitleRow &row) {
+        return row.key.size() == key.size() && row.key.compare(key, Qt::CaseInsensitive) == 0;
     });
-    return row == rows_.end() ? -1 : int(row - rows_.begin());
 }
 
 int TitleList::RowOfTitle(const QString &id) const {
-    const auto row = std::find_if(rows_.begin(), rows_.end(), [&id](const TitleRow &candidate) {
-        return !candidate.header &&
-               QStringView(candidate.key).left(candidate.key.indexOf(u'|')).compare(id, Qt::CaseInsensitive) == 0;
-    });
-    return row == rows_.end() ? -1 : int(row - rows_.begin());
+    return FirstShown([&id](const TitleRow &row) { return IsOfTitle(row, id); });
+}
+
+int TitleList::FirstShown(const RowTest &test) const {
+    const auto row =
+        std::find_if(shown_.begin(), shown_.end(), [&](int candidate) { return test(rows_[size_t(candidate)]); });
+    return row == shown_.end() ? -1 : int(row - shown_.begin());
 }
 
 QString ProfileOfKey(const QString &key) {

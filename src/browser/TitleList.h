@@ -3,6 +3,8 @@
 
 #include <QAbstractTableModel>
 
+#include <functional>
+
 namespace ostrand {
 
 inline constexpr int kTitleColumns = 6;
@@ -10,6 +12,8 @@ inline constexpr int kTitleColumns = 6;
 /// One row of the list. `header` rows stand above a group of titles and are no titles themselves.
 struct TitleRow {
     QString key; ///< a ProfileID, behind which "|" and a number may stand
+    /// The key of the row that this one stands below: the header of its group, the boxset that it is a child of.
+    QString parent_key;
     QString tag;
     QString tool_tip;
     std::array<QString, kTitleColumns> texts;
@@ -17,6 +21,8 @@ struct TitleRow {
 };
 
 /// The item model of listSeries. Keys are unique without regard to case.
+///
+/// The list may be narrowed to a part of its rows; all members but Assign and the sorts know those alone then.
 class TitleList : public QAbstractTableModel {
     Q_OBJECT
 public:
@@ -44,7 +50,19 @@ public:
     /// is left out; returns how many were.
     int Assign(std::vector<TitleRow> rows);
     void Clear();
-    const std::vector<TitleRow> &Rows() const { return rows_; }
+
+    using RowTest = std::function<bool(const TitleRow &)>;
+    /// What makes the test for the rows that are shown whenever there are other ones, and at Narrow. Rows above one
+    /// that passes are shown too; headers are not asked. No test shows all.
+    void SetRowFilter(std::function<RowTest()> make_test) { make_test_ = std::move(make_test); }
+    /// Asks the filter again; false where the same rows are shown as before.
+    bool Narrow();
+    /// The rows that are shown, as copies.
+    std::vector<TitleRow> Rows() const;
+    /// A row of this profile or series is there and is not shown.
+    bool HoldsHidden(const QString &id) const;
+    /// The rows that are no headers.
+    int TitleCount() const;
 
     /// Turns the automatic sort on and sorts: a text comparison of the column in the database's collation, stable.
     void SortBy(int column, Order order);
@@ -65,7 +83,7 @@ public:
     int RowOfKey(const QString &key) const;
     /// The first row of a profile or series, whatever stands behind "|" in its key; -1 when there is none.
     int RowOfTitle(const QString &id) const;
-    const TitleRow &At(int row) const { return rows_[size_t(row)]; }
+    const TitleRow &At(int row) const { return rows_[size_t(shown_[size_t(row)])]; }
 
 Q_SIGNALS:
     void WidthsChanged();
@@ -74,10 +92,17 @@ private:
     Colour ColourOf(int row) const;
     /// The sort keys of the rows by the column that sorts, in their order.
     const std::vector<QByteArray> &SortKeys();
-    /// Orders the rows; returns where each one went.
+    /// Orders all rows; returns where each one went.
     std::vector<int> SortRows();
+    /// By row, the one that it stands below; -1 for none.
+    std::vector<int> Parents() const;
+    /// The rows that the filter lets through, and those above them.
+    std::vector<int> Passing() const;
+    int FirstShown(const RowTest &test) const;
 
-    std::vector<TitleRow> rows_;
+    std::vector<TitleRow> rows_; ///< all of them
+    std::vector<int> shown_;     ///< those that are shown, in their order
+    std::function<RowTest()> make_test_;
     std::vector<QByteArray> sort_keys_; ///< of `keyed_column_`, kept since a list is often sorted again the other way
     int keyed_column_ = -1;
     QStringList headers_;

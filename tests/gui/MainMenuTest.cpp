@@ -363,8 +363,8 @@ TEST_F(MainMenu, TheTabKeyWalksFromLeftToRight) {
             << qPrintable(stops.join(u' '));
         ASSERT_GE(first_bar, lists.size());
         EXPECT_EQ(stops.sliced(stops.lastIndexOf(u"SplitBar"_s) + 1),
-                  movies ? QStringList({u"SQL"_s, u"ChangeMode"_s, u"tabColList"_s, u"comboFilter"_s})
-                         : QStringList({u"SQL"_s, u"ChangeMode"_s, u"tabColList"_s}));
+                  movies ? QStringList({u"SQL"_s, u"ChangeMode"_s, u"tabColList"_s, u"comboFilter"_s, u"textFind"_s})
+                         : QStringList({u"SQL"_s, u"ChangeMode"_s, u"tabColList"_s, u"textFind"_s}));
         EXPECT_FALSE(stops.contains(u"ScrollRightButton"_s));
     }
 }

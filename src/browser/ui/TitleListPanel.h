@@ -9,6 +9,7 @@
 namespace ostrand {
 
 class Browser;
+class FindEdit;
 
 /// The box of saved filters; tells when its list is about to open.
 class FilterBox : public QComboBox {
@@ -21,7 +22,7 @@ Q_SIGNALS:
     void AboutToOpen();
 };
 
-/// Frame1_1. The tabs of collection types, the filter box, listSeries and the count of what is shown.
+/// Frame1_1. The tabs of collection types, the filter box, the find box, listSeries and the count of what is shown.
 class TitleListPanel : public QWidget {
     Q_OBJECT
 public:
@@ -40,12 +41,15 @@ Q_SIGNALS:
 private:
     void MakeTabs();
     void MakeFilterBox();
+    void MakeFindBox();
+    void GoIntoList();
     void ShowTabs();
     void ShowFilters();
 
     Browser &browser_;
     QTabBar *tabColList_;
     FilterBox *comboFilter_;
+    FindEdit *textFind_;
     TitleListView *listSeries_;
     QLabel *labelFilterCount_;
     bool following_ = false;

@@ -151,7 +151,7 @@ void frmMain::OrderTabs() {
         stops.append(toolMain_->findChild<QToolButton *>(action->objectName()));
     }
     for (const char16_t *name :
-         {u"tabColList",   u"comboFilter",  u"listSeries",    u"listSeasons",     u"picCover",
+         {u"tabColList",   u"comboFilter",  u"textFind",     u"listSeries",    u"listSeasons",     u"picCover",
           u"picActor",     u"listEpisodes", u"tabMain",       u"ListCast",        u"ListCrew",
           u"treeCrew",     u"UPC",          u"urlIMDB",       u"listGenres",      u"listStudios",
           u"listFeatures", u"listAudio",    u"listSubtitles", u"listAppearences", u"treeAwards"}) {
