@@ -112,7 +112,6 @@ bool FindBox::Step() {
         index_ = std::make_unique<FindIndex>(reader_->TakeIndex());
         reader_.reset();
     }
-    // A turn of its own while the index grows.
     if (IsOn() && (!more || (!index_ && since_narrowed_.elapsed() > kNarrowEvery))) {
         Narrow();
     }

@@ -211,6 +211,7 @@ TEST_F(FindBoxTest, FollowsWhatChanges) {
     };
     for (const Case &row : cases) {
         Run(row.statement);
+        browser.find.Clear();
         EXPECT_EQ(Find(row.typed), row.keys) << qPrintable(QString::fromUtf16(row.statement));
     }
     // The same text, and nobody types.

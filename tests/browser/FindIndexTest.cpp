@@ -115,7 +115,7 @@ TEST_F(FindIndexReaderTest, ReadsTitlesAndPersonsOfProfiles) {
     AddProfile(u"C"_s, u"Title = 'Cedar'"_s);
     AddCredit(u"A"_s, u"Anna Marsh"_s);
     AddCredit(u"a"_s, u"Otto Fell"_s); // ids do without case
-    AddCredit(u"C"_s, u"Chapter One"_s, u"EpDiv"_s);
+    AddCredit(u"C"_s, u"Chapter One"_s, u"EDiv"_s);
     AddCredit(u"Gone"_s, u"Nobody"_s);
     Run(u"INSERT INTO Alias (AliasName, CommonName, BirthYear) VALUES ('A. Marsh', 'Anna Marsh', 0)");
     Run(u"INSERT INTO Episodes (EpisodeID, SeriesID, EpisodeTitle, EpisodeOriginalTitle) VALUES ('E1', 'S', 'Arrival', "
