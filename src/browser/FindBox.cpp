@@ -29,7 +29,8 @@ QString ShownTitle(const Session &session) {
 } // namespace
 
 FindBox::FindBox(Browser &browser) : browser_(browser) {
-    browser.listSeries.SetRowFilter([this] { return MakeTest(); });
+    browser.listSeries.SetRowFilter(
+        [this](const std::vector<TitleRow> &rows, int order) { return Matching(rows, order); });
 }
 
 FindBox::~FindBox() = default;
@@ -76,6 +77,7 @@ void FindBox::FollowDatabase() {
     const FindOwners owners = OwnersOf(session.view);
     if (!session.Database || (index_ && (index_owners_ != owners || index_watch_.IsOver()))) {
         index_.reset();
+        ++index_number_;
     }
     if (!session.Database || (index_ && !index_watch_.Changed())) {
         reader_.reset();
@@ -83,6 +85,7 @@ void FindBox::FollowDatabase() {
     }
     if (!reader_ || reader_->Owners() != owners || reader_->Watch().Changed()) {
         reader_ = std::make_unique<FindIndexReader>(session, owners);
+        ++index_number_;
         Q_EMIT WorkWanted();
     }
 }
@@ -110,6 +113,7 @@ bool FindBox::Step() {
         index_owners_ = reader_->Owners();
         index_watch_ = reader_->Watch();
         index_ = std::make_unique<FindIndex>(reader_->TakeIndex());
+        ++index_number_;
         reader_.reset();
     }
     if (IsOn() && (!more || (!index_ && since_narrowed_.elapsed() > kNarrowEvery))) {
@@ -118,48 +122,61 @@ bool FindBox::Step() {
     return reader_ != nullptr;
 }
 
-std::function<bool(const TitleRow &)> FindBox::MakeTest() {
+std::vector<bool> FindBox::Matching(const std::vector<TitleRow> &rows, int order) {
     if (!IsOn()) {
         return {};
     }
     FollowDatabase();
-    const FindIndex *index = Index();
-    if (!index) {
-        return [](const TitleRow &) { return false; };
+    std::vector<bool> passes(rows.size());
+    if (const FindIndex *index = Index()) {
+        const std::vector<int> &owners = OwnersOfRows(*index, rows, order);
+        const std::vector<bool> matching = index->Matching(words_);
+        for (size_t i = 0; i < rows.size(); ++i) {
+            passes[i] = owners[i] >= 0 && matching[size_t(owners[i])];
+        }
     }
-    return [index, matching = index->Matching(words_)](const TitleRow &row) {
-        const int owner = index->OwnerOf(ProfileOfKey(row.key));
-        return owner >= 0 && matching[size_t(owner)];
-    };
+    return passes;
+}
+
+const std::vector<int> &FindBox::OwnersOfRows(const FindIndex &index, const std::vector<TitleRow> &rows, int order) {
+    const std::tuple asked(index_number_, index.OwnerCount(), order);
+    if (std::exchange(owners_for_, asked) != asked) {
+        row_owners_.clear();
+        for (const TitleRow &row : rows) {
+            row_owners_.push_back(row.header ? -1 : index.OwnerOf(ProfileOfKey(row.key)));
+        }
+    }
+    return row_owners_;
 }
 
 void FindBox::Narrow() {
     TitleList &list = browser_.listSeries;
-    const int row = browser_.current_row;
-    const QString key = row >= 0 && row < list.rowCount() ? list.At(row).key : hidden_key_;
+    const int number = list.NumberOf(browser_.current_row);
+    const QString key = number >= 0 ? list.At(browser_.current_row).key : hidden_key_;
     since_narrowed_.start();
     if (list.Narrow()) {
-        ShowRow(key);
+        const int row = number >= 0 ? list.RowOfNumber(number) : key.isEmpty() ? -1 : list.RowOfKey(key);
+        hidden_key_ = row < 0 ? key : QString();
+        browser_.current_row = row;
+        Q_EMIT browser_.CurrentRowChanged();
+        if (!IsOn()) {
+            Restore();
+        }
     }
     ShowFilterCount(browser_, list.TitleCount());
 }
 
-/// Makes the row of a key current again without reading its title anew, if the list shows it.
-void FindBox::ShowRow(const QString &key) {
-    const TitleList &list = browser_.listSeries;
+/// The whole list is shown again. It may be another one than that in which the title was current.
+void FindBox::Restore() {
+    TitleList &list = browser_.listSeries;
+    const bool was_hidden = !std::exchange(hidden_key_, QString()).isEmpty();
     const QString shown = ShownTitle(browser_.session);
-    int row = key.isEmpty() ? -1 : list.RowOfKey(key);
-    if (row < 0 && !shown.isEmpty()) {
-        row = list.RowOfTitle(shown);
+    if (browser_.current_row < 0 && !shown.isEmpty()) {
+        browser_.current_row = list.RowOfTitle(shown);
+        Q_EMIT browser_.CurrentRowChanged();
     }
-    hidden_key_ = row < 0 ? key : QString();
-    browser_.current_row = row;
-    Q_EMIT browser_.CurrentRowChanged();
-    if (IsOn()) {
-        return; // what is typed does not turn the page
-    }
-    // The list may be another one than that in which the title was current.
-    if (row < 0 && (!key.isEmpty() || shown.isEmpty())) {
+    const int row = browser_.current_row;
+    if (row < 0 && (was_hidden || shown.isEmpty())) {
         ShowFirstTitle(browser_);
     } else if (row >= 0 && shown.isEmpty() && !list.At(row).header) {
         UpdateSeriesList(browser_, row);

@@ -6,6 +6,8 @@
 #include <QElapsedTimer>
 #include <QObject>
 
+#include <tuple>
+
 namespace ostrand {
 
 class Browser;
@@ -53,10 +55,13 @@ Q_SIGNALS:
     void WorkWanted();
 
 private:
-    std::function<bool(const TitleRow &)> MakeTest();
+    /// By row, whether it has the words; empty while the box is off.
+    std::vector<bool> Matching(const std::vector<TitleRow> &rows, int order);
+    /// By row, its owner in the index, -1 without one.
+    const std::vector<int> &OwnersOfRows(const FindIndex &index, const std::vector<TitleRow> &rows, int order);
     void FollowDatabase();
     void Narrow();
-    void ShowRow(const QString &key);
+    void Restore();
 
     Browser &browser_;
     QString text_;
@@ -66,6 +71,10 @@ private:
     FindOwners index_owners_ = FindOwners::Profiles;
     sql::TableWatch index_watch_;
     std::unique_ptr<FindIndexReader> reader_;
+    std::vector<int> row_owners_;
+    int index_number_ = 0; ///< rises with each index
+    /// What the owners of the rows are for: the number and size of the index, the order of the rows.
+    std::tuple<int, int, int> owners_for_;
     QElapsedTimer since_narrowed_;
 };
 

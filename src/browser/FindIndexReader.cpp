@@ -12,6 +12,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
+constexpr int kRowsAtOnce = 2000; // of a statement for all works
 constexpr size_t kTitlesAtOnce = 250;
 constexpr size_t kMostWorksAtOnce = 64;
 constexpr qint64 kLongStep = 8; // milliseconds
@@ -63,12 +64,14 @@ FindIndexReader::FindIndexReader(Session &session, FindOwners owners) :
 bool FindIndexReader::Step() {
     switch (phase_) {
     case Phase::Links:
-        ReadLinks();
-        phase_ = Phase::Works;
+        if (!ReadLinks()) {
+            phase_ = Phase::Works;
+        }
         break;
     case Phase::Works:
-        ReadWorks();
-        phase_ = works_.empty() ? Phase::Done : Phase::Titles;
+        if (!ReadWorks()) {
+            phase_ = works_.empty() ? Phase::Done : Phase::Titles;
+        }
         break;
     case Phase::Titles:
         ReadTitles();
@@ -88,33 +91,49 @@ FindIndex FindIndexReader::TakeIndex() {
     return std::move(index_);
 }
 
-void FindIndexReader::ReadLinks() {
-    sql::Recordset links = session_.Database->OpenRecordset(u"SELECT AliasName, CommonName, BirthYear FROM Alias");
-    for (; !links.Eof(); links.MoveNext()) {
-        index_.AddLink(links.Text(0), links.Text(1), int(links.Get(2).Integer()));
+/// Runs a statement at the first call, and hands over some of its rows at each; false when these were the last.
+template <typename Take>
+bool FindIndexReader::ForSomeRows(const char16_t *statement, Take take) {
+    if (!rows_) {
+        rows_ = session_.Database->OpenRecordset(QString::fromUtf16(statement));
+        return true;
+    }
+    for (int i = 0; i < kRowsAtOnce && !rows_->Eof(); ++i, rows_->MoveNext()) {
+        take(*rows_);
+    }
+    if (rows_->Eof()) {
+        rows_.reset();
+    }
+    return rows_.has_value();
+}
+
+bool FindIndexReader::ReadLinks() {
+    return ForSomeRows(u"SELECT AliasName, CommonName, BirthYear FROM Alias", [this](const sql::Recordset &row) {
+        index_.AddLink(row.Text(0), row.Text(1), int(row.Get(2).Integer()));
+    });
+}
+
+void FindIndexReader::ReadSeries() {
+    sql::Recordset rows = session_.Database->OpenRecordset(u"SELECT SeriesID, Title, OriginalTitle FROM TVSeries");
+    for (; !rows.Eof(); rows.MoveNext()) {
+        const int owner = index_.AddOwner(rows.Text(0));
+        index_.AddTitle(owner, rows.Text(1));
+        index_.AddTitle(owner, rows.Text(2));
+        series_.insert(sql::SortKey(rows.Text(0)), owner);
     }
 }
 
-void FindIndexReader::ReadWorks() {
-    QHash<QByteArray, int> series;
-    if (owners_ == FindOwners::Series) {
-        sql::Recordset rows = session_.Database->OpenRecordset(u"SELECT SeriesID, Title, OriginalTitle FROM TVSeries");
-        for (; !rows.Eof(); rows.MoveNext()) {
-            const int owner = index_.AddOwner(rows.Text(0));
-            index_.AddTitle(owner, rows.Text(1));
-            index_.AddTitle(owner, rows.Text(2));
-            series.insert(sql::SortKey(rows.Text(0)), owner);
-        }
+bool FindIndexReader::ReadWorks() {
+    if (owners_ == FindOwners::Series && series_.isEmpty()) {
+        ReadSeries();
     }
-    sql::Recordset rows = session_.Database->OpenRecordset(statements_.works);
-    works_.reserve(size_t(rows.RecordCount()));
-    for (; !rows.Eof(); rows.MoveNext()) {
-        const int owner = owners_ == FindOwners::Profiles ? index_.AddOwner(rows.Text(0))
-                                                          : series.value(sql::SortKey(rows.Text(1)), -1);
+    return ForSomeRows(statements_.works, [this](const sql::Recordset &row) {
+        const int owner = owners_ == FindOwners::Profiles ? index_.AddOwner(row.Text(0))
+                                                          : series_.value(sql::SortKey(row.Text(1)), -1);
         if (owner >= 0) {
-            works_.push_back({rows.Text(0), owner});
+            works_.push_back({row.Text(0), owner});
         }
-    }
+    });
 }
 
 /// Runs a statement for the next works, and hands over its rows with the work that each belongs to. Both come in the

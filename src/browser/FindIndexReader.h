@@ -2,14 +2,12 @@
 #pragma once
 
 #include "browser/FindIndex.h"
+#include "sql/Recordset.h"
 #include "sql/TableWatch.h"
 
 namespace ostrand {
 
 struct Session;
-namespace sql {
-class Recordset;
-}
 
 /// What the list holds that an index is made for.
 enum class FindOwners { Profiles, Series };
@@ -39,9 +37,11 @@ private:
         int owner;
     };
 
-    void ReadLinks();
+    bool ReadLinks();
     void ReadSeries();
-    void ReadWorks();
+    bool ReadWorks();
+    template <typename Take>
+    bool ForSomeRows(const char16_t *statement, Take take);
     void ReadTitles();
     void ReadCredits();
     template <typename Take>
@@ -54,8 +54,10 @@ private:
     sql::TableWatch watch_;
     FindIndex index_;
     Phase phase_ = Phase::Links;
-    std::vector<Work> works_; ///< in the order of the database
-    size_t next_ = 0;         ///< the work that the phase reads next
+    std::optional<sql::Recordset> rows_; ///< of a statement for all works, while they are worked off
+    QHash<QByteArray, int> series_;      ///< owners by the sort keys of their ids
+    std::vector<Work> works_;            ///< in the order of the database
+    size_t next_ = 0;                    ///< the work that the phase reads next
     size_t works_at_once_;
 };
 

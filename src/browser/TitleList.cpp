@@ -93,6 +93,7 @@ int TitleList::Assign(std::vector<TitleRow> rows) {
     beginResetModel();
     rows_ = std::move(rows);
     keyed_column_ = -1;
+    ++order_;
     if (sorted_) {
         SortRows();
     }
@@ -121,37 +122,41 @@ std::vector<TitleRow> TitleList::Rows() const {
     return rows;
 }
 
-std::vector<int> TitleList::Parents() const {
+const std::vector<int> &TitleList::Parents() {
+    if (std::exchange(parents_order_, order_) == order_) {
+        return parents_;
+    }
+    parents_.assign(rows_.size(), -1);
+    if (std::all_of(rows_.begin(), rows_.end(), [](const TitleRow &row) { return row.parent_key.isEmpty(); })) {
+        return parents_;
+    }
     QHash<QStringView, int> places;
     places.reserve(qsizetype(rows_.size()));
     for (const TitleRow &row : rows_) {
         places.insert(row.key, int(places.size()));
     }
-    std::vector<int> parents;
-    parents.reserve(rows_.size());
-    for (const TitleRow &row : rows_) {
-        parents.push_back(row.parent_key.isEmpty() ? -1 : places.value(row.parent_key, -1));
+    for (size_t i = 0; i < rows_.size(); ++i) {
+        if (!rows_[i].parent_key.isEmpty()) {
+            parents_[i] = places.value(rows_[i].parent_key, -1);
+        }
     }
-    return parents;
+    return parents_;
 }
 
-std::vector<int> TitleList::Passing() const {
+std::vector<int> TitleList::Passing() {
     std::vector<int> shown;
-    const RowTest test = make_test_ ? make_test_() : RowTest();
-    if (!test) {
+    std::vector<bool> passes = filter_ ? filter_(rows_, order_) : std::vector<bool>();
+    if (passes.empty()) {
         shown.resize(rows_.size());
         std::iota(shown.begin(), shown.end(), 0);
         return shown;
     }
-    const bool flat =
-        std::all_of(rows_.begin(), rows_.end(), [](const TitleRow &row) { return row.parent_key.isEmpty(); });
-    const std::vector<int> parents = flat ? std::vector<int>(rows_.size(), -1) : Parents();
-    std::vector<bool> passes(rows_.size());
     for (size_t i = 0; i < rows_.size(); ++i) {
-        if (rows_[i].header || !test(rows_[i])) {
-            continue;
-        }
-        for (int row = int(i); row >= 0 && !passes[size_t(row)]; row = parents[size_t(row)]) {
+        passes[i] = passes[i] && !rows_[i].header;
+    }
+    const std::vector<int> &parents = Parents();
+    for (size_t i = 0; i < rows_.size(); ++i) {
+        for (int row = passes[i] ? parents[i] : -1; row >= 0 && !passes[size_t(row)]; row = parents[size_t(row)]) {
             passes[size_t(row)] = true;
         }
     }
@@ -161,6 +166,11 @@ std::vector<int> TitleList::Passing() const {
         }
     }
     return shown;
+}
+
+int TitleList::RowOfNumber(int number) const {
+    const auto row = std::lower_bound(shown_.begin(), shown_.end(), number);
+    return row == shown_.end() || *row != number ? -1 : int(row - shown_.begin());
 }
 
 bool TitleList::HoldsHidden(const QString &id) const {
@@ -243,6 +253,7 @@ std::vector<int> TitleList::SortRows() {
         sorted.push_back(std::move(rows_[size_t(entry.row)]));
         sorted_keys.push_back(std::move(sort_keys_[size_t(entry.row)]));
     }
+    ++order_;
     rows_ = std::move(sorted);
     sort_keys_ = std::move(sorted_keys);
     return new_places;
@@ -262,6 +273,13 @@ void TitleList::SetWidth(int column, double fraction) {
     }
 }
 
+template <typename Test>
+int TitleList::FirstShown(Test test) const {
+    const auto row =
+        std::find_if(shown_.begin(), shown_.end(), [&](int candidate) { return test(rows_[size_t(candidate)]); });
+    return row == shown_.end() ? -1 : int(row - shown_.begin());
+}
+
 int TitleList::RowOfKey(const QString &key) const {
     return FirstShown([&key](const TitleRow &row) {
         return row.key.size() == key.size() && row.key.compare(key, Qt::CaseInsensitive) == 0;
@@ -270,12 +288,6 @@ int TitleList::RowOfKey(const QString &key) const {
 
 int TitleList::RowOfTitle(const QString &id) const {
     return FirstShown([&id](const TitleRow &row) { return IsOfTitle(row, id); });
-}
-
-int TitleList::FirstShown(const RowTest &test) const {
-    const auto row =
-        std::find_if(shown_.begin(), shown_.end(), [&](int candidate) { return test(rows_[size_t(candidate)]); });
-    return row == shown_.end() ? -1 : int(row - shown_.begin());
 }
 
 QString ProfileOfKey(const QString &key) {

@@ -51,12 +51,16 @@ public:
     int Assign(std::vector<TitleRow> rows);
     void Clear();
 
-    using RowTest = std::function<bool(const TitleRow &)>;
-    /// What makes the test for the rows that are shown whenever there are other ones, and at Narrow. Rows above one
-    /// that passes are shown too; headers are not asked. No test shows all.
-    void SetRowFilter(std::function<RowTest()> make_test) { make_test_ = std::move(make_test); }
+    /// By row of all that are there, whether it is to be shown; empty for all of them. Asked whenever there are other
+    /// rows, and at Narrow. Rows above one that is shown are so too, and headers not by themselves. `order` is another
+    /// number when these are other rows than at the call before, or in another order.
+    using RowFilter = std::function<std::vector<bool>(const std::vector<TitleRow> &rows, int order)>;
+    void SetRowFilter(RowFilter filter) { filter_ = std::move(filter); }
     /// Asks the filter again; false where the same rows are shown as before.
     bool Narrow();
+    /// The number of a shown row among all that are there, which Narrow does not change; -1 for none. And back.
+    int NumberOf(int row) const { return row < 0 || row >= rowCount() ? -1 : shown_[size_t(row)]; }
+    int RowOfNumber(int number) const;
     /// The rows that are shown, as copies.
     std::vector<TitleRow> Rows() const;
     /// A row of this profile or series is there and is not shown.
@@ -95,14 +99,18 @@ private:
     /// Orders all rows; returns where each one went.
     std::vector<int> SortRows();
     /// By row, the one that it stands below; -1 for none.
-    std::vector<int> Parents() const;
+    const std::vector<int> &Parents();
     /// The rows that the filter lets through, and those above them.
-    std::vector<int> Passing() const;
-    int FirstShown(const RowTest &test) const;
+    std::vector<int> Passing();
+    template <typename Test>
+    int FirstShown(Test test) const;
 
     std::vector<TitleRow> rows_; ///< all of them
     std::vector<int> shown_;     ///< those that are shown, in their order
-    std::function<RowTest()> make_test_;
+    RowFilter filter_;
+    int order_ = 0;
+    std::vector<int> parents_; ///< see Parents; made for `parents_order_`
+    int parents_order_ = -1;
     std::vector<QByteArray> sort_keys_; ///< of `keyed_column_`, kept since a list is often sorted again the other way
     int keyed_column_ = -1;
     QStringList headers_;
