@@ -3,20 +3,20 @@
 
 #include "sql/Database.h"
 
-#include <QElapsedTimer>
 #include <QStringList>
 
 #include <algorithm>
+#include <ctime>
 #include <functional>
 #include <limits>
 
 namespace ostrand::bench {
 
+/// Milliseconds of the processor: what else the machine does counts not.
 inline double Milliseconds(const std::function<void()> &work) {
-    QElapsedTimer clock;
-    clock.start();
+    const std::clock_t start = std::clock();
     work();
-    return double(clock.nsecsElapsed()) / 1e6;
+    return double(std::clock() - start) * 1000 / CLOCKS_PER_SEC;
 }
 
 /// Those that `work` sends, in their order.
@@ -42,8 +42,7 @@ struct WorkTimes {
     qsizetype statement_count = 0;
 };
 
-/// The quickest of some rounds of the work and of its statements alone, by turns, so that what else the machine does
-/// meets both.
+/// The quickest of some rounds of the work and of its statements alone, by turns.
 inline WorkTimes MeasureWork(sql::Database &database, int rounds, const std::function<void()> &work) {
     WorkTimes times;
     const QStringList statements = StatementsOf(database, work);

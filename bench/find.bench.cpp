@@ -17,7 +17,6 @@
 #include <QTemporaryDir>
 
 #include <cstdio>
-#include <ctime>
 
 namespace ostrand::bench {
 
@@ -28,13 +27,6 @@ using namespace Qt::StringLiterals;
 constexpr double kGoalOfKey = 50;  // milliseconds
 constexpr double kGoalOfTurn = 50; // milliseconds
 constexpr int kAliases = 20'000;
-
-/// Of the processor: what else the machine does counts not.
-double ProcessorMilliseconds(const std::function<void()> &work) {
-    const std::clock_t start = std::clock();
-    work();
-    return double(std::clock() - start) * 1000 / CLOCKS_PER_SEC;
-}
 
 /// Every fifth person has another spelling.
 void AddAliases(sql::Database &database, int people) {
@@ -55,7 +47,7 @@ struct Turns {
 Turns Build(FindBox &find) {
     Turns turns;
     for (bool more = true; more; ++turns.count) {
-        const double turn = ProcessorMilliseconds([&] { more = find.Step(); });
+        const double turn = Milliseconds([&] { more = find.Step(); });
         turns.all += turn;
         turns.longest = std::max(turns.longest, turn);
     }
@@ -71,7 +63,7 @@ struct Keys {
 Keys Type(Browser &browser, const QString &text) {
     Keys keys;
     const auto press = [&](const QString &typed) {
-        const double time = ProcessorMilliseconds([&] { browser.find.SetText(typed); });
+        const double time = Milliseconds([&] { browser.find.SetText(typed); });
         if (time > keys.longest) {
             keys.longest = time;
             keys.longest_text = typed;
@@ -124,7 +116,7 @@ int Run(const BigCollection &collection) {
     browser.find.SetText(u"ira"_s);
     Turns turns;
     const QStringList statements = StatementsOf(*session.Database, [&] { turns = Build(browser.find); });
-    const double floor = ProcessorMilliseconds([&] { ReadAll(*session.Database, statements); });
+    const double floor = Milliseconds([&] { ReadAll(*session.Database, statements); });
     const FindIndex &index = *browser.find.Index();
     std::printf("index of %d titles and %d persons: %.0f ms in %d turns, its %lld statements %.0f ms, ratio %.2f\n",
                 index.OwnerCount(), index.PersonCount(), turns.all, turns.count, qint64(statements.size()), floor,
