@@ -14,6 +14,7 @@ public:
     static void AuditDatabaseOpened(Session &) {}
     static void AuditUpdateProfile(Session &, const QString & /*id*/, const QString & /*message*/) {}
     static void AuditUpdateEpisode(Session &, const QString & /*id*/, const QString & /*message*/) {}
+    static void AuditDeleteProfile(Session &, const QString & /*id*/) {}
     static void AuditWriteProfile(Session &, const QString & /*id*/) {}
     static void AuditSync(Session &, const QString & /*message*/) {}
 };

@@ -52,6 +52,9 @@ void EnterMode(Browser &browser, PanelMode mode) {
 void ShowRows(Browser &browser, std::vector<ListTableRow> rows) {
     AppearancesPanel &panel = browser.appearances;
     panel.listAppearences.Assign(std::move(rows));
+    panel.shown_name.clear();
+    panel.shown_birth_year.clear();
+    panel.current_row = -1;
     panel.sort_column = -1;
     panel.sort_order = Qt::AscendingOrder;
     Q_EMIT panel.SortChanged();
@@ -76,6 +79,16 @@ QString BoxsetSort(const ViewState &view) {
                 ? u"m.OriginalSortTitle<>'', m.OriginalSortTitle, m.OriginalTitle<>'', m.OriginalTitle, "_s
                 : QString()) +
            u"m.SortTitle<>'', m.SortTitle, m.Title<>'', m.Title) AS [RealSort]"_s;
+}
+
+/// The selected row stays selected.
+void Sort(AppearancesPanel &panel, int column, Qt::SortOrder order) {
+    const QPersistentModelIndex current = panel.listAppearences.index(panel.current_row, 0);
+    panel.sort_column = column;
+    panel.sort_order = order;
+    panel.listAppearences.sort(column, order);
+    panel.current_row = current.row();
+    Q_EMIT panel.SortChanged();
 }
 
 const ListTableRow *RowAt(const Browser &browser, int row) {
@@ -112,6 +125,34 @@ void GetAppearances(Browser &browser, const QString &name, const QString &birth_
     ShowRows(browser, std::move(rows));
     if (merged) {
         browser.appearances.listAppearences.sort(kHiddenSort, Qt::AscendingOrder);
+    } else {
+        browser.appearances.shown_name = name;
+        browser.appearances.shown_birth_year = birth_year;
+    }
+}
+
+void RefreshAppearances(Browser &browser) {
+    AppearancesPanel &panel = browser.appearances;
+    const QString name = panel.shown_name;
+    if (name.isEmpty()) {
+        return;
+    }
+    const ListTableRow *current = RowAt(browser, panel.current_row);
+    const ListTableRow before = current ? *current : ListTableRow();
+    const int column = panel.sort_column;
+    const Qt::SortOrder order = panel.sort_order;
+    GetAppearances(browser, name, QString(panel.shown_birth_year), false);
+    if (column >= 0) {
+        Sort(panel, column, order);
+    }
+    const auto &rows = panel.listAppearences.Rows();
+    const auto same = std::find_if(rows.begin(), rows.end(), [&before](const ListTableRow &row) {
+        return row.key == before.key && row.kind == before.kind &&
+               row.texts.value(int(AppearanceText::Role)) == before.texts.value(int(AppearanceText::Role));
+    });
+    if (current && same != rows.end()) {
+        panel.current_row = int(same - rows.begin());
+        Q_EMIT panel.CurrentRowChanged();
     }
 }
 
@@ -214,10 +255,7 @@ void GoToAppearance(Browser &browser, int row) {
 void SortAppearances(Browser &browser, int column) {
     AppearancesPanel &panel = browser.appearances;
     const bool again = panel.sort_column == column && panel.sort_order == Qt::AscendingOrder;
-    panel.sort_column = column;
-    panel.sort_order = again ? Qt::DescendingOrder : Qt::AscendingOrder;
-    panel.listAppearences.sort(column, panel.sort_order);
-    Q_EMIT panel.SortChanged();
+    Sort(panel, column, again ? Qt::DescendingOrder : Qt::AscendingOrder);
 }
 
 void FindAppearances(Browser &browser, const QString &preset) {

@@ -24,6 +24,10 @@ public:
     /// The caption above treeAwards; "&" stands doubled in it.
     QString labelAwards;
 
+    /// Whose appearances the list holds; empty while it lists something else, or those of several persons.
+    QString shown_name;
+    QString shown_birth_year;
+
     /// Row of the list that is selected; -1 for none.
     int current_row = -1;
     /// The column that sorts the list; -1 while its rows stand as they came.
@@ -34,12 +38,16 @@ Q_SIGNALS:
     /// The list has other columns.
     void ColumnsChanged();
     void SortChanged();
+    /// `current_row` is to be selected.
+    void CurrentRowChanged();
     void AwardsChanged();
 };
 
 /// The appearances of a person in the list, whose present rows stay with `keep`. Nothing happens without a name or
 /// with both films and series left out.
 void GetAppearances(Browser &browser, const QString &name, const QString &birth_year, bool keep);
+/// Reads the person's appearances anew, sorted as they are; the selected row stays selected.
+void RefreshAppearances(Browser &browser);
 /// Empties the list; its columns stay.
 void ClearAppearences(Browser &browser);
 /// The episodes on a title's discs in the list; false, and the list stays, when there are none.

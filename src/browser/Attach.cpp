@@ -121,10 +121,7 @@ void TakeSettings(Browser &browser) {
             ReloadList(browser);
         }
     }
-    if (browser.session.view.mSkinEnable) {
-        Redisplay(browser);
-    }
-    RefillCredits(browser); // headshots may be marked now, or no longer
+    RefreshPeople(browser); // headshots may be marked now, or no longer
     ShowCoverAgain(browser);
     Q_EMIT browser.SettingsChanged();
 }

@@ -74,6 +74,9 @@ public:
     CreditsPanel credits;
     AppearancesPanel appearances;
 
+    /// The control of the panels that mLockTools was opened on (browser/PanelFields.h).
+    QString menu_field;
+
     // What the windows do on behalf of the browser's routines; empty without windows.
     struct Hooks {
         /// Values selected in the panels Audio/Video and Details, for the lists of titles that share them.
@@ -81,6 +84,8 @@ public:
         std::function<QString()> selected_feature;
         std::function<QString()> selected_audio;
         std::function<QString()> selected_studio;
+        /// The rows of listSeries that are selected, from the first to the last.
+        std::function<QList<int>()> selected_rows;
         /// Shows frmFilterTags; the entry of comboFilter does nothing without it.
         std::function<void()> ShowFilterTags;
         /// Shows a title or an episode as a page; false when the panels are to show it.

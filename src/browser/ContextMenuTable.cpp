@@ -69,6 +69,7 @@ constexpr MenuEntry kEntries[] = {
     ContextMenu(u"mCoverTools"),
     SameAs(u"mShowCover", Entry(u"mShowCoverContext", u"mCoverTools", u"&Show in a Window")),
     Entry(u"mFlipCover", u"mCoverTools", u"&Other Side"),
+    Told(Entry(u"mLockCovers", u"mCoverTools", u"&Lock Covers", u"Protects the covers from imports and updates")),
 
     // The rows of listEpisodes.
     ContextMenu(u"mEpisodeTools"),
@@ -92,11 +93,19 @@ constexpr MenuEntry kEntries[] = {
     Entry(u"mPasteCastList", u"mCastTools", u"&Paste Cast...", u"Replaces the cast by that of the clipboard"),
     Told(Entry(u"mLockCast", u"mCastTools", u"&Lock Cast", u"Protects the cast from imports and updates")),
     Separator(u"mCastTools"),
+    Entry(u"mAddAliasCast", u"mCastTools", u"Cross-Link &Name...",
+          u"Tells which name is common to all spellings of the selected person"),
+    Entry(u"mDownloadHeadshotCast", u"mCastTools", u"&Download Headshot from URL..."),
+    Separator(u"mCastTools"),
     Grid(&ViewState::GridLines::ListCast, u"mToogleGridlinesCast", u"mCastTools"),
     ContextMenu(u"mCrewTools"),
     Entry(u"mCopyCrewList", u"mCrewTools", u"&Copy Crew", u"Copies the crew as data for other programs"),
     Entry(u"mPasteCrewList", u"mCrewTools", u"&Paste Crew...", u"Replaces the crew by that of the clipboard"),
     Told(Entry(u"mLockCrew", u"mCrewTools", u"&Lock Crew", u"Protects the crew from imports and updates")),
+    Separator(u"mCrewTools"),
+    Entry(u"mAddAliasCrew", u"mCrewTools", u"Cross-Link &Name...",
+          u"Tells which name is common to all spellings of the selected person"),
+    Entry(u"mDownloadHeadshotCrew", u"mCrewTools", u"&Download Headshot from URL..."),
     Separator(u"mCrewTools"),
     Grid(&ViewState::GridLines::ListCrew, u"mToogleGridlinesCrew", u"mCrewTools"),
 
@@ -110,6 +119,9 @@ constexpr MenuEntry kEntries[] = {
 
     // The fields of the panels.
     ContextMenu(u"mLockTools"),
+    Entry(u"mChangeField", u"mLockTools", u"&Change...", u"Asks for another value of this field"),
+    Entry(u"mCopyField", u"mLockTools", u"C&opy"),
+    Separator(u"mLockTools"),
     Told(Entry(u"mLockField", u"mLockTools", u"&Lock", u"Protects this field from imports and updates")),
 
     // treeAwards.

@@ -5,8 +5,9 @@
 #include "browser/Browser.h"
 #include "browser/Credits.h"
 #include "collection_files/ImportCredits.h"
-#include "database/DatabaseFunctions.h"
+#include "database/RecordOperations.h"
 #include "database/TitleLocks.h"
+#include "people/QuickLink.h"
 #include "shell/Session.h"
 
 namespace ostrand {
@@ -69,13 +70,6 @@ void TellImported(Session &session, CreditKind kind) {
                           .icon = MessageIcon::Information});
 }
 
-/// The next import must see that the profile was changed by hand.
-void MarkEdited(Session &session, const QString &id) {
-    const QString of_profile = u" WHERE ProfileID = '"_s + EscapeSql(id) + u'\'';
-    session.Database->Execute(QString(u"UPDATE Profiles SET LastEdited = Now()"_s + of_profile));
-    session.Database->Execute(QString(u"UPDATE Profiles SET MD5 = ''"_s + of_profile));
-}
-
 void Replace(Browser &browser, CreditKind kind, pugi::xml_node credits) {
     Session &session = browser.session;
     const QString id = browser.credits.shown_key;
@@ -91,6 +85,19 @@ void Replace(Browser &browser, CreditKind kind, pugi::xml_node credits) {
     } else {
         MarkEdited(session, id);
         Audit::AuditUpdateProfile(session, id, u"Paste "_s + done);
+    }
+}
+
+/// The credits of before stand again after a fault.
+void ReplaceOrNothing(Browser &browser, CreditKind kind, pugi::xml_node credits) {
+    sql::Database &database = *browser.session.Database;
+    database.Flush();
+    sql::Database::Bracket bracket(database);
+    try {
+        Replace(browser, kind, credits);
+    } catch (...) {
+        bracket.Abandon();
+        throw;
     }
 }
 
@@ -113,6 +120,39 @@ void UpdateCastInfo(Browser &browser, const QString &name, const QString &birth_
     if (!name.isEmpty()) {
         FindAwardsForActor(browser, name, birth_year);
     }
+}
+
+void EnablePersonEntries(Browser &browser) {
+    const CreditsPanel &panel = browser.credits;
+    const bool person = !panel.selected_name.isEmpty();
+    browser.commands.Together([&] {
+        for (const char16_t *name : {u"mNextHeadshot", u"mDownloadHeadshotFromURL", u"mDownloadHeadshotCast",
+                                     u"mDownloadHeadshotCrew", u"mAddAliasCast", u"mAddAliasCrew"}) {
+            browser.commands.SetEnabled(QString::fromUtf16(name), person);
+        }
+        browser.commands.SetEnabled(u"mSetHeadshotAsPrimary"_s, person && panel.picActor.CanSetAsPrimary());
+    });
+}
+
+void LinkSelectedPerson(Browser &browser) {
+    const CreditsPanel &panel = browser.credits;
+    if (AddAlias(browser.session, QString(panel.selected_name), panel.selected_birth_year.toInt())) {
+        RefreshPeople(browser);
+    }
+}
+
+void DownloadHeadshot(Browser &browser) {
+    CreditsPanel &panel = browser.credits;
+    panel.picActor.DownloadHeadshotFromURL();
+    panel.headshots.Invalidate();
+    RefillCredits(browser);
+}
+
+void SetHeadshotAsPrimary(Browser &browser) {
+    CreditsPanel &panel = browser.credits;
+    panel.picActor.SetHeadshotAsPrimary();
+    panel.headshots.Invalidate();
+    RefillCredits(browser); // an alternate alone marks nobody, and a primary picture does
 }
 
 void FindCreditAppearances(Browser &browser, const QString &name) {
@@ -148,7 +188,7 @@ void PasteCredits(Browser &browser, CreditKind kind) {
         TellInvalid(session, kind);
         return;
     }
-    Replace(browser, kind, *credits);
+    ReplaceOrNothing(browser, kind, *credits);
     RefillCredits(browser);
     TellImported(session, kind);
 }

@@ -12,6 +12,14 @@ class Browser;
 /// A person was selected in the credits: the picture and the appearances follow.
 void UpdateCastInfo(Browser &browser, const QString &name, const QString &birth_year);
 
+/// Enables the menu entries that need a selected person, or a picture of theirs.
+void EnablePersonEntries(Browser &browser);
+/// Asks for the common name of the selected person, and shows what follows from it.
+void LinkSelectedPerson(Browser &browser);
+/// Fetch a picture of the selected person from a URL that is asked for, and make the picture that is shown the primary
+/// one; the marks in the credits follow.
+void DownloadHeadshot(Browser &browser);
+void SetHeadshotAsPrimary(Browser &browser);
 /// A double click on a person: the appearances are asked for.
 void FindCreditAppearances(Browser &browser, const QString &name);
 /// Puts a tree on the clipboard as text, its levels indented by tabs.

@@ -47,6 +47,8 @@ QVariant CreditList::data(const QModelIndex &index, int role) const {
         return row.caption;
     case HeadshotRole:
         return row.has_headshot;
+    case PositionRole:
+        return row.position;
     default:
         return {};
     }

@@ -24,7 +24,7 @@ class CreditList : public QAbstractTableModel {
     Q_OBJECT
 public:
     enum Column { Name, Role, Position };
-    enum DataRole { NameRole = Qt::UserRole, BirthYearRole, FlagsRole, CaptionRole, HeadshotRole };
+    enum DataRole { NameRole = Qt::UserRole, BirthYearRole, FlagsRole, CaptionRole, HeadshotRole, PositionRole };
 
     using QAbstractTableModel::QAbstractTableModel;
 

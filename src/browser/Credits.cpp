@@ -1,12 +1,16 @@
 #include "browser/Credits.h"
 
+#include "browser/AppearancesPanel.h"
 #include "browser/Browser.h"
+#include "browser/Views.h"
 #include "database/DatabaseFunctions.h"
 #include "people/CreditNames.h"
 #include "people/HeadshotFiles.h"
 #include "people/LinkedNames.h"
 #include "shell/Session.h"
 #include "shell/TranslatedTexts.h"
+
+#include <QScopedValueRollback>
 
 namespace ostrand {
 
@@ -285,9 +289,34 @@ void AddFullBoxsetCredits(Browser &browser, const QString &id) {
                true);
 }
 
+void Select(CreditsPanel &panel, const QString &name, const QString &birth_year) {
+    panel.selected_name = name;
+    panel.selected_birth_year = birth_year;
+}
+
+/// The selected person among the credits, with the year that they tell now: a lone name may have lost it.
+const CreditRecord *FindSelected(const CreditsPanel &panel) {
+    const CreditRecord *of_name = nullptr;
+    for (const auto *credits : {&panel.cast, &panel.crew}) {
+        for (const CreditRecord &credit : *credits) {
+            if (credit.IsDivider() || credit.name != panel.selected_name) {
+                continue;
+            }
+            if (credit.birth_year.toInt() == panel.selected_birth_year.toInt()) {
+                return &credit;
+            }
+            of_name = of_name ? of_name : &credit;
+        }
+    }
+    return of_name;
+}
+
 void Fill(Browser &browser, const QString &id, bool is_episode) {
     CreditsPanel &panel = browser.credits;
     panel.stale = false;
+    if (!panel.refilling) {
+        Select(panel, {}, {});
+    }
     if (is_episode) {
         UpdateTVCredits(browser, {}, {}, {}, id);
     } else {
@@ -301,6 +330,12 @@ void Fill(Browser &browser, const QString &id, bool is_episode) {
 }
 
 } // namespace
+
+CreditsPanel::CreditsPanel(Session &session) : picActor(session) {
+    picActor.selected = [this] {
+        return selected_name.isEmpty() ? std::nullopt : std::optional(CreditPerson{selected_name, selected_birth_year});
+    };
+}
 
 void UpdateCredits(Browser &browser, const QString &profile_id) {
     Trace(browser.session, u"UpdateCredits("_s + profile_id + u')', kTraceEntry);
@@ -326,7 +361,9 @@ void UpdateTVCredits(Browser &browser, const QString &series_id, const QString &
 void UpdateCreditControls(Browser &browser, sql::Recordset &credits, bool clear, bool is_tv) {
     Session &session = browser.session;
     CreditsPanel &panel = browser.credits;
-    panel.picActor.Clear();
+    if (!panel.refilling) {
+        panel.picActor.Clear();
+    }
     if (clear) {
         Empty(panel);
     }
@@ -371,15 +408,48 @@ void ClearCredits(Browser &browser) {
     panel.treeCrew.Clear();
     panel.picActor.Clear();
     panel.shown_key.clear();
-    panel.selected_name.clear();
-    panel.selected_birth_year.clear();
+    Select(panel, {}, {});
     panel.stale = false;
 }
 
 void RefillCredits(Browser &browser) {
-    const CreditsPanel &panel = browser.credits;
-    if (browser.session.Database && !panel.shown_key.isEmpty()) {
+    CreditsPanel &panel = browser.credits;
+    if (!browser.session.Database || panel.shown_key.isEmpty()) {
+        return;
+    }
+    {
+        const QScopedValueRollback<bool> refill(panel.refilling, true);
         Fill(browser, QString(panel.shown_key), panel.shown_is_episode);
+    }
+    const CreditRecord *person = panel.selected_name.isEmpty() ? nullptr : FindSelected(panel);
+    if (person == nullptr) {
+        Select(panel, {}, {});
+        panel.picActor.Clear();
+    } else {
+        Select(panel, person->name, person->birth_year);
+    }
+}
+
+void RefreshPeople(Browser &browser) {
+    if (!browser.session.Database) {
+        return;
+    }
+    if (browser.session.view.mSkinEnable) {
+        Redisplay(browser); // a page tells people, too
+    }
+    CreditsPanel &panel = browser.credits;
+    AppearancesPanel &appearances = browser.appearances;
+    const bool of_selected =
+        appearances.shown_name == panel.selected_name && appearances.shown_birth_year == panel.selected_birth_year;
+    panel.headshots.Invalidate(); // pictures may have come and gone within the time that the folder's date tells apart
+    RefillCredits(browser);
+    if (of_selected && !panel.selected_name.isEmpty()) {
+        appearances.shown_birth_year = panel.selected_birth_year;
+    }
+    RefreshAppearances(browser);
+    if (!panel.selected_name.isEmpty()) {
+        panel.picActor.LoadHeadShot(panel.selected_name, false, panel.selected_birth_year);
+        FindAwardsForActor(browser, panel.selected_name, panel.selected_birth_year);
     }
 }
 

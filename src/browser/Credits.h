@@ -25,8 +25,10 @@ void ShowCredits(Browser &browser, const QString &id, bool is_episode);
 /// The tab of the credits was selected.
 void ShowStaleCredits(Browser &browser);
 void ClearCredits(Browser &browser);
-/// Fills the panel anew after a switch changed.
+/// Fills the panel anew after a switch or the credits changed. The selected person stays, if still among them.
 void RefillCredits(Browser &browser);
+/// Shows people anew after their links, headshots or birth years changed: credits, picture, appearances and awards.
+void RefreshPeople(Browser &browser);
 
 /// The captions of the lists, in the present language.
 void ShowCreditHeaders(Browser &browser);

@@ -1,10 +1,10 @@
 // The first tab of tabMain: the credits of a title or an episode.
 #pragma once
 
-#include "browser/ActorPicture.h"
 #include "browser/CreditList.h"
 #include "browser/CrewTree.h"
 #include "people/CreditRecord.h"
+#include "people/HeadshotViewer.h"
 
 namespace ostrand {
 
@@ -12,12 +12,12 @@ namespace ostrand {
 class CreditsPanel : public QObject {
     Q_OBJECT
 public:
-    explicit CreditsPanel(Session &session) : picActor(session) {}
+    explicit CreditsPanel(Session &session);
 
     CreditList ListCast;
     CreditList ListCrew;
     CrewTree treeCrew;
-    ActorPicture picActor;
+    HeadshotViewer picActor;
 
     /// All credits that are shown, dividers and those that the tree leaves out among them.
     std::vector<CreditRecord> cast;
@@ -31,9 +31,12 @@ public:
     /// The current title is not the one that is shown, since the panel was hidden when it came.
     bool stale = false;
 
-    /// The person selected last.
+    /// The person of these credits that was selected last.
     QString selected_name;
     QString selected_birth_year;
+
+    /// The same credits come anew: the views keep the rows that they have selected.
+    bool refilling = false;
 
     /// The headshots that mark rows.
     FolderIndex headshots;

@@ -1,5 +1,7 @@
 #include "browser/CrewTree.h"
 
+#include "people/HeadshotViewer.h"
+
 namespace ostrand {
 
 namespace {
@@ -58,6 +60,10 @@ QVariant CrewTree::data(const QModelIndex &index, int role) const {
         return node.caption;
     case HeadshotRole:
         return node.has_headshot;
+    case NameRole:
+        return PersonOfTag(node.tag).name;
+    case PositionRole:
+        return node.position;
     default:
         return {};
     }
@@ -83,7 +89,9 @@ void CrewTree::AddCategory(int parent, const QString &text, std::vector<CrewMemb
     SortCrewTree(members);
     const int category = Add(parent, text);
     for (const CrewMember &member : members) {
-        nodes_[size_t(Add(category, member.text, member.tag))].has_headshot = member.has_headshot;
+        Node &node = nodes_[size_t(Add(category, member.text, member.tag))];
+        node.has_headshot = member.has_headshot;
+        node.position = member.position;
     }
 }
 

@@ -29,7 +29,7 @@ struct CrewTeam {
 class CrewTree : public QAbstractItemModel {
     Q_OBJECT
 public:
-    enum DataRole { KeyRole = Qt::UserRole, TagRole, CaptionRole, HeadshotRole };
+    enum DataRole { KeyRole = Qt::UserRole, TagRole, CaptionRole, HeadshotRole, NameRole, PositionRole };
 
     using QAbstractItemModel::QAbstractItemModel;
 
@@ -50,6 +50,7 @@ private:
         QString tag;
         bool caption = false;
         bool has_headshot = false;
+        int position = 0;
         int parent = 0;
         int row = 0;
         std::vector<int> children;

@@ -61,6 +61,11 @@ void EpisodeList::sort(int column, Qt::SortOrder order) {
     Q_EMIT layoutChanged({}, VerticalSortHint);
 }
 
+void EpisodeList::SetTitle(int row, const QString &title) {
+    rows_[size_t(row)].title = title;
+    Q_EMIT dataChanged(index(row, Title), index(row, Title));
+}
+
 int EpisodeList::RowOfKey(const QString &key) const {
     const auto found = std::find_if(rows_.begin(), rows_.end(), [&](const EpisodeRow &row) { return row.key == key; });
     return found == rows_.end() ? -1 : int(found - rows_.begin());

@@ -32,6 +32,8 @@ public:
     void SetHeaders(const QStringList &headers);
     void Assign(std::vector<EpisodeRow> rows);
     void Clear() { Assign({}); }
+    /// Gives an episode another title; it stays in its place.
+    void SetTitle(int row, const QString &title);
     const std::vector<EpisodeRow> &Rows() const { return rows_; }
     /// -1 when there is none.
     int RowOfKey(const QString &key) const;

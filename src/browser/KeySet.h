@@ -16,6 +16,7 @@ public:
         keys_.insert({key});
         return keys_.size() != before;
     }
+    bool Contains(const QString &key) const { return keys_.contains({key}); }
 
 private:
     struct Key {

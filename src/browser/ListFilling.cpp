@@ -35,6 +35,25 @@ void ShowFirstTitle(Browser &browser) {
     }
 }
 
+void ShowTitleOrRow(Browser &browser, const QStringList &keys, int row) {
+    const TitleList &list = browser.listSeries;
+    if (list.rowCount() == 0) {
+        browser.current_row = -1;
+        Q_EMIT browser.CurrentRowChanged();
+        GetProfileInfos(browser, {}, false, false);
+        return;
+    }
+    for (const QString &key : keys) {
+        const int whole = key.isEmpty() ? -1 : list.RowOfKey(key);
+        const int held = key.isEmpty() || whole >= 0 ? whole : list.RowOfTitle(ProfileOfKey(key));
+        if (held >= 0) {
+            UpdateSeriesList(browser, held);
+            return;
+        }
+    }
+    UpdateSeriesList(browser, std::clamp(row, 0, list.rowCount() - 1));
+}
+
 void ShowSortColumn(TitleList &list, int sort_column) {
     for (const int column : kOptionalColumns) {
         list.SetWidth(column, column == sort_column ? kSortColumnWidth : 0);

@@ -12,6 +12,9 @@ struct Session;
 void BeginList(Browser &browser);
 /// Makes the first title current; an empty list has no current row.
 void ShowFirstTitle(Browser &browser);
+/// Makes the first of the keys that the list holds current; without one, the title in that row or, behind the last one,
+/// the last. An empty list shows no title.
+void ShowTitleOrRow(Browser &browser, const QStringList &keys, int row);
 /// Shows the column that sorts, where it is none that always shows or never, and hides the others of its kind.
 void ShowSortColumn(TitleList &list, int sort_column);
 /// Sorts by one of the columns that sort; any other one stands for the sort key. The current title stays current.

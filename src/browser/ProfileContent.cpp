@@ -201,6 +201,14 @@ DetailsContent::DetailsContent() :
 AVContent::AVContent() :
     listAudio({}, {u"Language"_s, u"Compression"_s, u"Channels"_s}), listSubtitles({}, {u"Subtitle"_s}) {}
 
+QStringList WishListPriorities() {
+    QStringList priorities;
+    for (const char16_t *priority : kPriorities) {
+        priorities += QString::fromUtf16(priority);
+    }
+    return priorities;
+}
+
 void TranslateContent(Browser &browser) {
     const auto set = [&](ListTable &list, std::initializer_list<const char16_t *> columns) {
         QStringList shown;

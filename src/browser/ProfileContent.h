@@ -61,6 +61,8 @@ struct AVContent {
     bool cWidescreen = false;
 };
 
+/// How much a title of the wish list is wished for, in English; `WishListPriority` counts them from 1.
+QStringList WishListPriorities();
 /// The headers of the lists in the user's language.
 void TranslateContent(Browser &browser);
 /// Empties Details and AV: the texts are their bare labels.

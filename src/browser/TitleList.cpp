@@ -186,6 +186,44 @@ void TitleList::Clear() {
     Assign({});
 }
 
+void TitleList::RemoveTitles(const QStringList &ids) {
+    KeySet gone;
+    for (const QString &id : ids) {
+        gone.Add(id);
+    }
+    std::vector<TitleRow> rows;
+    const auto drop_empty_group = [&rows] {
+        if (!rows.empty() && rows.back().header) {
+            rows.pop_back();
+        }
+    };
+    for (TitleRow &row : rows_) {
+        if (row.header) {
+            drop_empty_group();
+        } else if (gone.Contains(ProfileOfKey(row.key))) {
+            continue;
+        }
+        rows.push_back(std::move(row));
+    }
+    drop_empty_group();
+    Assign(std::move(rows));
+}
+
+void TitleList::SetTexts(const QString &id, const std::function<TitleRow(const TitleRow &row)> &make_texts) {
+    for (TitleRow &row : rows_) {
+        if (IsOfTitle(row, id)) {
+            TitleRow texts = make_texts(row);
+            row.texts = std::move(texts.texts);
+            row.tool_tip = std::move(texts.tool_tip);
+            row.tag = std::move(texts.tag);
+        }
+    }
+    keyed_column_ = -1;
+    if (!shown_.empty()) {
+        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, kTitleColumns - 1));
+    }
+}
+
 void TitleList::SortBy(int column, Order order) {
     sorted_ = true;
     sort_column_ = std::clamp(column, 0, kTitleColumns - 1);

@@ -50,6 +50,11 @@ public:
     /// is left out; returns how many were.
     int Assign(std::vector<TitleRow> rows);
     void Clear();
+    /// Takes all rows of these titles away, and the headers that stand above no title then.
+    void RemoveTitles(const QStringList &ids);
+    /// Gives all rows of a title, shown or not, the texts that are made for each; they stay in their places and keep
+    /// their keys.
+    void SetTexts(const QString &id, const std::function<TitleRow(const TitleRow &row)> &make_texts);
 
     /// By row of all that are there, whether it is to be shown; empty for all of them. Asked whenever there are other
     /// rows, and at Narrow. Rows above one that is shown are so too, and headers not by themselves. `order` is another

@@ -77,11 +77,9 @@ void KeepValidSort(Browser &browser) {
     }
 }
 
-} // namespace
-
-void GetMovieNames(Browser &browser) {
+/// Fills the list without a current title.
+void FillMovieNames(Browser &browser) {
     Session &session = browser.session;
-    Trace(session, u"GetMovieNames()"_s, kTraceEntry);
     BeginList(browser);
     const QString tab = SelectedColType(browser);
     if (session.view.ProfilesSortKey != TitleList::SortTitle ||
@@ -104,8 +102,21 @@ void GetMovieNames(Browser &browser) {
     if (session.view.mcolorlist) {
         ApplyListColors(browser, false);
     }
+}
+
+} // namespace
+
+void GetMovieNames(Browser &browser) {
+    Trace(browser.session, u"GetMovieNames()"_s, kTraceEntry);
+    FillMovieNames(browser);
     ShowFirstTitle(browser);
-    Trace(session, u"GetMovieNames()"_s, kTraceExit);
+    Trace(browser.session, u"GetMovieNames()"_s, kTraceExit);
+}
+
+void RefillMovieNames(Browser &browser, const QStringList &keys) {
+    const int before = browser.current_row;
+    FillMovieNames(browser);
+    ShowTitleOrRow(browser, keys, before);
 }
 
 TitleRow ListTitle(Browser &browser, const sql::Recordset &record, int number, int indent) {

@@ -12,6 +12,9 @@ class Recordset;
 
 /// Rebuilds the list for the selected tab of tabColList and shows its first title.
 void GetMovieNames(Browser &browser);
+/// Rebuilds the list after its titles changed. The first of the keys that it holds becomes current; without one, the
+/// title that stands in the row of the one that was current.
+void RefillMovieNames(Browser &browser, const QStringList &keys);
 /// Rebuilds the list as groups: "Genre", "Rating", "Medium", "CaseType", "Locality"; as the titles that share the value
 /// selected in a panel: "Subtitle", "Feature", "AudioFormat", "Studio"; or by the filter of comboFilter: "Filter".
 /// Throws SqlError on a faulty statement, except for "Filter", which shows a message.

@@ -145,13 +145,13 @@ QString CreditDocument(Session &session, CreditKind kind, const QString &title,
         const QString used = names.Resolved(credit.name, credit.birth_year.toInt());
         const pugi::xml_node element = XmlAddElement(list, elements.credit, 2);
         SetName(element, credit, used);
+        if (used != credit.name) {
+            XmlSetAttribute(element, "CreditedAs", credit.name);
+        }
         if (kind == CreditKind::Cast) {
             SetActor(element, credit);
         } else {
             SetCrewMember(session, element, credit);
-        }
-        if (used != credit.name) {
-            XmlSetAttribute(element, "CreditedAs", credit.name);
         }
     }
     if (!credits.empty()) {

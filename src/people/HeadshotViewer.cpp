@@ -4,7 +4,6 @@
 #include "base/Text.h"
 #include "people/CrossLinks.h"
 #include "people/HeadshotFiles.h"
-#include "people/HeadshotFolder.h"
 #include "shell/Dialogs.h"
 #include "shell/Download.h"
 #include "shell/Session.h"
@@ -30,6 +29,11 @@ bool HeadshotViewer::LoadHeadShot(const QString &name, bool reset, const QString
     int alternate = reset ? 0 : alternate_;
     picture_ = name.isEmpty() ? QString() : FindHeadshot(session_, index_, name, birth_year, alternate);
     alternate_ = qint16(alternate);
+    has_pictures_ = !picture_.isEmpty();
+    if (!has_pictures_ && !name.isEmpty()) {
+        int first_alternate = 1;
+        has_pictures_ = !FindHeadshot(session_, index_, name, birth_year, first_alternate).isEmpty();
+    }
     Q_EMIT PictureChanged();
     return !picture_.isEmpty();
 }
@@ -45,6 +49,7 @@ void HeadshotViewer::AlternateHeadshot() {
 
 void HeadshotViewer::Clear() {
     picture_.clear();
+    has_pictures_ = false;
     Q_EMIT PictureChanged();
 }
 
@@ -59,10 +64,7 @@ void HeadshotViewer::SetHeadshotAsPrimary() {
     }
     const QString primary = QString(picture_).remove(at, suffix.size());
     const QString found = FindIgnoringCase(session_.HeadshotPath, primary.mid(primary.lastIndexOf(u'/') + 1));
-    QString error;
-    if (!SwapPictures(picture_, found.isEmpty() ? primary : found, &error)) {
-        Trace(session_, u"SetHeadshotAsPrimary: "_s + error, kTraceError);
-    }
+    ChangePlaces(session_, u"SetHeadshotAsPrimary"_s, picture_, found.isEmpty() ? primary : found);
     index_.Invalidate();
     if (const std::optional<CreditPerson> person = selected ? selected() : std::nullopt) {
         LoadHeadShot(person->name, true, person->birth_year);
@@ -83,6 +85,10 @@ void HeadshotViewer::DownloadHeadshotFromURL() {
     }
 }
 
+CreditPerson HeadshotViewer::Selected() const {
+    return selected ? selected().value_or(CreditPerson()) : CreditPerson();
+}
+
 bool HeadshotViewer::IsHeadshotFolder(const QString &folder) const {
     return QDir::cleanPath(folder) == QDir::cleanPath(session_.HeadshotPath);
 }
@@ -99,18 +105,20 @@ bool HeadshotViewer::Fetch(const QString &url, const QString &path) {
 }
 
 bool HeadshotViewer::DownloadHeadshot(const QString &url, const QString &name, const QString &folder) {
-    if (url.trimmed().isEmpty() || SafeFileName(name).trimmed().isEmpty() || fetching_) {
+    if (url.trimmed().isEmpty() || SafeFileName(name).trimmed().isEmpty() || folder.isEmpty() || fetching_) {
         return false;
     }
     const bool shown = IsHeadshotFolder(folder);
     MakeFolderPath(folder);
     const HeadshotPlace place = FreeHeadshotPlace(folder, name);
+    const CreditPerson before = Selected();
     // The windows get their turns meanwhile, and must not begin a second transfer to the same place.
     fetching_ = true;
     const bool stored = Fetch(url.trimmed(), place.path);
     fetching_ = false;
     index_.Invalidate();
-    if (stored && shown) {
+    const CreditPerson now = Selected();
+    if (stored && shown && now.name == before.name && now.birth_year == before.birth_year) {
         alternate_ = qint16(place.alternate);
         LoadHeadShot(name, false, {});
     }

@@ -47,6 +47,8 @@ public:
     /// nothing is reported. True when it was stored.
     bool DownloadHeadshot(const QString &url, const QString &name, const QString &folder);
 
+    /// The person loaded last has a picture, be it an alternate that is not shown yet.
+    bool HasPictures() const { return has_pictures_; }
     /// The file that is shown; empty for none.
     const QString &Picture() const { return picture_; }
     /// 0 for the primary picture.
@@ -58,12 +60,15 @@ Q_SIGNALS:
 private:
     /// The URL's picture at a place that is free; true when it is one.
     bool Fetch(const QString &url, const QString &path);
+    /// Nobody has no name.
+    CreditPerson Selected() const;
     bool IsHeadshotFolder(const QString &folder) const;
 
     Session &session_;
     FolderIndex index_;
     QString picture_;
     qint16 alternate_ = 0;
+    bool has_pictures_ = false;
     bool fetching_ = false;
 };
 

@@ -7,9 +7,10 @@ namespace ostrand {
 namespace {
 
 /// The size in device pixels of a picture of `natural` size.
-QSize SizeInPlace(QSize natural, QSize place, PictureGrowth growth) {
-    if (growth == PictureGrowth::Never && natural.width() <= place.width() && natural.height() <= place.height()) {
-        return natural;
+QSize SizeInPlace(QSize natural, QSize place, qreal pixel_ratio, PictureGrowth growth) {
+    const QSize own = (QSizeF(natural) * pixel_ratio).toSize();
+    if (growth == PictureGrowth::Never && own.width() <= place.width() && own.height() <= place.height()) {
+        return own; // as large as on a screen of plain pixels
     }
     return natural.scaled(place, Qt::KeepAspectRatio).expandedTo({1, 1});
 }
@@ -52,7 +53,7 @@ QImage ScaledImage(const QString &path, QSize place, qreal pixel_ratio, PictureG
     }
     // The size to read is that of the stored picture, before it is turned.
     const bool turned = IsTurned(reader);
-    const QSize target = SizeInPlace(turned ? stored.transposed() : stored, device_place, growth);
+    const QSize target = SizeInPlace(turned ? stored.transposed() : stored, device_place, pixel_ratio, growth);
     reader.setScaledSize(turned ? target.transposed() : target);
     QImage image = reader.read();
     image.setDevicePixelRatio(pixel_ratio);

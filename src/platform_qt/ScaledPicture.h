@@ -8,7 +8,7 @@
 
 namespace ostrand {
 
-/// Whether a picture smaller than its place grows.
+/// Whether a picture smaller than its place, in device-independent pixels, grows.
 enum class PictureGrowth { Fit, Never };
 
 /// The size of a picture as it is shown, read from its file's head; empty for a broken or missing file.

@@ -117,7 +117,7 @@ TEST_F(CreditCommands, CtrlKeepsTheStoredNames) {
     Show(u"P1"_s);
     CopyCredits(browser, CreditKind::Cast);
     EXPECT_TRUE(Clipboard().contains(u"LastName=\"Stone\""_s));
-    EXPECT_TRUE(Clipboard().contains(u"CreditedAs=\"Mara Hale\""_s));
+    EXPECT_TRUE(Clipboard().contains(u" CreditedAs=\"Mara Hale\" Role="_s)) << "behind the name, before the role";
     services.keyboard.ctrl = true;
     CopyCredits(browser, CreditKind::Cast);
     EXPECT_TRUE(Clipboard().contains(u"LastName=\"Hale\""_s));
@@ -188,6 +188,51 @@ TEST_F(CreditCommands, PasteChangesNothing) {
     ClearAllProfileInfos(browser);
     SetClipboard(kOneActor);
     PasteCredits(browser, CreditKind::Cast); // no title, no question
+    EXPECT_EQ(Rows(u"SELECT MD5 FROM Profiles WHERE ProfileID = 'P1'"), QStringList{u"abc"_s});
+}
+
+TEST_F(CreditCommands, PasteTakesAnyTextForWhatItIs) {
+    const QString deep = QString(u"<a>"_s).repeated(100000);
+    const struct {
+        const char *name;
+        QString text;
+    } refused[] = {
+        {"binary", QString(QChar(0)) + u"\x01\x02\xffff"_s},
+        {"half a surrogate pair", QString(QChar(0xd83d)) + u"<CastInformation>"_s},
+        {"a page", u"<!DOCTYPE html><html><body>Actors</body></html>"_s},
+        {"no end", u"<CastInformation><Actors><Actor FirstName='Zoe'"_s},
+        {"deep", deep},
+        {"no actors", u"<CastInformation><Title>T</Title></CastInformation>"_s},
+        {"an entity of entities",
+         u"<!DOCTYPE x [<!ENTITY a 'b'><!ENTITY c '&a;&a;&a;'>]><CastInformation>&c;</CastInformation>"_s},
+    };
+    Show(u"P1"_s);
+    for (const auto &c : refused) {
+        SetClipboard(c.text);
+        ExpectQuestion(MessageAnswer::Yes);
+        Expect(u"Clipboard content is not a valid cast data!"_s, u"Invalid content"_s, MessageIcon::Warning);
+        PasteCredits(browser, CreditKind::Cast);
+        EXPECT_EQ(services.dialogs.Pending(), 0u) << c.name;
+        EXPECT_EQ(Cast(), QStringList{u"Mara Hale"_s}) << c.name;
+    }
+    SetClipboard(u"<CastInformation><Actors><Actor FirstName='"_s + QString(u'x').repeated(1000) +
+                 u"' LastName='' Role='"_s + QString(u'y').repeated(1000) +
+                 u"' BirthYear='99999999999999'/><Actor/><Actor FirstName='Al' LastName=\"O'Roe\" BirthYear='soon'/>"
+                 "</Actors></CastInformation>"_s);
+    ExpectQuestion(MessageAnswer::Yes);
+    ExpectImported(u"Cast"_s);
+    PasteCredits(browser, CreditKind::Cast);
+    EXPECT_TRUE(Cast().contains(u"Al O'Roe"_s)) << qPrintable(Cast().join(u'/'));
+}
+
+TEST_F(CreditCommands, PasteThatFailsLeavesTheCreditsOfBefore) {
+    Show(u"P1"_s);
+    const QStringList before = Rows(u"SELECT Name, Role, Position FROM CastCrew ORDER BY Position");
+    Run(u"DROP TABLE Alias"); // names are linked behind the rows
+    SetClipboard(QString(kOneActor).replace(u"Role='Cook'"_s, u"Role='Cook' CreditedAs='Zoë'"_s));
+    ExpectQuestion(MessageAnswer::Yes);
+    EXPECT_THROW(PasteCredits(browser, CreditKind::Cast), sql::SqlError);
+    EXPECT_EQ(Rows(u"SELECT Name, Role, Position FROM CastCrew ORDER BY Position"), before);
     EXPECT_EQ(Rows(u"SELECT MD5 FROM Profiles WHERE ProfileID = 'P1'"), QStringList{u"abc"_s});
 }
 

@@ -337,9 +337,9 @@ TEST(MenuTable, CheckableEntries) {
         EXPECT_EQ(entry.checked, states.value(name, nullptr)) << qPrintable(name);
         EXPECT_EQ(entry.inverse, name == u"mMovies") << qPrintable(name);
         EXPECT_EQ(entry.grid_lines != nullptr, name.startsWith(u"mToogleGridlines") || name == u"mToggleGridLinesAp");
-        EXPECT_EQ(entry.told_checked,
-                  QStringList({u"mLockProfile"_s, u"mLockEpisode"_s, u"mLockCast"_s, u"mLockCrew"_s, u"mLockField"_s})
-                      .contains(name))
+        EXPECT_EQ(entry.told_checked, QStringList({u"mLockProfile"_s, u"mLockEpisode"_s, u"mLockCast"_s, u"mLockCrew"_s,
+                                                   u"mLockField"_s, u"mLockCovers"_s})
+                                          .contains(name))
             << qPrintable(name);
     }
 }

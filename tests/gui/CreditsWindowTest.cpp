@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QStackedLayout>
+#include <QTimer>
 
 namespace ostrand {
 namespace {
@@ -259,7 +260,130 @@ TEST_F(CreditsWindow, ContextMenusOpen) {
     EXPECT_TRUE(Action(u"mLockCast"_s)->isChecked());
     MenuOf("treeCrew");
     EXPECT_FALSE(Action(u"mLockCrew"_s)->isChecked());
-    EXPECT_TRUE(Action(u"mNextHeadshot"_s)->isEnabled());
+    MenuOf("picActor");
+    for (const char16_t *name : {u"mNextHeadshot", u"mDownloadHeadshotFromURL", u"mDownloadHeadshotCast",
+                                 u"mDownloadHeadshotCrew", u"mAddAliasCast", u"mAddAliasCrew"}) {
+        EXPECT_TRUE(Action(QString::fromUtf16(name))->isEnabled()) << QString::fromUtf16(name).toStdString();
+    }
+    EXPECT_FALSE(Action(u"mSetHeadshotAsPrimary"_s)->isEnabled());
+    Draw(u"Wanda Quill_1.jpg"_s);
+    Trigger("mNextHeadshot");
+    MenuOf("picActor");
+    Trigger("mSetHeadshotAsPrimary");
+    EXPECT_TRUE(Control<ActorView>("picActor")->File().endsWith(u"Wanda Quill.jpg"_s));
+    ClickRow(RowOf(u"Aab Other"_s));
+    MenuOf("ListCast");
+    EXPECT_FALSE(Action(u"mAddAliasCast"_s)->isEnabled()) << "nobody is selected";
+}
+
+TEST_F(CreditsWindow, RowsStaySelectedWhenTheyComeAnew) {
+    Draw(u"Tom Vesper.jpg"_s);
+    Draw(u"Ida Loom.jpg"_s);
+    StartWith();
+    Click("ListCast", 3);
+    ASSERT_EQ(browser.credits.selected_name, u"Tom Vesper"_s);
+    const auto *picture = Control<ActorView>("picActor");
+    Trigger("mReverseCredit");
+    const QModelIndex diver = View("ListCast")->currentIndex();
+    EXPECT_EQ(diver.data().toString(), u"  Vesper, Tom"_s);
+    EXPECT_TRUE(View("ListCast")->selectionModel()->isSelected(diver));
+    EXPECT_TRUE(picture->File().endsWith(u"Tom Vesper.jpg"_s));
+    const QModelIndex direction = View("treeCrew")->model()->index(0, 0);
+    Click("treeCrew", direction.model()->index(0, 0, direction));
+    ASSERT_EQ(browser.credits.selected_name, u"Ida Loom"_s);
+    Trigger("mHideUnassignedCrew");
+    EXPECT_EQ(View("treeCrew")->currentIndex().data().toString(), u"Loom, Ida: Director"_s);
+    EXPECT_EQ(browser.credits.selected_name, u"Ida Loom"_s);
+    EXPECT_TRUE(picture->File().endsWith(u"Ida Loom.jpg"_s));
+    ClickRow(RowOf(u"Aab Other"_s));
+    EXPECT_FALSE(View("ListCast")->currentIndex().isValid()) << "other credits";
+}
+
+TEST_F(CreditsWindow, FollowsTheWindowsThatChangePeople) {
+    StartWith();
+    Click("ListCast", 0);
+    ClickHeader("listAppearences", 0);
+    Click("listAppearences", 0);
+    ASSERT_EQ(Column("listAppearences"), (QStringList{u"Aaa Test"_s, u"Aab Other"_s}));
+    const auto run = [this](const char *command, const std::function<void()> &change) {
+        QTimer::singleShot(0, main.get(), [change] {
+            QWidget *window = QApplication::activeModalWidget();
+            ASSERT_TRUE(window);
+            change();
+            window->close();
+        });
+        Trigger(command);
+    };
+    run("mEditCrossLinks", [this] {
+        session.Database->Execute(u"INSERT INTO CastCrew (ProfileID, Name, Role, Position, IsCast, BirthYear) VALUES "
+                                  u"('T2', 'W. Quill', 'Voice', 2, True, 0)");
+        session.Database->Execute(
+            u"INSERT INTO Alias (AliasName, CommonName, BirthYear) VALUES ('W. Quill', 'Wanda Quill', 0)");
+    });
+    EXPECT_EQ(Column("listAppearences"), (QStringList{u"Aaa Test"_s, u"Aab Other"_s, u"Aab Other"_s}));
+    EXPECT_EQ(View("listAppearences")->currentIndex().data().toString(), u"Aaa Test"_s);
+    EXPECT_EQ(browser.appearances.current_row, 0);
+    EXPECT_EQ(View("ListCast")->currentIndex().row(), 0);
+    for (const char *command : {"mManageHeadshots", "mHeadshotImport"}) {
+        QFile::remove(headshots + u"Wanda Quill.jpg"_s);
+        run(command, [this] { Draw(u"Wanda Quill.jpg"_s); });
+        EXPECT_TRUE(Control<ActorView>("picActor")->isVisible()) << command;
+        EXPECT_TRUE(View("ListCast")->currentIndex().data(CreditList::HeadshotRole).toBool()) << command;
+    }
+}
+
+TEST_F(CreditsWindow, TheCoverAndThePersonFillTheWidth) {
+    const QString covers = services.folders.dir / u"covers"_s + u'/';
+    QDir().mkpath(covers);
+    QImage cover(100, 140, QImage::Format_RGB32);
+    cover.fill(Qt::darkRed);
+    ASSERT_TRUE(cover.save(covers + u"T1f.jpg"_s));
+    ASSERT_TRUE(QImage(600, 900, QImage::Format_RGB32).save(headshots + u"Wanda Quill.jpg"_s));
+    Draw(u"Tom Vesper.jpg"_s); // smaller than the panel, and not to grow
+    StartWith({u"DELETE FROM DbInfo WHERE InfoName = 'CoverPath'"_s,
+               u"INSERT INTO DbInfo (InfoName, InfoValue) VALUES ('CoverPath', '%1')"_s.arg(covers),
+               u"INSERT INTO Profile2Episodes (ProfileID, EpisodeID) VALUES ('T1', 'S11.1')"_s});
+    main->resize(1000, 1400);
+    QCoreApplication::processEvents();
+    const auto ratio = [this](const char *name) {
+        const auto *picture = Control<QWidget>("Frame4_1")->findChild<QWidget *>(QLatin1String(name));
+        return double(picture->height()) / picture->width();
+    };
+    EXPECT_NEAR(ratio("picCover"), 1.4, 0.03);
+    Click("ListCast", 0);
+    QCoreApplication::processEvents();
+    EXPECT_NEAR(ratio("picCover"), 1.4, 0.03);
+    EXPECT_NEAR(ratio("picActor"), 1.5, 0.03);
+    session.view.DoNotResizeHeadshots = true;
+    Click("ListCast", 3);
+    QCoreApplication::processEvents();
+    EXPECT_NEAR(ratio("picCover"), 1.4, 0.03);
+    EXPECT_NEAR(Control<ActorView>("picActor")->HeightAt(200), 60, 1);
+    Click("ListCast", 0);
+    session.Database->Execute(u"DELETE FROM Profile2Episodes");
+    ClickRow(RowOf(u"Aab Other"_s));
+    ClickRow(RowOf(u"Aaa Test"_s));
+    Click("ListCast", 0);
+    QCoreApplication::processEvents();
+    EXPECT_NEAR(ratio("picCover"), 1.4, 0.03) << "nothing below, and the person comes at once";
+    main->resize(1000, 600); // too low for both
+    QCoreApplication::processEvents();
+    EXPECT_NEAR(ratio("picCover") / ratio("picActor"), 1.4 / 1.5, 0.03) << "both shrink alike";
+}
+
+TEST_F(CreditsWindow, ABrokenHeadshotLeavesThePlaceEmpty) {
+    QFile file(headshots + u"Wanda Quill.jpg"_s);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("just words");
+    file.close();
+    StartWith();
+    Click("ListCast", 0);
+    QCoreApplication::processEvents();
+    auto *picture = Control<ActorView>("picActor");
+    EXPECT_FALSE(picture->HasPicture());
+    EXPECT_LT(picture->HeightAt(300), 200) << "it takes no room for nothing";
+    EXPECT_EQ(Column("listAppearences").size(), 2) << "all else is shown";
+    EXPECT_EQ(services.dialogs.messages.size(), 0u);
 }
 
 TEST_F(CreditsWindow, AnAwardLeadsToItsFilm) {

@@ -141,6 +141,8 @@ protected:
             Action(name)->trigger();
             if (FindMenuEntry(name)->told_checked) {
                 Action(name)->trigger(); // a lock comes and goes
+            } else if (name == u"mLockSelectedProfiles") {
+                Action(u"mUnlockSelectedProfiles"_s)->trigger();
             }
             closer.stop();
             QCoreApplication::processEvents();

@@ -103,6 +103,8 @@ TEST_F(PictureViewTest, WhatIsNoPictureShowsNothing) {
         Wait();
         EXPECT_TRUE(view.Picture().isNull()) << c.name;
         EXPECT_FALSE(view.HasPicture()) << c.name;
+        view.ShowFile(c.path);
+        EXPECT_FALSE(view.HasPicture()) << c.name << " once more";
     }
 }
 

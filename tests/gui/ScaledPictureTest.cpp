@@ -35,6 +35,8 @@ TEST_F(ScaledPictureTest, FitsItsPlaceAndKeepsItsRatio) {
         {"odd ratio", {400, 200}, {100, 100}, 1.5, PictureGrowth::Fit, {150, 75}},
         {"grows", {40, 20}, {100, 100}, 1, PictureGrowth::Fit, {100, 50}},
         {"stays small", {40, 20}, {100, 100}, 1, PictureGrowth::Never, {40, 20}},
+        {"stays as large on a sharp screen", {40, 20}, {100, 100}, 2, PictureGrowth::Never, {80, 40}},
+        {"does not leave its place there", {60, 30}, {50, 50}, 2, PictureGrowth::Never, {100, 50}},
         {"shrinks all the same", {400, 200}, {100, 100}, 1, PictureGrowth::Never, {100, 50}},
         {"a line", {1000, 1}, {10, 10}, 1, PictureGrowth::Fit, {10, 1}},
     };

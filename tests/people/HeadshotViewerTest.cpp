@@ -71,6 +71,17 @@ TEST_F(HeadshotViewerTest, WithoutAPrimaryTheAlternateIsFoundAndThenNothing) {
     EXPECT_EQ(Next(), u"|0"_s);
 }
 
+TEST_F(HeadshotViewerTest, APersonHasPicturesBeforeAnyIsShown) {
+    Have({u"Ann_1.jpg"_s, u"Bo.jpg"_s, u".jpg"_s});
+    for (const auto &[name, has] : std::initializer_list<std::pair<QString, bool>>{
+             {u"Ann"_s, true}, {u"Cy"_s, false}, {u"Bo"_s, true}, {QString(), false}, {u"bo"_s, true}}) {
+        viewer.LoadHeadShot(name, true, {});
+        EXPECT_EQ(viewer.HasPictures(), has) << qPrintable(name);
+    }
+    viewer.Clear();
+    EXPECT_FALSE(viewer.HasPictures());
+}
+
 TEST_F(HeadshotViewerTest, ThePlaceInTheRowStaysFromPersonToPersonWithoutTheFlag) {
     Have({u"Ann.jpg"_s, u"Ann_1.jpg"_s, u"Bo.jpg"_s, u"Bo_1.jpg"_s});
     viewer.LoadHeadShot(u"Ann"_s, true, {});
@@ -144,9 +155,22 @@ TEST_F(HeadshotViewerTest, APictureThatIsGoneChangesNothing) {
     viewer.LoadHeadShot(u"Ann"_s, true, {});
     Next();
     QFile::remove(session.HeadshotPath + u"Ann_1.jpg"_s);
+    services.dialogs.ExpectMessage(u"The pictures cannot change places:\nSource file does not exist."_s,
+                                   MessageIcon::Warning, MessageAnswer::Ok, u"Make Primary"_s);
     viewer.SetHeadshotAsPrimary();
     EXPECT_EQ(Files(), QStringList{u"Ann.jpg"_s});
     EXPECT_EQ(Shown(), u"Ann.jpg"_s);
+}
+
+TEST_F(HeadshotViewerTest, APictureOfTheNetThatHasNoPlaceIsNotKept) {
+    services.downloader.pages[u"http://host/a"_s] = kPicture;
+    for (const auto &[name, folder] :
+         {std::pair(u"Ann"_s, QString()), std::pair(QString(), session.HeadshotPath),
+          std::pair(u"???"_s, session.HeadshotPath), std::pair(QString(300, u'x'), session.HeadshotPath)}) {
+        EXPECT_FALSE(viewer.DownloadHeadshot(u"http://host/a"_s, name, folder)) << qPrintable(name);
+    }
+    EXPECT_EQ(Files(), QStringList());
+    EXPECT_FALSE(QFileInfo::exists(u"Ann.jpg"_s));
 }
 
 TEST_F(HeadshotViewerTest, APictureOfTheNetIsKeptUnderTheCommonNameWithoutAYear) {
@@ -202,6 +226,18 @@ TEST_F(HeadshotViewerTest, OneTransferAtATime) {
         1, [this] { EXPECT_FALSE(viewer.DownloadHeadshot(u"http://host/a"_s, u"Ann"_s, session.HeadshotPath)); });
     EXPECT_TRUE(viewer.DownloadHeadshot(u"http://host/a"_s, u"Ann"_s, session.HeadshotPath));
     EXPECT_EQ(Files(), QStringList{u"Ann.jpg"_s});
+}
+
+TEST_F(HeadshotViewerTest, WhoIsSelectedMeanwhileKeepsThePicture) {
+    Have({u"Bo.jpg"_s});
+    services.downloader.pages[u"http://host/a"_s] = kPicture;
+    services.pump.At(1, [this] {
+        person = CreditPerson{u"Bo"_s, u"0"_s};
+        viewer.LoadHeadShot(u"Bo"_s, true, u"0"_s);
+    });
+    EXPECT_TRUE(viewer.DownloadHeadshot(u"http://host/a"_s, u"Ann"_s, session.HeadshotPath));
+    EXPECT_EQ(Shown(), u"Bo.jpg"_s);
+    EXPECT_EQ(Files(), (QStringList{u"Ann.jpg"_s, u"Bo.jpg"_s}));
 }
 
 } // namespace ostrand

@@ -2,7 +2,6 @@
 
 #include "browser/Browser.h"
 #include "browser/ui/Guarded.h"
-#include "platform_qt/ScaledPicture.h"
 
 #include <QContextMenuEvent>
 #include <QPainter>
@@ -11,10 +10,16 @@
 
 namespace ostrand {
 
+namespace {
+
+constexpr int kEmptyLines = 4;
+
+} // namespace
+
 ActorView::ActorView(Browser &browser, QWidget *parent) : QWidget(parent), browser_(browser) {
     setObjectName(QStringLiteral("picActor"));
     setFocusPolicy(Qt::StrongFocus);
-    connect(&browser_.credits.picActor, &ActorPicture::PictureChanged, this, &ActorView::ShowPicture);
+    connect(&browser_.credits.picActor, &HeadshotViewer::PictureChanged, this, &ActorView::ShowPicture);
     connect(&browser_, &Browser::SettingsChanged, this, &ActorView::Load);
     TranslateNames();
     ShowPicture();
@@ -30,12 +35,26 @@ void ActorView::ShowPicture() {
     setVisible(browser_.credits.picActor.HasPictures());
     setAccessibleDescription(browser_.credits.selected_name);
     Load();
+    Q_EMIT PictureShown();
+}
+
+PictureGrowth ActorView::Growth() const {
+    return browser_.session.view.DoNotResizeHeadshots ? PictureGrowth::Never : PictureGrowth::Fit;
 }
 
 void ActorView::Load() {
-    const PictureGrowth growth = browser_.session.view.DoNotResizeHeadshots ? PictureGrowth::Never : PictureGrowth::Fit;
-    picture_ = path_.isEmpty() ? QPixmap() : ScaledPicture(path_, size(), devicePixelRatioF(), growth);
+    picture_ = path_.isEmpty() ? QPixmap() : ScaledPicture(path_, size(), devicePixelRatioF(), Growth());
     update();
+}
+
+int ActorView::HeightAt(int width) const {
+    const QSize natural = PictureSize(path_);
+    const bool broken = picture_.isNull() && !size().isEmpty();
+    if (natural.isEmpty() || broken) {
+        return fontMetrics().height() * kEmptyLines; // to be clicked for an alternate
+    }
+    const int shown_width = Growth() == PictureGrowth::Never ? std::min(width, natural.width()) : width;
+    return shown_width * natural.height() / natural.width();
 }
 
 void ActorView::ShowNext() {

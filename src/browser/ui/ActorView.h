@@ -1,6 +1,8 @@
 // picActor.
 #pragma once
 
+#include "platform_qt/ScaledPicture.h"
+
 #include <QPixmap>
 #include <QWidget>
 
@@ -16,12 +18,16 @@ public:
 
     const QString &File() const { return path_; }
     bool HasPicture() const { return !picture_.isNull(); }
+    /// The height in which the picture fills a width.
+    int HeightAt(int width) const;
     void TranslateNames();
     QSize sizeHint() const override { return {200, 280}; }
 
 Q_SIGNALS:
     /// The context menu is asked for at a place of the screen.
     void MenuWanted(const QPoint &place);
+    /// Another picture, or none, is shown: another height is right.
+    void PictureShown();
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -33,6 +39,7 @@ protected:
 private:
     void ShowPicture();
     void Load();
+    PictureGrowth Growth() const;
     void ShowNext();
 
     Browser &browser_;

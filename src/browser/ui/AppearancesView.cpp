@@ -38,6 +38,8 @@ void AppearancesView::ConnectPanel() {
         ++fills_;
         browser_.appearances.current_row = -1;
     });
+    connect(&panel, &AppearancesPanel::CurrentRowChanged, this,
+            [this] { setCurrentIndex(model()->index(browser_.appearances.current_row, 0)); });
     connect(header(), &QHeaderView::sectionClicked, this, [this](int column) { SortAppearances(browser_, column); });
     connect(header(), &QHeaderView::sectionMoved, this, [this] {
         QList<int> &places = browser_.session.view.AppearancesOrderColumns;

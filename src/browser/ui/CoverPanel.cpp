@@ -18,6 +18,8 @@
 
 namespace ostrand {
 
+using namespace Qt::StringLiterals;
+
 CoverPanel::CoverPanel(Browser &browser, QWidget *parent) :
     QWidget(parent), browser_(browser), listSeasons_(new QComboBox(this)), picMedium_(new MediumIcon(this)),
     picCover_(new PictureView(this)), picActor_(new ActorView(browser, this)) {
@@ -41,11 +43,16 @@ CoverPanel::CoverPanel(Browser &browser, QWidget *parent) :
     connect(listSeasons_, &QComboBox::activated, this, [this](int index) { SelectSeason(browser_, index); });
     connect(&browser_, &Browser::CoverChanged, this, [this] {
         picCover_->ShowFile(CurrentCoverFile(browser_));
-        Q_EMIT WantedHeightChanged();
+        ShareHeight();
     });
+    connect(picCover_, &PictureView::PictureFailed, this, &CoverPanel::ShareHeight);
+    connect(picActor_, &ActorView::PictureShown, this, &CoverPanel::ShareHeight);
     picCover_->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(picCover_, &QWidget::customContextMenuRequested, this,
             [this](const QPoint &place) { Q_EMIT CoverMenuWanted(picCover_->mapToGlobal(place)); });
+    picMedium_->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(picMedium_, &QWidget::customContextMenuRequested, this,
+            [this](const QPoint &place) { Q_EMIT FieldMenuWanted(u"picMedium"_s, picMedium_->mapToGlobal(place)); });
     for (const auto signal : {&Browser::TitleChanged, &Browser::PageShown, &Browser::SkinChanged, &Browser::ModeChanged,
                               &Browser::SettingsChanged}) {
         connect(&browser_, signal, this, &CoverPanel::ShowMedium);
@@ -77,16 +84,37 @@ void CoverPanel::ShowMedium() {
     picMedium_->setVisible(IsMediaIconShown(browser_));
 }
 
-int CoverPanel::WantedHeight() const {
+int CoverPanel::CoverHeight() const {
     const QSize picture = picCover_->NaturalSize();
-    return picture.isEmpty() ? 0 : picCover_->y() + width() * picture.height() / picture.width();
+    return picture.isEmpty() ? 0 : width() * picture.height() / picture.width();
+}
+
+int CoverPanel::ActorHeight() const {
+    return picActor_->isHidden() ? 0 : picActor_->HeightAt(width());
+}
+
+int CoverPanel::WantedHeight() const {
+    const int cover = CoverHeight();
+    const int actor = ActorHeight();
+    return cover == 0 ? 0 : picCover_->y() + cover + (actor == 0 ? 0 : layout()->spacing() + actor);
+}
+
+void CoverPanel::ShareHeight() {
+    auto *box = static_cast<QVBoxLayout *>(layout());
+    const int cover = CoverHeight();
+    const int actor = ActorHeight();
+    box->setStretchFactor(picCover_, actor == 0 ? 1 : cover);
+    box->setStretchFactor(picActor_, actor);
+    // Room to spare stays below both.
+    picCover_->setMaximumHeight(actor == 0 ? QWIDGETSIZE_MAX : cover);
+    Q_EMIT WantedHeightChanged();
 }
 
 void CoverPanel::resizeEvent(QResizeEvent *event) {
     QWidget::resizeEvent(event);
     if (event->size().width() != event->oldSize().width()) {
         // Later: who hears of it changes the height, which must not happen within this event.
-        QMetaObject::invokeMethod(this, &CoverPanel::WantedHeightChanged, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &CoverPanel::ShareHeight, Qt::QueuedConnection);
     }
 }
 

@@ -19,7 +19,7 @@ public:
     explicit CoverPanel(Browser &browser, QWidget *parent = nullptr);
     ActorView *picActor() const { return picActor_; }
     void TranslateNames();
-    /// The height in which the cover fills the width; 0 without a cover.
+    /// The height in which the cover and the selected person below it fill the width; 0 without a cover.
     int WantedHeight() const;
 
 Q_SIGNALS:
@@ -27,6 +27,8 @@ Q_SIGNALS:
     void SeasonMenuWanted(const QPoint &place);
     /// The same of the cover.
     void CoverMenuWanted(const QPoint &place);
+    /// The same of a control that shows a field of the title.
+    void FieldMenuWanted(const QString &control, const QPoint &place);
     void WantedHeightChanged();
 
 protected:
@@ -35,6 +37,11 @@ protected:
 private:
     void ShowSeasons();
     void ShowMedium();
+    int CoverHeight() const;
+    /// 0 while nobody is shown.
+    int ActorHeight() const;
+    /// The cover and the person below it share the height as theirs are, so that both fill the width alike.
+    void ShareHeight();
 
     Browser &browser_;
     QComboBox *listSeasons_;

@@ -5,6 +5,7 @@
 #include "browser/Navigation.h"
 #include "browser/ui/FractionColumns.h"
 #include "browser/ui/Guarded.h"
+#include "browser/ui/KeptPerson.h"
 #include "browser/ui/PersonDelegate.h"
 
 #include <QContextMenuEvent>
@@ -48,6 +49,7 @@ CreditListView::CreditListView(Browser &browser, CreditList &credits, const QStr
     connect(&credits_, &QAbstractItemModel::modelReset, this, &CreditListView::SpanCaptions);
     connect(&credits_, &QAbstractItemModel::layoutChanged, this, &CreditListView::ShowSortMark);
     connect(&browser_, &Browser::SettingsChanged, this, &CreditListView::ApplyPlaces);
+    kept_ = new KeptPerson(browser_.credits, *this, CreditList::NameRole, CreditList::PositionRole);
     header()->setSortIndicatorShown(true);
     ShowSortMark();
 }
@@ -90,7 +92,7 @@ void CreditListView::FindPerson() {
 
 void CreditListView::selectionChanged(const QItemSelection &selected, const QItemSelection &deselected) {
     QTreeView::selectionChanged(selected, deselected);
-    if (!selected.isEmpty() && currentIndex().isValid()) {
+    if (!selected.isEmpty() && currentIndex().isValid() && !kept_->IsRestoring()) {
         ChoosePerson(currentIndex());
     }
 }

@@ -8,6 +8,7 @@ namespace ostrand {
 class Browser;
 class CreditList;
 class FractionColumns;
+class KeptPerson;
 class PersonDelegate;
 
 class CreditListView : public QTreeView {
@@ -42,6 +43,7 @@ private:
     CreditList &credits_;
     QList<int> &places_;
     PersonDelegate *delegate_;
+    KeptPerson *kept_ = nullptr;
     bool placing_ = false;
 };
 

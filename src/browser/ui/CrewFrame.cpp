@@ -4,6 +4,7 @@
 #include "browser/CreditCommands.h"
 #include "browser/ui/CreditListView.h"
 #include "browser/ui/Guarded.h"
+#include "browser/ui/KeptPerson.h"
 #include "browser/ui/PersonDelegate.h"
 
 #include <QContextMenuEvent>
@@ -14,10 +15,8 @@ namespace ostrand {
 namespace {
 
 /// Name and birth year of a node; both are empty for one that is no person.
-std::pair<QString, QString> PersonOf(const QModelIndex &index) {
-    const QString tag = index.data(CrewTree::TagRole).toString();
-    const qsizetype bar = tag.lastIndexOf(u'|'); // a name may hold one
-    return {tag.left(std::max<qsizetype>(bar, 0)), tag.mid(bar + 1)};
+CreditPerson PersonOf(const QModelIndex &index) {
+    return PersonOfTag(index.data(CrewTree::TagRole).toString());
 }
 
 } // namespace
@@ -34,6 +33,7 @@ CrewTreeView::CrewTreeView(Browser &browser, QWidget *parent) : QTreeView(parent
         expandAll();
         scrollToTop();
     });
+    kept_ = new KeptPerson(browser_.credits, *this, CrewTree::NameRole, CrewTree::PositionRole);
 }
 
 void CrewTreeView::ChoosePerson(const QModelIndex &index) {
@@ -44,7 +44,7 @@ void CrewTreeView::ChoosePerson(const QModelIndex &index) {
 }
 
 bool CrewTreeView::FindPerson() {
-    const QString name = PersonOf(currentIndex()).first;
+    const QString name = PersonOf(currentIndex()).name;
     if (!name.isEmpty()) {
         Guarded(browser_.session, [&] { FindCreditAppearances(browser_, name); });
     }
@@ -53,7 +53,7 @@ bool CrewTreeView::FindPerson() {
 
 void CrewTreeView::selectionChanged(const QItemSelection &selected, const QItemSelection &deselected) {
     QTreeView::selectionChanged(selected, deselected);
-    if (!selected.isEmpty() && currentIndex().isValid()) {
+    if (!selected.isEmpty() && currentIndex().isValid() && !kept_->IsRestoring()) {
         ChoosePerson(currentIndex());
     }
 }

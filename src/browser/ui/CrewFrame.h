@@ -9,6 +9,7 @@ namespace ostrand {
 
 class Browser;
 class CreditListView;
+class KeptPerson;
 
 /// treeCrew.
 class CrewTreeView : public QTreeView {
@@ -33,6 +34,7 @@ private:
     bool FindPerson();
 
     Browser &browser_;
+    KeptPerson *kept_ = nullptr;
 };
 
 class CrewFrame : public QWidget {

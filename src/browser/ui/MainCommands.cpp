@@ -6,11 +6,15 @@
 #include "browser/CollectionTabs.h"
 #include "browser/CollectionTypes.h"
 #include "browser/CreditCommands.h"
+#include "browser/Credits.h"
 #include "browser/Navigation.h"
+#include "browser/PanelFields.h"
+#include "browser/ProfileCommands.h"
 #include "browser/ProfileInfos.h"
 #include "browser/SkinView.h"
 #include "browser/TitleQueries.h"
 #include "browser/Views.h"
+#include "browser/ui/Guarded.h"
 #include "browser/ui/frmCover.h"
 #include "browser/ui/frmMain.h"
 #include "collection_files/ProfilerImport.h"
@@ -110,6 +114,13 @@ void Open(frmMain &main) {
     Window(main.browser.session, &main).exec();
 }
 
+/// What changes links, headshots or birth years: the main window shows them anew, whatever became of it.
+template <void (*kRun)(frmMain &)>
+void ChangePeople(frmMain &main) {
+    Guarded(main.browser.session, [&main] { kRun(main); });
+    RefreshPeople(main.browser);
+}
+
 struct Handler {
     const char16_t *name;
     void (*run)(frmMain &main);
@@ -125,7 +136,7 @@ constexpr Handler kHandlers[] = {
     {u"mExportSQL", Run<ChooseSQLToExport>},
     {u"mImportStrings", Run<ChooseStringsToImport>},
     {u"mExportStrings", Run<ChooseStringsToExport>},
-    {u"mImportAlias", Run<ChooseAliasFileToImport>},
+    {u"mImportAlias", ChangePeople<Run<ChooseAliasFileToImport>>},
     {u"mExportAlias", Run<ChooseAliasFileToExport>},
     {u"mCommandFile", Run<ChooseCommandFile>},
     {u"mExit", [](frmMain &main) { main.close(); }},
@@ -159,6 +170,17 @@ constexpr Handler kHandlers[] = {
     {u"mOrderPDateDesc", Sort<4, Order::Descending>},
     {u"mOrderRDateAsc", Sort<5, Order::Ascending>},
     {u"mOrderRDateDesc", Sort<5, Order::Descending>},
+    {u"mRemoveProfileInEdit", Browse<RemoveCurrentProfile>},
+    {u"mRemoveSelected", Browse<RemoveSelectedProfiles>},
+    {u"mMoveSelected", Browse<MoveSelectedProfiles>},
+    {u"mLockSelectedProfiles", Browse<LockSelectedProfiles>},
+    {u"mUnlockSelectedProfiles", Browse<UnlockSelectedProfiles>},
+    {u"mLockProfile", Browse<ToggleProfileLock>},
+    {u"mLockEpisode", Browse<ToggleEpisodeLock>},
+    {u"mLockField", Browse<ToggleFieldLock>},
+    {u"mLockCovers", Browse<ToggleFieldLock>},
+    {u"mChangeField", Browse<ChangeMenuField>},
+    {u"mCopyField", [](frmMain &main) { main.CopyField(); }},
     {u"mAddColType", Browse<AddColType>},
     {u"mRenameCollectionType", Browse<RenameCollectionType>},
     {u"mRemoveColType", Browse<RemoveColType>},
@@ -175,12 +197,18 @@ constexpr Handler kHandlers[] = {
     {u"mLockCrew", OfCredits<ToggleCreditLock, CreditKind::Crew>},
     {u"mGotoAppearance", [](frmMain &main) { GoToAppearance(main.browser, main.browser.appearances.current_row); }},
     {u"mNextHeadshot", [](frmMain &main) { main.browser.credits.picActor.AlternateHeadshot(); }},
+    {u"mSetHeadshotAsPrimary", Browse<SetHeadshotAsPrimary>},
+    {u"mDownloadHeadshotFromURL", Browse<DownloadHeadshot>},
+    {u"mDownloadHeadshotCast", Browse<DownloadHeadshot>},
+    {u"mDownloadHeadshotCrew", Browse<DownloadHeadshot>},
+    {u"mAddAliasCast", Browse<LinkSelectedPerson>},
+    {u"mAddAliasCrew", Browse<LinkSelectedPerson>},
     {u"mDropBox", ShowDropBox},
     {u"mSQLQuery", ShowSqlQuery},
-    {u"mEditCrossLinks", Open<frmCrossLinks>},
-    {u"mHeadshotImport", Open<frmCompare>},
-    {u"mManageHeadshots", Open<frmManageHeadshots>},
-    {u"mRemoveUnneededBirthYears", Run<RemoveUnneededBirthYears>},
+    {u"mEditCrossLinks", ChangePeople<Open<frmCrossLinks>>},
+    {u"mHeadshotImport", ChangePeople<Open<frmCompare>>},
+    {u"mManageHeadshots", ChangePeople<Open<frmManageHeadshots>>},
+    {u"mRemoveUnneededBirthYears", ChangePeople<Run<RemoveUnneededBirthYears>>},
     {u"mSettings", Open<frmSettings>},
     {u"mAbout", Open<frmAbout>},
 };

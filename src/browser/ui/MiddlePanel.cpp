@@ -45,6 +45,10 @@ MiddlePanel::MiddlePanel(Browser &browser, QWidget *parent) :
             SelectMainTab(browser_, index + 1);
         }
     });
+    for (const TextPanel *panel : {static_cast<TextPanel *>(Details_), static_cast<TextPanel *>(AV_)}) {
+        connect(panel, &TextPanel::FieldMenuWanted, this, &MiddlePanel::FieldMenuWanted);
+        connect(panel, &TextPanel::ChangeWanted, this, &MiddlePanel::FieldChangeWanted);
+    }
     connect(&browser_, &Browser::TabsChanged, this, &MiddlePanel::ShowTabs);
     connect(&browser_, &Browser::MainTabChanged, this, &MiddlePanel::ShowTabs);
     TranslateNames();

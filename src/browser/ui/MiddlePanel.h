@@ -24,6 +24,12 @@ public:
     CrewFrame *FrameCrew() const { return FrameCrew_; }
     void TranslateNames();
 
+Q_SIGNALS:
+    /// The context menu of a field is asked for at a place of the screen.
+    void FieldMenuWanted(const QString &control, const QPoint &place);
+    /// A field is to be changed.
+    void FieldChangeWanted(const QString &control);
+
 private:
     void ShowTabs();
 

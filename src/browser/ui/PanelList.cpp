@@ -2,6 +2,8 @@
 
 #include "browser/Browser.h"
 #include "browser/Navigation.h"
+#include "browser/PanelFields.h"
+#include "browser/ui/Guarded.h"
 #include "shell/ListTable.h"
 
 #include <QAction>
@@ -37,7 +39,8 @@ QList<int> ShareOut(int room, const QList<int> &wanted) {
 } // namespace
 
 PanelList::PanelList(Browser &browser, ListTable &table, const QString &name, QWidget *parent) :
-    QTreeView(parent), browser_(browser), table_(table), copy_(new QAction(this)), list_titles_(new QAction(this)) {
+    QTreeView(parent), browser_(browser), table_(table), copy_(new QAction(this)), list_titles_(new QAction(this)),
+    lock_(new QAction(this)) {
     setObjectName(name);
     setModel(&table_);
     setRootIsDecorated(false);
@@ -71,11 +74,30 @@ void PanelList::AddActions() {
         }
     });
     connect(copy_, &QAction::triggered, this, [this] { CopyListToClipboard(browser_, table_, true); });
-    addActions({list_titles_, copy_});
+    lock_->setObjectName(QStringLiteral("mLockValues"));
+    lock_->setCheckable(true);
+    connect(lock_, &QAction::triggered, this, [this] { browser_.commands.Run(QStringLiteral("mLockField")); });
+    auto *separator = new QAction(this);
+    separator->setSeparator(true);
+    addActions({list_titles_, copy_, separator, lock_});
     setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 
-void PanelList::TranslateNames(const QString &name, const QString &copy, const QString &list_titles) {
+void PanelList::PrepareMenu() {
+    lock_->setEnabled(PrepareFieldMenu(browser_, objectName()));
+    lock_->setChecked(browser_.commands.IsChecked(QStringLiteral("mLockField")));
+}
+
+bool PanelList::event(QEvent *event) {
+    if (event->type() == QEvent::ContextMenu) {
+        Guarded(browser_.session, [this] { PrepareMenu(); });
+    }
+    return QTreeView::event(event);
+}
+
+void PanelList::TranslateNames(const QString &name, const QString &copy, const QString &list_titles,
+                               const QString &lock) {
+    lock_->setText(lock);
     setAccessibleName(name);
     copy_->setText(copy + u'\t' + QKeySequence(QKeySequence::Copy).toString(QKeySequence::NativeText));
     list_titles_->setText(list_titles);
@@ -150,6 +172,9 @@ void PanelList::keyPressEvent(QKeyEvent *event) {
 }
 
 bool PanelList::viewportEvent(QEvent *event) {
+    if (event->type() == QEvent::ContextMenu) {
+        Guarded(browser_.session, [this] { PrepareMenu(); });
+    }
     if (event->type() == QEvent::ToolTip) {
         const auto *help = static_cast<QHelpEvent *>(event);
         const QModelIndex index = indexAt(help->pos());

@@ -14,7 +14,7 @@ class PanelList : public QTreeView {
 public:
     PanelList(Browser &browser, ListTable &table, const QString &name, QWidget *parent = nullptr);
     /// The texts of its menu, and the name for those who do not see the list.
-    void TranslateNames(const QString &name, const QString &copy, const QString &list_titles);
+    void TranslateNames(const QString &name, const QString &copy, const QString &list_titles, const QString &lock);
 
     /// The first text of the selected row as it is shown, and what it stands for in the database.
     QString SelectedText() const;
@@ -28,6 +28,7 @@ Q_SIGNALS:
     void Chosen();
 
 protected:
+    bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     bool viewportEvent(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
@@ -35,6 +36,8 @@ protected:
 
 private:
     void AddActions();
+    /// The menu is about to open: the lock of the values shows its state.
+    void PrepareMenu();
     void SortByHeader(int column);
     void ApplyWidths();
     int HeightOf(int rows) const;
@@ -43,6 +46,7 @@ private:
     ListTable &table_;
     QAction *copy_;
     QAction *list_titles_;
+    QAction *lock_;
     int sorted_by_ = -1;
     Qt::SortOrder order_ = Qt::AscendingOrder;
 };

@@ -32,6 +32,9 @@ void PictureView::ShowFile(const QString &path) {
     natural_ = PictureSize(path);
     changed_ = path.isEmpty() ? 0 : QFileInfo(path).lastModified().toMSecsSinceEpoch();
     Load();
+    if (const QPixmap *known = cache_.object(wanted_); known && known->isNull()) {
+        natural_ = {}; // it was found out before
+    }
     setFocusPolicy(path.isEmpty() ? Qt::NoFocus : Qt::StrongFocus);
 }
 
@@ -78,6 +81,9 @@ void PictureView::Take() {
     }
     cache_.insert(wanted_, new QPixmap(picture_));
     update();
+    if (natural_.isEmpty()) {
+        Q_EMIT PictureFailed();
+    }
 }
 
 void PictureView::paintEvent(QPaintEvent *) {

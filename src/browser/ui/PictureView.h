@@ -30,6 +30,8 @@ public:
 
 Q_SIGNALS:
     void Clicked();
+    /// The file turned out to be no picture, though its head promised one.
+    void PictureFailed();
 
 protected:
     void paintEvent(QPaintEvent *event) override;

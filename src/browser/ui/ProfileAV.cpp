@@ -1,6 +1,7 @@
 #include "browser/ui/ProfileAV.h"
 
 #include "browser/Browser.h"
+#include "browser/ui/FieldText.h"
 #include "browser/ui/PanelList.h"
 #include "shell/Session.h"
 
@@ -49,6 +50,7 @@ void ProfileAV::AddVideo() {
     for (const Mark &mark : kMarks) {
         marks_.push_back(AddMark(*frame, QString::fromUtf16(mark.name)));
     }
+    OfferFieldMenu(*frame->parentWidget()); // the marks let clicks through
 }
 
 void ProfileAV::TranslateNames() {

@@ -17,8 +17,8 @@ private:
     void AddVideo();
     void ShowTitle();
 
-    QLabel *textRatio_ = nullptr;
-    QLabel *textVideoFormat_ = nullptr;
+    FieldText *textRatio_ = nullptr;
+    FieldText *textVideoFormat_ = nullptr;
     std::vector<QCheckBox *> marks_;
     PanelList *listAudio_ = nullptr;
     PanelList *listSubtitles_ = nullptr;

@@ -1,6 +1,7 @@
 #include "browser/ui/ProfileDetails.h"
 
 #include "browser/Browser.h"
+#include "browser/ui/FieldText.h"
 #include "browser/ui/PanelList.h"
 #include "shell/Session.h"
 #include "shell/ui/LinkLabel.h"
@@ -73,6 +74,8 @@ void ProfileDetails::AddInfos() {
     links->addStretch(1);
     links->addWidget(urlIMDB_);
     frame->addLayout(links);
+    OfferFieldMenu(*UPC_);
+    OfferFieldMenu(*urlIMDB_);
     for (const Text &text : kTexts) {
         texts_.push_back(AddText(*frame, QString::fromUtf16(text.name)));
     }

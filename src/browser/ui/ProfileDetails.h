@@ -21,7 +21,7 @@ private:
 
     LinkLabel *UPC_;
     LinkLabel *urlIMDB_;
-    std::vector<QLabel *> texts_;
+    std::vector<FieldText *> texts_;
     PanelList *listGenres_ = nullptr;
     PanelList *listStudios_ = nullptr;
     PanelList *listFeatures_ = nullptr;

@@ -2,6 +2,7 @@
 
 #include "browser/Browser.h"
 #include "browser/SharedValues.h"
+#include "browser/ui/FieldText.h"
 #include "browser/ui/Guarded.h"
 #include "browser/ui/PanelList.h"
 
@@ -30,15 +31,19 @@ QVBoxLayout *TextPanel::AddFrame(const QString &name, int stretch) {
     return layout;
 }
 
-QLabel *TextPanel::AddText(QVBoxLayout &frame, const QString &name) {
-    auto *label = new QLabel;
-    label->setObjectName(name);
-    label->setTextFormat(Qt::PlainText);
-    label->setWordWrap(true);
-    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Minimum);
-    frame.addWidget(label);
-    return label;
+FieldText *TextPanel::AddText(QVBoxLayout &frame, const QString &name) {
+    auto *text = new FieldText(name);
+    frame.addWidget(text);
+    OfferFieldMenu(*text);
+    connect(text, &FieldText::ChangeWanted, this, [this, name] { Q_EMIT ChangeWanted(name); });
+    return text;
+}
+
+void TextPanel::OfferFieldMenu(QWidget &control) {
+    control.setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(&control, &QWidget::customContextMenuRequested, this, [this, &control](const QPoint &place) {
+        Q_EMIT FieldMenuWanted(control.objectName(), control.mapToGlobal(place));
+    });
 }
 
 PanelList *TextPanel::AddList(QVBoxLayout &frame, ListTable &table, const QString &name, const QString &category) {
@@ -69,7 +74,7 @@ QString TextPanel::Shown(const char16_t *text) const {
 }
 
 void TextPanel::TranslateList(PanelList &list, const char16_t *name) {
-    list.TranslateNames(Shown(name), Shown(u"&Copy"), Shown(u"&List Titles With This"));
+    list.TranslateNames(Shown(name), Shown(u"&Copy"), Shown(u"&List Titles With This"), Shown(u"Loc&k"));
 }
 
 } // namespace ostrand

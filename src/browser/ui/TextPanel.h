@@ -10,6 +10,7 @@ class QVBoxLayout;
 namespace ostrand {
 
 class Browser;
+class FieldText;
 class PanelList;
 
 /// A column of texts and lists that scrolls when there is little room. What it shows comes from the browser.
@@ -18,13 +19,21 @@ class TextPanel : public QScrollArea {
 public:
     TextPanel(Browser &browser, const QString &name, QWidget *parent = nullptr);
 
+Q_SIGNALS:
+    /// The context menu of a field is asked for at a place of the screen.
+    void FieldMenuWanted(const QString &control, const QPoint &place);
+    /// A field is to be changed.
+    void ChangeWanted(const QString &control);
+
 protected:
     /// A frame of that name at the end of the column.
     QVBoxLayout *AddFrame(const QString &name, int stretch);
-    /// A text that can be selected and breaks where there is too little room.
-    QLabel *AddText(QVBoxLayout &frame, const QString &name);
+    /// A text of a field, which breaks where there is too little room.
+    FieldText *AddText(QVBoxLayout &frame, const QString &name);
     /// A list whose rows lead to the titles of a category.
     PanelList *AddList(QVBoxLayout &frame, class ListTable &table, const QString &name, const QString &category);
+    /// Lets a control ask for the context menu of the field that it shows.
+    void OfferFieldMenu(QWidget &control);
     /// A check box that only shows.
     QCheckBox *AddMark(QVBoxLayout &frame, const QString &name);
     /// An empty text takes no room.

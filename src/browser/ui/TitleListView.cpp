@@ -5,6 +5,7 @@
 #include "browser/TitleQueries.h"
 #include "browser/TypedSearch.h"
 #include "browser/ui/TitleDelegate.h"
+#include "shell/Session.h"
 
 #include <QContextMenuEvent>
 #include <QHeaderView>
@@ -21,7 +22,6 @@ TitleListView::TitleListView(Browser &browser, QWidget *parent) :
     setRootIsDecorated(false);
     setUniformRowHeights(true);
     setAllColumnsShowFocus(true);
-    setSelectionMode(QAbstractItemView::SingleSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     header()->setSectionsClickable(true);
@@ -30,11 +30,33 @@ TitleListView::TitleListView(Browser &browser, QWidget *parent) :
     header()->setMinimumSectionSize(0);
     connect(header(), &QHeaderView::sectionClicked, this, [this](int column) { SortByHeader(browser_, column); });
     connect(&browser_, &Browser::CurrentRowChanged, this, &TitleListView::FollowBrowser);
+    connect(&browser_, &Browser::ModeChanged, this, &TitleListView::FollowView);
     connect(&browser_.listSeries, &TitleList::WidthsChanged, this, &TitleListView::ApplyWidths);
     connect(&browser_.listSeries, &QAbstractItemModel::modelReset, this, &TitleListView::ApplyWidths);
     connect(&browser_.listSeries, &QAbstractItemModel::modelReset, this, &TitleListView::ShowSortMark);
     connect(&browser_.listSeries, &QAbstractItemModel::layoutChanged, this, &TitleListView::ShowSortMark);
+    browser_.hooks.selected_rows = [this] { return SelectedRows(); };
+    FollowView();
     ApplyWidths();
+}
+
+TitleListView::~TitleListView() {
+    browser_.hooks.selected_rows = nullptr;
+}
+
+void TitleListView::FollowView() {
+    // Nothing is done to several series at once.
+    setSelectionMode(browser_.session.view.mTVShows ? QAbstractItemView::SingleSelection
+                                                    : QAbstractItemView::ExtendedSelection);
+}
+
+QList<int> TitleListView::SelectedRows() const {
+    QList<int> rows;
+    for (const QModelIndex &index : selectionModel()->selectedRows()) {
+        rows += index.row();
+    }
+    std::sort(rows.begin(), rows.end());
+    return rows;
 }
 
 void TitleListView::SetGridLines(bool shown) {
@@ -49,15 +71,22 @@ void TitleListView::FollowBrowser() {
         selectionModel()->clear();
         return;
     }
-    setCurrentIndex(index);
+    if (!moving_ || index.row() != currentIndex().row()) {
+        setCurrentIndex(index); // alone, unless the user is about to select it beside others
+    }
     scrollTo(index);
 }
 
 void TitleListView::currentChanged(const QModelIndex &current, const QModelIndex &previous) {
     QTreeView::currentChanged(current, previous);
     if (!following_ && current.isValid()) {
-        MoveToRow(browser_, current.row());
+        Move(current.row());
     }
+}
+
+void TitleListView::Move(int row) {
+    const QScopedValueRollback<bool> move(moving_, true);
+    MoveToRow(browser_, row);
 }
 
 void TitleListView::keyboardSearch(const QString &search) {
@@ -94,7 +123,7 @@ void TitleListView::mousePressEvent(QMouseEvent *event) {
     QTreeView::mousePressEvent(event);
     const QModelIndex pressed = indexAt(event->pos());
     if (event->button() == Qt::LeftButton && pressed.isValid() && before.isValid() && pressed.row() == before.row()) {
-        MoveToRow(browser_, pressed.row()); // one of its episodes may be what is shown
+        Move(pressed.row()); // one of its episodes may be what is shown
     }
 }
 

@@ -15,6 +15,7 @@ class TitleListView : public QTreeView {
     Q_OBJECT
 public:
     explicit TitleListView(Browser &browser, QWidget *parent = nullptr);
+    ~TitleListView() override;
 
     void SetGridLines(bool shown);
 
@@ -37,12 +38,17 @@ protected:
 
 private:
     void FollowBrowser();
+    /// The user went to a row.
+    void Move(int row);
+    void FollowView();
+    QList<int> SelectedRows() const;
     void ApplyWidths();
     void ShowSortMark();
 
     Browser &browser_;
     TitleDelegate *delegate_;
     bool following_ = false;
+    bool moving_ = false; ///< to the row that the user chose
     QString typed_;
     QElapsedTimer last_typed_;
 };

@@ -5,6 +5,8 @@
 #include "browser/CreditCommands.h"
 #include "browser/MenuStrings.h"
 #include "browser/Navigation.h"
+#include "browser/PanelFields.h"
+#include "browser/ProfileCommands.h"
 #include "browser/SkinView.h"
 #include "browser/Views.h"
 #include "browser/ui/ActorView.h"
@@ -150,11 +152,41 @@ void frmMain::OrderTabs() {
     for (const QAction *action : toolMain_->actions()) {
         stops.append(toolMain_->findChild<QToolButton *>(action->objectName()));
     }
-    for (const char16_t *name :
-         {u"tabColList",   u"comboFilter",  u"textFind",     u"listSeries",    u"listSeasons",     u"picCover",
-          u"picActor",     u"listEpisodes", u"tabMain",       u"ListCast",        u"ListCrew",
-          u"treeCrew",     u"UPC",          u"urlIMDB",       u"listGenres",      u"listStudios",
-          u"listFeatures", u"listAudio",    u"listSubtitles", u"listAppearences", u"treeAwards"}) {
+    for (const char16_t *name : {u"tabColList",
+                                 u"comboFilter",
+                                 u"textFind",
+                                 u"listSeries",
+                                 u"listSeasons",
+                                 u"picCover",
+                                 u"picActor",
+                                 u"listEpisodes",
+                                 u"tabMain",
+                                 u"ListCast",
+                                 u"ListCrew",
+                                 u"treeCrew",
+                                 u"UPC",
+                                 u"urlIMDB",
+                                 u"textTitle",
+                                 u"textSortTitle",
+                                 u"textOriginalTitle",
+                                 u"textOriginalSortTitle",
+                                 u"textCollectionNumber",
+                                 u"textCollectionType",
+                                 u"textReleaseDate",
+                                 u"textRuntime",
+                                 u"textRating",
+                                 u"textCaseType",
+                                 u"textRegions",
+                                 u"textLocality",
+                                 u"listGenres",
+                                 u"listStudios",
+                                 u"listFeatures",
+                                 u"listAudio",
+                                 u"listSubtitles",
+                                 u"textRatio",
+                                 u"textVideoFormat",
+                                 u"listAppearences",
+                                 u"treeAwards"}) {
         stops.append(findChild<QWidget *>(QString::fromUtf16(name)));
     }
     // What takes no focus, such as an empty cover, could get no place.
@@ -191,6 +223,7 @@ void frmMain::ConnectBrowser() {
     connect(episodes_, &EpisodePanel::RowActivated, this, [this] { browser.commands.Run(u"mEpisodeInfoContext"_s); });
     ConnectContextMenus();
     ConnectPeople();
+    ConnectFields();
     AddKeys();
 }
 
@@ -201,29 +234,56 @@ void frmMain::ConnectContextMenus() {
         }
     });
     connect(titles_->List(), &TitleListView::MenuWanted, this, [this](const QPoint &place) {
+        Guarded(browser.session, [this] { browser.commands.SetChecked(u"mLockProfile"_s, IsProfileLocked(browser)); });
         OpenContextMenu(browser.session.view.mTVShows ? u"mSeriesTools"_s : u"mProfileTools"_s, place);
     });
     connect(cover_, &CoverPanel::SeasonMenuWanted, this,
             [this](const QPoint &place) { OpenContextMenu(u"mSeasonTools"_s, place); });
-    connect(cover_, &CoverPanel::CoverMenuWanted, this,
-            [this](const QPoint &place) { OpenContextMenu(u"mCoverTools"_s, place); });
+    connect(cover_, &CoverPanel::CoverMenuWanted, this, [this](const QPoint &place) {
+        Guarded(browser.session, [this] { PrepareFieldMenu(browser, u"picCover"_s); });
+        OpenContextMenu(u"mCoverTools"_s, place);
+    });
     connect(episodes_, &EpisodePanel::MenuWanted, this, [this](const QPoint &place) {
-        browser.commands.SetChecked(u"mLockEpisode"_s, IsEpisodeLocked(browser));
+        Guarded(browser.session, [this] { browser.commands.SetChecked(u"mLockEpisode"_s, IsEpisodeLocked(browser)); });
         OpenContextMenu(u"mEpisodeTools"_s, place);
     });
+}
+
+void frmMain::ConnectFields() {
+    connect(middle_, &MiddlePanel::FieldMenuWanted, this, &frmMain::OpenFieldMenu);
+    connect(cover_, &CoverPanel::FieldMenuWanted, this, &frmMain::OpenFieldMenu);
+    connect(middle_, &MiddlePanel::FieldChangeWanted, this,
+            [this](const QString &control) { Perform([&] { ChangePanelField(browser, control); }); });
+}
+
+void frmMain::OpenFieldMenu(const QString &control, const QPoint &place) {
+    Guarded(browser.session, [&] { PrepareFieldMenu(browser, control); });
+    const auto *text = findChild<QLabel *>(control);
+    browser.commands.SetEnabled(u"mCopyField"_s, text && !text->text().isEmpty());
+    OpenContextMenu(u"mLockTools"_s, place);
+}
+
+void frmMain::CopyField() {
+    if (const auto *text = findChild<QLabel *>(browser.menu_field)) {
+        browser.session.services.clipboard.SetText(text->hasSelectedText() ? text->selectedText() : text->text());
+    }
 }
 
 void frmMain::ConnectPeople() {
     connect(middle_->ListCast(), &CreditListView::MenuWanted, this, [this](const QPoint &place) {
         browser.commands.SetChecked(u"mLockCast"_s, AreCreditsLocked(browser, CreditKind::Cast));
+        EnablePersonEntries(browser);
         OpenContextMenu(u"mCastTools"_s, place);
     });
     connect(middle_->FrameCrew(), &CrewFrame::MenuWanted, this, [this](const QPoint &place) {
         browser.commands.SetChecked(u"mLockCrew"_s, AreCreditsLocked(browser, CreditKind::Crew));
+        EnablePersonEntries(browser);
         OpenContextMenu(u"mCrewTools"_s, place);
     });
-    connect(cover_->picActor(), &ActorView::MenuWanted, this,
-            [this](const QPoint &place) { OpenContextMenu(u"mHeadshotTools"_s, place); });
+    connect(cover_->picActor(), &ActorView::MenuWanted, this, [this](const QPoint &place) {
+        EnablePersonEntries(browser);
+        OpenContextMenu(u"mHeadshotTools"_s, place);
+    });
     connect(appearances_, &AppearancesView::MenuWanted, this,
             [this](const QPoint &place) { OpenContextMenu(u"mToolsAppearances"_s, place); });
     connect(appearances_, &AppearancesView::RowActivated, this, [this] { browser.commands.Run(u"mGotoAppearance"_s); });

@@ -41,6 +41,8 @@ public:
     SplitPanel *Split(int number) const;
     /// Shows a table in a window of its own; one with the same caption is filled anew.
     void ShowListView(std::unique_ptr<ListTable> table);
+    /// mCopyField: puts what the field of the menu shows, or what is selected in it, on the clipboard.
+    void CopyField();
     /// Runs an action of the user. Its faults are told, and the end of the program that was asked for meanwhile comes
     /// behind it.
     void Perform(const std::function<void()> &action);
@@ -60,6 +62,9 @@ private:
     void ConnectBrowser();
     void ConnectContextMenus();
     void ConnectPeople();
+    void ConnectFields();
+    /// Opens mLockTools for a control that shows a field.
+    void OpenFieldMenu(const QString &control, const QPoint &place);
     void AddKeys();
     void SetWindowHooks();
     void Layout(bool reset);
