@@ -39,6 +39,7 @@ Database::Impl::~Impl() {
         }
     }
     ForgetStatements();
+    change_counter.reset();
     batch.reset();
     ddl.reset();
     if (connection.Handle()) {
@@ -229,17 +230,25 @@ int Database::Impl::Write(const std::function<int()> &change) {
     }
     batch->BeforeWrite();
     const bool outer = interruptible.exchange(may_stop);
-    int changes = 0;
+    int rows = 0;
     try {
-        changes = change();
+        rows = change();
     } catch (const SqlError &error) {
         interruptible = outer;
+        NoteWrite(false);
         batch->OnError(error);
         throw;
     }
     interruptible = outer;
+    NoteWrite(true);
     batch->AfterWrite();
-    return changes;
+    return rows;
+}
+
+void Database::Impl::NoteWrite(bool succeeded) {
+    if (change_counter) {
+        change_counter->AfterWrite(succeeded);
+    }
 }
 
 int Database::Impl::RunChange(CachedStatement &cached) {
@@ -563,6 +572,13 @@ void Database::DropIndex(QStringView table, QStringView index) {
         impl_->ddl->DropIndex({index.toString(), table.toString()});
         return 0;
     });
+}
+
+TableWatch Database::Watch(const QStringList &tables) {
+    if (!impl_->change_counter) {
+        impl_->change_counter = std::make_shared<ChangeCounter>(impl_->connection);
+    }
+    return {impl_->change_counter, tables};
 }
 
 void Database::Flush() {

@@ -366,7 +366,7 @@ TEST_F(MainMenu, TheTabKeyWalksFromLeftToRight) {
         ASSERT_GE(first_bar, lists.size());
         EXPECT_EQ(stops.sliced(stops.lastIndexOf(u"SplitBar"_s) + 1),
                   QStringList({u"SQL"_s, u"ProfileInfo"_s, u"ChangeMode"_s, u"tabColList"_s}) +
-                      (movies ? QStringList{u"comboFilter"_s} : QStringList()));
+                      (movies ? QStringList{u"comboFilter"_s} : QStringList()) + QStringList{u"textFind"_s});
         EXPECT_FALSE(stops.contains(u"ScrollRightButton"_s));
     }
 }

@@ -159,6 +159,7 @@ void frmMain::OrderTabs() {
     }
     for (const char16_t *name : {u"tabColList",
                                  u"comboFilter",
+                                 u"textFind",
                                  u"listSeries",
                                  u"listSeasons",
                                  u"picCover",
