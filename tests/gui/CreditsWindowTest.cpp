@@ -386,6 +386,69 @@ TEST_F(CreditsWindow, ABrokenHeadshotLeavesThePlaceEmpty) {
     EXPECT_EQ(services.dialogs.messages.size(), 0u);
 }
 
+TEST_F(CreditsWindow, ThePortraitComesBesideTheWorkOfTheWindow) {
+    const auto draw = [this](const QString &name, const QColor &colour) {
+        QImage image(600, 900, QImage::Format_RGB32);
+        image.fill(colour);
+        ASSERT_TRUE(image.save(headshots + name));
+    };
+    draw(u"Wanda Quill.jpg"_s, Qt::black);
+    draw(u"Wanda Quill_1.jpg"_s, Qt::white);
+    StartWith();
+    Click("ListCast", 0);
+    QCoreApplication::processEvents();
+    auto *picture = Control<ActorView>("picActor");
+    const auto shown = [&] {
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !picture->IsLoading(); }));
+        QCoreApplication::processEvents();
+        const QImage image = picture->Picture().toImage();
+        return image.isNull() ? QColor() : image.pixelColor(image.rect().center());
+    };
+    EXPECT_EQ(picture->HeightAt(200), 300) << "known from the head of the file";
+    EXPECT_EQ(shown(), QColor(Qt::black));
+    QTest::mouseClick(picture, Qt::LeftButton);
+    EXPECT_TRUE(picture->IsLoading()) << "the window does not wait";
+    EXPECT_EQ(shown(), QColor(Qt::white));
+    for (int i = 0; i < 9; ++i) {
+        QTest::mouseClick(picture, Qt::LeftButton);
+    }
+    EXPECT_EQ(shown(), QColor(Qt::black)) << "the last one asked for";
+    QTest::mouseClick(picture, Qt::LeftButton);
+    browser.credits.picActor.SetHeadshotAsPrimary();
+    EXPECT_EQ(shown(), QColor(Qt::white)) << "the files changed places";
+    Click("ListCast", 3);
+    EXPECT_TRUE(picture->File().isEmpty());
+    EXPECT_EQ(shown(), QColor());
+}
+
+TEST_F(CreditsWindow, AHeadshotThatBreaksOffLeavesThePlaceEmpty) {
+    QFile file(headshots + u"Wanda Quill.jpg"_s);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("P6\n400 600\n255\n");
+    file.close();
+    Draw(u"Wanda Quill_1.jpg"_s);
+    StartWith();
+    Click("ListCast", 0);
+    auto *picture = Control<ActorView>("picActor");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !picture->IsLoading() && !picture->HasPicture(); }));
+    EXPECT_LT(picture->HeightAt(300), 200);
+    EXPECT_TRUE(picture->isVisible());
+    QTest::keyClick(picture, Qt::Key_Enter);
+    EXPECT_TRUE(picture->File().endsWith(u"Wanda Quill_1.jpg"_s)) << "the other one can be reached";
+    EXPECT_TRUE(picture->HasPicture());
+}
+
+TEST_F(CreditsWindow, APortraitAsThinAsALineFitsIn) {
+    ASSERT_TRUE(QImage(1, 60000, QImage::Format_RGB32).save(headshots + u"Wanda Quill.jpg"_s));
+    StartWith();
+    Click("ListCast", 0);
+    QCoreApplication::processEvents();
+    auto *picture = Control<ActorView>("picActor");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !picture->IsLoading(); }));
+    EXPECT_LE(picture->height(), main->height());
+    EXPECT_FALSE(picture->Picture().isNull());
+}
+
 TEST_F(CreditsWindow, AnAwardLeadsToItsFilm) {
     StartWith();
     Click("ListCast", 0);
