@@ -1,5 +1,7 @@
 #include "base/FolderIndex.h"
 
+#include "base/FileNames.h"
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -41,9 +43,10 @@ void FolderIndex::ReadIfChanged() {
     changed_ = changed;
     names_.clear();
     ++reads_;
-    // By name, so that of two files that differ in case only it is always the same that is found.
-    for (const QString &name : QDir(folder_).entryList(QDir::Files | QDir::Hidden, QDir::Name)) {
-        names_.insert(name.toCaseFolded(), name);
+    for (const QString &name : FileNamesOf(folder_)) {
+        // Of two files that differ in case only it is always the same that is found.
+        QString &spelt = names_[name.toCaseFolded()];
+        spelt = std::max(spelt, name);
     }
 }
 

@@ -36,16 +36,22 @@ bool IsXmlPath(const QString &path) {
 /// Gives the event loop and the file their turns between links.
 class Rhythm {
 public:
-    explicit Rhythm(Session &session) : session_(session) {}
-    void Step() {
+    explicit Rhythm(Session &session) : session_(session), database_(session.Database.get()) {}
+    /// False when the user left the database meanwhile.
+    bool Step() {
         if (++count_ % kRowsPerTurn == 0) {
             session_.services.pump.Turn();
-            session_.Database->FlushIfDue();
+            if (session_.Database.get() != database_) {
+                return false;
+            }
+            database_->FlushIfDue();
         }
+        return true;
     }
 
 private:
     Session &session_;
+    sql::Database *database_;
     int count_ = 0;
 };
 
@@ -65,7 +71,9 @@ void ImportText(Session &session, const QString &path, bool silent) {
         }
         // A comment with a semicolon in it shifts the year: deliberate, the form knows no escape.
         LinkAlias(session, fields[1], fields[0], fields.value(3, u"0"_s).toInt(), silent, fields.value(2));
-        rhythm.Step();
+        if (!rhythm.Step()) {
+            return;
+        }
     }
 }
 
@@ -97,7 +105,9 @@ void ImportXml(Session &session, const QString &path, bool silent) {
         const int birth_year = XmlAttribute(common, "BirthYear", u"0"_s).toInt();
         for (const pugi::xml_node alias : common.children("Alias")) {
             LinkAlias(session, name, XmlAttribute(alias, "Name"), birth_year, silent, XmlAttribute(alias, "Comment"));
-            rhythm.Step();
+            if (!rhythm.Step()) {
+                return;
+            }
         }
     }
 }

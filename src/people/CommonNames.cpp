@@ -21,7 +21,8 @@ QVariant CommonNames::data(const QModelIndex &index, int role) const {
 }
 
 QVariant CommonNames::headerData(int section, Qt::Orientation orientation, int role) const {
-    return orientation == Qt::Horizontal && role == Qt::DisplayRole ? headers_.value(section) : QVariant();
+    const bool text = role == Qt::DisplayRole || role == Qt::ToolTipRole; // the column may be narrower
+    return orientation == Qt::Horizontal && text ? headers_.value(section) : QVariant();
 }
 
 void CommonNames::sort(int column, Qt::SortOrder order) {

@@ -178,6 +178,26 @@ void CrossLinkEditor::RemoveCommonName() {
     Select(std::min(row, listCommonNames.rowCount() - 1));
 }
 
+/// Wholly or not at all, since a group that is half moved would be lost.
+void CrossLinkEditor::MoveGroup(const QStringList &group, const CommonNames::Row &from, const CommonNames::Row &to) {
+    session_.Database->Flush();
+    sql::Database::Bracket bracket(*session_.Database);
+    try {
+        for (const QString &entry : group) {
+            DeleteAlias(session_, entry, to.birth_year);
+        }
+        MoveAlias(session_, from.name, to);
+        for (const QString &entry : group) {
+            if (entry != to.name) {
+                MoveAlias(session_, entry, to);
+            }
+        }
+    } catch (const sql::SqlError &) {
+        bracket.Abandon();
+        throw;
+    }
+}
+
 void CrossLinkEditor::SetAsCommon(const QString &alias) {
     if (Selected() < 0 || alias.isEmpty() || !listAlias.stringList().contains(alias)) {
         return;
@@ -185,19 +205,7 @@ void CrossLinkEditor::SetAsCommon(const QString &alias) {
     const int row = Selected();
     const CommonNames::Row old = SelectedRow();
     const CommonNames::Row common = {alias, old.birth_year};
-    {
-        const sql::Database::Bracket bracket(*session_.Database);
-        const QStringList group = listAlias.stringList();
-        for (const QString &entry : group) {
-            DeleteAlias(session_, entry, common.birth_year);
-        }
-        MoveAlias(session_, old.name, common);
-        for (const QString &entry : group) {
-            if (entry != alias) {
-                MoveAlias(session_, entry, common);
-            }
-        }
-    }
+    MoveGroup(listAlias.stringList(), old, common);
     listCommonNames.Remove(row);
     Select(listCommonNames.Append(common));
 }

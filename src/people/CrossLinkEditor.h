@@ -44,6 +44,8 @@ Q_SIGNALS:
 
 private:
     void Load();
+    /// Links all of a group to `to`, one of them.
+    void MoveGroup(const QStringList &group, const CommonNames::Row &from, const CommonNames::Row &to);
     /// Lists a name with the years that the table has for it, after these changed.
     void ListYearsOf(const QString &name);
     /// Text of the user as a year; nothing after it was told that it is none.

@@ -46,6 +46,21 @@ void Refuse(Session &session, bool silent, const QString &text, const QString &t
     }
 }
 
+/// The proposed alias is a common name: the pair is turned round, so that its group keeps its name. The aliases that
+/// the other name has itself come along, since no name is both an alias and a common name.
+void LinkTurnedRound(Session &session, const QString &common_name, const QString &alias_name, int birth_year,
+                     const QString &comment) {
+    const sql::Database::Bracket bracket(*session.Database);
+    session.Database->Execute(QString(u"UPDATE Alias SET CommonName = '"_s + EscapeSql(alias_name) +
+                                      u"' WHERE CommonName = '"_s + EscapeSql(common_name) + u"' AND BirthYear = "_s +
+                                      QString::number(birth_year)));
+    InsertAlias(session, alias_name, common_name, birth_year, comment);
+    Trace(session,
+          u"Invalid Link Entry: Alias "_s + alias_name + u" is already used as a CommonName. Imported "_s +
+              common_name + u" as Alias for "_s + alias_name + u" instead"_s,
+          kTraceInfo);
+}
+
 /// The proposed common name is an alias already, of `present`.
 void LinkBelowAlias(Session &session, const QString &common_name, const QString &alias_name, int birth_year,
                     bool silent, const QString &comment, const QString &present) {
@@ -173,11 +188,7 @@ void LinkAlias(Session &session, const QString &common_name, const QString &alia
     }
     if (LinkedTo(session, u"CommonName = "_s + quoted_alias, birth_year)) {
         // The first step has settled that the common name is no alias, so nothing stands against the turned pair.
-        InsertAlias(session, alias_name, common_name, birth_year, comment);
-        Trace(session,
-              u"Invalid Link Entry: Alias "_s + alias_name + u" is already used as a CommonName. Imported "_s +
-                  common_name + u" as Alias for "_s + alias_name + u" instead"_s,
-              kTraceInfo);
+        LinkTurnedRound(session, common_name, alias_name, birth_year, comment);
         return;
     }
     InsertAlias(session, common_name, alias_name, birth_year, comment);

@@ -4,6 +4,7 @@
 #include "base/FolderIndex.h"
 #include "base/Text.h"
 #include "people/CrossLinks.h"
+#include "people/HeadshotFolder.h"
 #include "shell/Session.h"
 
 #include <QDir>
@@ -46,6 +47,17 @@ HeadshotPlace FreeHeadshotPlace(const QString &folder, const QString &stem) {
         ++alternate;
     }
     return {WithSeparator(folder) + HeadshotFileName(stem, alternate), alternate};
+}
+
+void ChangePlaces(Session &session, const QString &routine, const QString &a, const QString &b) {
+    QString error;
+    if (!SwapPictures(a, b, &error)) {
+        Trace(session, routine + QStringLiteral(": ") + error, kTraceError);
+        ShowMessage(session,
+                    {.text = Translate(session, QStringLiteral("The pictures cannot change places:")) + u'\n' + error,
+                     .title = Translate(session, QStringLiteral("Make Primary")),
+                     .icon = MessageIcon::Warning});
+    }
 }
 
 QString FindHeadshot(Session &session, FolderIndex &index, const QString &name, const QString &birth_year,

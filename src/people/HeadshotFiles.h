@@ -21,6 +21,9 @@ struct HeadshotPlace {
 /// The first free place of a name in a folder.
 HeadshotPlace FreeHeadshotPlace(const QString &folder, const QString &stem);
 
+/// SwapPictures with its fault traced for `routine` and shown.
+void ChangePlaces(Session &session, const QString &routine, const QString &a, const QString &b);
+
 /// The picture of a person; empty when there is none. An alternate that does not exist leads back to the primary, and
 /// `alternate` is 0 then. `index` keeps the names of the headshot folder from call to call.
 QString FindHeadshot(Session &session, FolderIndex &index, const QString &name, const QString &birth_year,

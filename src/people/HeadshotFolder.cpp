@@ -1,5 +1,6 @@
 #include "people/HeadshotFolder.h"
 
+#include "base/FileNames.h"
 #include "base/Files.h"
 #include "base/Text.h"
 #include "platform/Services.h"
@@ -82,7 +83,13 @@ bool SwapPictures(const QString &a, const QString &b, QString *error) {
         return Move(a, b, error);
     }
     const QString temporary = TemporaryPlace(QFileInfo(a).dir());
-    if (temporary.isEmpty() || !Move(a, temporary, error)) {
+    if (temporary.isEmpty()) {
+        if (error != nullptr) {
+            *error = QFileInfo(a).dir().filePath(kTemporary) + u" is in the way"_s;
+        }
+        return false;
+    }
+    if (!Move(a, temporary, error)) {
         return false;
     }
     if (!Move(b, a, error)) {
@@ -98,9 +105,14 @@ bool SwapPictures(const QString &a, const QString &b, QString *error) {
 }
 
 PictureFolder::PictureFolder(const QString &folder) : folder_(WithSeparator(folder)) {
-    for (const QString &name : QDir(folder).entryList(QDir::Files | QDir::Hidden, QDir::Name)) {
+    if (folder.isEmpty()) {
+        return; // it would be the one that the program was started in
+    }
+    for (const QString &name : FileNamesOf(folder)) {
         if (IsHeadshotName(name)) {
-            names_[name.toCaseFolded()] += name;
+            QStringList &spelt = names_[name.toCaseFolded()];
+            spelt += name;
+            spelt.sort(); // so that it is always the same that is found
         }
     }
 }
@@ -162,18 +174,32 @@ bool PictureFolder::Remove(const QString &name) {
     return true;
 }
 
-bool PictureFolder::Write(const QString &name, const QByteArray &content) {
-    const QString present = Find(name);
-    if (!MakeFolderPath(folder_)) {
+bool PictureFolder::Copy(const QString &source, const QString &name) {
+    if (folder_.isEmpty() || !MakeFolderPath(folder_)) {
         error_ = u"cannot make the folder "_s + folder_;
         return false;
     }
-    if (!ReplaceFile(Path(present.isEmpty() ? name : present), content, &error_)) {
+    const std::optional<QByteArray> picture = ReadFile(source);
+    if (!picture) {
+        error_ = u"cannot read "_s + source;
         return false;
     }
-    if (present.isEmpty()) {
-        names_[name.toCaseFolded()] += name;
+    const QString present = Find(name);
+    return present.isEmpty() ? WriteNew(name, *picture) : ReplaceFile(Path(present), *picture, &error_);
+}
+
+/// Not made durable one by one, which takes most of the time of many: the source still has them.
+bool PictureFolder::WriteNew(const QString &name, const QByteArray &picture) {
+    QFile file(Path(name));
+    const bool opened = file.open(QIODevice::NewOnly);
+    if (!opened || file.write(picture) != picture.size() || !file.flush()) {
+        error_ = file.errorString();
+        if (opened) {
+            file.remove();
+        }
+        return false;
     }
+    names_[name.toCaseFolded()] += name;
     return true;
 }
 
@@ -196,7 +222,7 @@ void HeadshotFolder::SetPattern(const QString &pattern) {
 }
 
 void HeadshotFolder::Reload() {
-    names_ = folder_.isEmpty() ? QStringList() : QDir(folder_).entryList(QDir::Files | QDir::Hidden, QDir::NoSort);
+    names_ = folder_.isEmpty() ? QStringList() : FileNamesOf(folder_);
     names_.erase(
         std::remove_if(names_.begin(), names_.end(), [](const QString &name) { return !IsHeadshotName(name); }),
         names_.end());

@@ -46,12 +46,13 @@ public:
     /// False with the fault in Error(), and nothing changed.
     bool Rename(const QString &from, const QString &to);
     bool Remove(const QString &name);
-    /// Writes a file in place of the one that has the name.
-    bool Write(const QString &name, const QByteArray &content);
+    /// Copies a file from elsewhere, in place of the one that has the name.
+    bool Copy(const QString &source, const QString &name);
     const QString &Error() const { return error_; }
 
 private:
     void Forget(const QString &name);
+    bool WriteNew(const QString &name, const QByteArray &picture);
 
     QString folder_;
     QHash<QString, QStringList> names_; // folded to those that are spelt so

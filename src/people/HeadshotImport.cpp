@@ -1,6 +1,7 @@
 #include "people/HeadshotImport.h"
 
 #include "base/Files.h"
+#include "people/HeadshotFiles.h"
 #include "people/HeadshotTools.h"
 #include "people/ProgressJob.h"
 
@@ -43,14 +44,10 @@ public:
 
     /// Writes a picture into both folders, in place of what is there. Empty, or why it could not be done.
     QString Store(const QString &source, const QString &name) {
-        const std::optional<QByteArray> picture = ReadFile(source);
-        if (!picture) {
-            return u"cannot read "_s + source;
-        }
-        if (!heads.Write(name, *picture)) {
+        if (!heads.Copy(source, name)) {
             return heads.Error();
         }
-        return additional_ && !additional_->Write(name, *picture) ? additional_->Error() : QString();
+        return additional_ && !additional_->Copy(source, name) ? additional_->Error() : QString();
     }
 
 private:
@@ -159,11 +156,8 @@ void HeadshotImport::MakePrimary() {
     }
     const QString newest = primary_.chopped(4) + u'_' + QString::number(alternates_ - 1) + u".jpg"_s;
     const QString primary = FindIgnoringCase(session_.HeadshotPath, primary_);
-    QString error;
-    if (!SwapPictures(WithSeparator(session_.HeadshotPath) + newest,
-                      primary.isEmpty() ? WithSeparator(session_.HeadshotPath) + primary_ : primary, &error)) {
-        Trace(session_, u"MakePrimary: "_s + error, kTraceError);
-    }
+    ChangePlaces(session_, u"MakePrimary"_s, WithSeparator(session_.HeadshotPath) + newest,
+                 primary.isEmpty() ? WithSeparator(session_.HeadshotPath) + primary_ : primary);
     alternates_ = 1;
     Changed();
 }

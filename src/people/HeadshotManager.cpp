@@ -1,9 +1,12 @@
 #include "people/HeadshotManager.h"
 
 #include "base/Files.h"
-#include "shell/Session.h"
+#include "people/HeadshotFiles.h"
+#include "people/ProgressJob.h"
 
 #include <QFile>
+
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -12,6 +15,8 @@ namespace ostrand {
 namespace {
 
 constexpr QLatin1StringView kSection = "HeadhotWizard"_L1; // spelt so in every file: deliberate
+
+constexpr qsizetype kManyFiles = 100; ///< more of them take a moment, so that the user sees how far it is
 
 bool IsTrue(const QString &text) {
     return text.compare(u"True"_s, Qt::CaseInsensitive) == 0;
@@ -44,6 +49,28 @@ void HeadshotManager::ShowFilter(const QString &text, bool substring) {
     FileListImages.SetPattern(substring && !text.isEmpty() ? u'*' + text + u"*.jpg"_s : text + u"*.jpg"_s);
 }
 
+QString HeadshotManager::DeleteFiles(const QStringList &names) {
+    std::optional<ProgressJob> job;
+    if (names.size() > kManyFiles) {
+        job.emplace(session_, u"Delete Images"_s, names.size());
+    }
+    QString fault;
+    for (const QString &name : names) {
+        QFile file(WithSeparator(FileListImages.Folder()) + name);
+        if (!file.remove() && file.exists()) {
+            fault = name + u": "_s + file.errorString();
+            Trace(session_, u"DeleteImages: "_s + fault, kTraceError);
+        }
+        if (job) {
+            job->Step();
+            if (job->Cancelled()) {
+                break;
+            }
+        }
+    }
+    return fault;
+}
+
 bool HeadshotManager::DeleteImages(const QStringList &names) {
     if (names.isEmpty()) {
         return false;
@@ -57,14 +84,7 @@ bool HeadshotManager::DeleteImages(const QStringList &names) {
         ShowMessage(session_, question) != MessageAnswer::Yes) {
         return false;
     }
-    QString fault;
-    for (const QString &name : names) {
-        QFile file(WithSeparator(FileListImages.Folder()) + name);
-        if (!file.remove() && file.exists()) {
-            fault = name + u": "_s + file.errorString();
-            Trace(session_, u"DeleteImages: "_s + fault, kTraceError);
-        }
-    }
+    const QString fault = DeleteFiles(names);
     FileListImages.Reload();
     if (!fault.isEmpty()) {
         ShowMessage(session_, {.text = Text(u"A picture cannot be deleted:") + u'\n' + fault,
@@ -86,10 +106,7 @@ void HeadshotManager::MakePrimary(const QString &name) {
     const QString folder = WithSeparator(FileListImages.Folder());
     const QString wanted = SplitHeadshotName(name).stem + u".jpg"_s;
     const QString found = FindIgnoringCase(folder, wanted);
-    QString error;
-    if (!SwapPictures(folder + name, found.isEmpty() ? folder + wanted : found, &error)) {
-        Trace(session_, u"MakePrimary: "_s + error, kTraceError);
-    }
+    ChangePlaces(session_, u"MakePrimary"_s, folder + name, found.isEmpty() ? folder + wanted : found);
     FileListImages.Reload();
 }
 

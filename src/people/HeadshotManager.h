@@ -37,6 +37,8 @@ public:
 
 private:
     QString Text(const char16_t *english) const;
+    /// The last fault; empty when there was none.
+    QString DeleteFiles(const QStringList &names);
 
     Session &session_;
 };

@@ -103,7 +103,7 @@ void ForEachPicture(Session &session, const QString &title, const QString &routi
 }
 
 void RemoveSpaces(Tidying &tidying, const QString &name) {
-    const HeadshotName parts = SplitHeadshotName(name.chopped(4).trimmed());
+    const HeadshotName parts = SplitHeadshotName(Jpg(name.chopped(4).trimmed()));
     const QString stem = QString(parts.stem).replace("__"_L1, " "_L1).replace(u'_', u' ').trimmed();
     // A name of blanks alone would be none.
     if (!stem.isEmpty() && HeadshotName{stem, parts.tail}.Joined() != name.chopped(4)) {

@@ -4,7 +4,6 @@
 #include "base/Text.h"
 #include "people/CrossLinks.h"
 #include "people/HeadshotFiles.h"
-#include "people/HeadshotFolder.h"
 #include "shell/Dialogs.h"
 #include "shell/Download.h"
 #include "shell/Session.h"
@@ -65,10 +64,7 @@ void HeadshotViewer::SetHeadshotAsPrimary() {
     }
     const QString primary = QString(picture_).remove(at, suffix.size());
     const QString found = FindIgnoringCase(session_.HeadshotPath, primary.mid(primary.lastIndexOf(u'/') + 1));
-    QString error;
-    if (!SwapPictures(picture_, found.isEmpty() ? primary : found, &error)) {
-        Trace(session_, u"SetHeadshotAsPrimary: "_s + error, kTraceError);
-    }
+    ChangePlaces(session_, u"SetHeadshotAsPrimary"_s, picture_, found.isEmpty() ? primary : found);
     index_.Invalidate();
     if (const std::optional<CreditPerson> person = selected ? selected() : std::nullopt) {
         LoadHeadShot(person->name, true, person->birth_year);
@@ -109,7 +105,7 @@ bool HeadshotViewer::Fetch(const QString &url, const QString &path) {
 }
 
 bool HeadshotViewer::DownloadHeadshot(const QString &url, const QString &name, const QString &folder) {
-    if (url.trimmed().isEmpty() || SafeFileName(name).trimmed().isEmpty() || fetching_) {
+    if (url.trimmed().isEmpty() || SafeFileName(name).trimmed().isEmpty() || folder.isEmpty() || fetching_) {
         return false;
     }
     const bool shown = IsHeadshotFolder(folder);

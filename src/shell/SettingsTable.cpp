@@ -237,10 +237,12 @@ constexpr const char16_t *kWindowSections[] = {
     u"ListViewWindow",
     u"EditSkin",
     u"EncryptionPad",
-    // Those that are no smaller than the others, though an older program kept no place for them.
+    // Those that an older program kept no place for.
     u"CrossLinks",
     u"ManageHeadshots",
     u"HeadshotImport",
+    u"HeadshotTools",
+    u"DropBox",
     u"HTMLExport",
 };
 

@@ -1,4 +1,5 @@
 #include "base/FolderIndex.h"
+#include "base/FileNames.h"
 
 #include "support/TempDir.h"
 
@@ -37,6 +38,23 @@ TEST_F(FolderIndexTest, FindsANameInAnySpelling) {
     for (const auto &c : cases) {
         EXPECT_EQ(Found(c.asked), c.found) << qPrintable(c.asked);
     }
+}
+
+TEST(FileNames, AreThoseOfFilesAlone) {
+    test::TempDir folder;
+    for (const QString &name :
+         {QStringLiteral("Ann.jpg"), QStringLiteral(".hidden"), QStringLiteral("\u00D3scar \u732B")}) {
+        folder.Write(name, "x");
+    }
+    folder.Write(QStringLiteral("inner/Bo.jpg"), "x");
+    ASSERT_TRUE(QFile::link(folder / QStringLiteral("Ann.jpg"), folder / QStringLiteral("link")));
+    ASSERT_TRUE(QFile::link(folder / QStringLiteral("gone"), folder / QStringLiteral("broken")));
+    QStringList names = FileNamesOf(folder.Path());
+    names.sort();
+    EXPECT_EQ(names, (QStringList{QStringLiteral(".hidden"), QStringLiteral("Ann.jpg"), QStringLiteral("link"),
+                                  QStringLiteral("\u00D3scar \u732B")}));
+    EXPECT_EQ(FileNamesOf(folder / QStringLiteral("gone")), QStringList());
+    EXPECT_EQ(FileNamesOf(folder / QStringLiteral("Ann.jpg")), QStringList());
 }
 
 TEST_F(FolderIndexTest, ANameSpeltExactlyWins) {

@@ -162,8 +162,9 @@ TEST_F(CompareWindow, OtherProgramsGetTheRightPicture) {
     const QString path = Picture(u"source/Ann.jpg"_s, {8, 8});
     Open();
     services.dialogs.ExpectOpenFile(u"/usr/bin/paint"_s, u"Select your image editing application:"_s);
-    QTest::keyClick(FindControl<QLabel>(*window, "labelClickHere"), Qt::Key_Tab);
-    Q_EMIT FindControl<QLabel>(*window, "labelClickHere")->linkActivated(u"#"_s);
+    QTest::keyClick(FindControl<QLabel>(*window, "labelClickHere"), Qt::Key_Return);
+    services.dialogs.ExpectOpenFile({}, u"Select your image editing application:"_s);
+    QTest::mouseClick(FindControl<QLabel>(*window, "labelClickHere"), Qt::LeftButton);
     Click("cbEditImage");
     ASSERT_EQ(services.processes.runs.size(), 1u);
     EXPECT_EQ(services.processes.runs.front(), (QStringList{u"/usr/bin/paint"_s, path}));
@@ -236,6 +237,37 @@ TEST_F(CompareWindow, KeepsItsSettings) {
     Open();
     EXPECT_TRUE(FindControl<QCheckBox>(*window, "checkNoResizeRight")->isChecked());
     EXPECT_EQ(window->size(), QSize(1100, 760));
+}
+
+TEST_F(CompareWindow, AllIsReachedWithTheKeyboard) {
+    Picture(u"heads/Ann.jpg"_s, {4, 6});
+    Picture(u"source/Ann.jpg"_s, {8, 8});
+    Open();
+    QStringList reached;
+    for (int i = 0; i < 40 && !reached.contains(window->focusWidget()->objectName()); ++i) {
+        reached += window->focusWidget()->objectName();
+        QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+    }
+    EXPECT_EQ(
+        reached.join(u' ').toStdString(),
+        "FileListImages checkAlsoCopyTo cbSetSourcePath checkNoResizeLeft cbCopyImage cbCopyAlternative cbEditImage "
+        "cbOpenImage cbReload labelClickHere cbDropBox cbMore cbExit checkNoResizeRight");
+}
+
+TEST_F(CompareWindow, TheToolsKeepTheirPlace) {
+    HeadshotImport import(session);
+    QRect place;
+    {
+        frmComparerTools tools(session, import);
+        tools.show();
+        tools.setGeometry(50, 60, tools.width() + 70, tools.height() + 80);
+        place = tools.geometry();
+        QTest::keyClick(&tools, Qt::Key_Escape);
+        EXPECT_FALSE(tools.isVisible());
+    }
+    frmComparerTools again(session, import);
+    again.show();
+    EXPECT_EQ(again.geometry(), place);
 }
 
 TEST_F(CompareWindow, ASourceThatIsGoneIsAnEmptyList) {

@@ -5,6 +5,7 @@
 #include "people/CrossLinks.h"
 #include "people/ui/frmCrossLinks.h"
 
+#include <QAction>
 #include <QLabel>
 #include <QListView>
 #include <QPushButton>
@@ -165,6 +166,32 @@ TEST_F(CrossLinksWindow, CtrlCCopiesRows) {
     aliases->setFocus();
     QTest::keyClick(aliases, Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(services.clipboard.Text().split(u'\n').size(), 3) << "all, since none is selected";
+}
+
+TEST_F(CrossLinksWindow, AllIsReachedWithTheKeyboard) {
+    aliases->setCurrentIndex(aliases->model()->index(0, 0));
+    QStringList reached;
+    for (int i = 0; i < 40 && !reached.contains(window->focusWidget()->objectName()); ++i) {
+        reached += window->focusWidget()->objectName();
+        QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+    }
+    EXPECT_EQ(reached.join(u' ').toStdString(),
+              "listCommonNames listAlias cbAddCommonName cbAddAlias cbRemoveAlias cbSetAsCommon cbChangeYear "
+              "cbAdjustAwardData cbClearAlias cbExit");
+}
+
+TEST_F(CrossLinksWindow, TheMenusOfTheListsCopyAndRemove) {
+    const auto entry = [](QWidget *list, const char *name) {
+        EXPECT_EQ(list->contextMenuPolicy(), Qt::ActionsContextMenu);
+        return FindControl<QAction>(*list, name);
+    };
+    EXPECT_EQ(entry(names, "mDelete")->text(), u"Remove Common Name"_s);
+    EXPECT_EQ(entry(aliases, "mDelete")->text(), u"Remove Alias"_s);
+    entry(names, "mCopyToClipboard")->trigger();
+    EXPECT_EQ(services.clipboard.Text(), u"Ann\t0\n"_s);
+    services.dialogs.ExpectMessage({}, MessageAnswer::No, u"Remove Common Name"_s);
+    entry(names, "mDelete")->trigger();
+    EXPECT_EQ(Links(), 3);
 }
 
 TEST_F(CrossLinksWindow, KeepsItsPlaceAndCloses) {

@@ -147,6 +147,15 @@ TEST_F(DropBoxWindow, AsksForThePerson) {
     EXPECT_EQ(Headshots(), QStringList(u"Bo.jpg"_s));
 }
 
+TEST_F(DropBoxWindow, KeepsItsPlace) {
+    window.setGeometry(30, 40, window.width() + 50, window.height() + 60);
+    const QSize size = window.size();
+    window.close();
+    const frmDropBox again(session);
+    EXPECT_EQ(again.size(), size);
+    EXPECT_EQ(again.pos(), window.pos());
+}
+
 TEST_F(DropBoxWindow, EscCloses) {
     QTest::keyClick(&window, Qt::Key_Escape);
     EXPECT_FALSE(window.isVisible());

@@ -1,6 +1,8 @@
 // The program in another language.
 #include "MainWindowFixture.h"
 
+#include "people/HeadshotImport.h"
+#include "people/ui/frmComparerTools.h"
 #include "queries/LanguageFile.h"
 
 #include <QDialog>
@@ -67,8 +69,14 @@ TEST_F(LanguageTest, EveryTextThatIsMetHasATranslation) {
                                     "mBoxsetView", "mOrderByGenre", "mOrderByRating"}) {
             Trigger(command);
         }
-        for (const char *command : {"mSettings", "mAbout", "mSwitchDatabase"}) {
+        for (const char *command :
+             {"mSettings", "mAbout", "mSwitchDatabase", "mEditCrossLinks", "mHeadshotImport", "mManageHeadshots"}) {
             OpenAndClose(command);
+        }
+        {
+            HeadshotImport import(session);
+            const frmComparerTools tools(session, import);
+            EXPECT_NE(tools.windowTitle(), u"Tools"_s);
         }
         EXPECT_EQ(Untranslated().join(u'\n').toStdString(), std::string());
         TearDown();

@@ -5,6 +5,7 @@
 #include "people/ui/HeadshotView.h"
 #include "people/ui/frmManageHeadshots.h"
 
+#include <QAction>
 #include <QCheckBox>
 #include <QElapsedTimer>
 #include <QLabel>
@@ -93,6 +94,11 @@ TEST_F(ManageHeadshots, LettersAndTextsFilter) {
     letters->setCurrentRow(1);
     EXPECT_EQ(Listed(), QStringList{u"Bo Ann.jpg"_s});
     EXPECT_EQ(Current(), u"Bo Ann.jpg"_s);
+    QTest::keyClick(letters, Qt::Key_Space, Qt::ControlModifier);
+    EXPECT_TRUE(letters->selectedItems().isEmpty());
+    EXPECT_EQ(Listed().size(), 4) << "no letter, no filter";
+    letters->setCurrentRow(2);
+    letters->setCurrentRow(1);
     QTest::keyClicks(filter, u"ann"_s);
     EXPECT_EQ(Listed(), (QStringList{u"Ann.jpg"_s, u"Anny_1.jpg"_s}));
     EXPECT_TRUE(letters->selectedItems().isEmpty());
@@ -180,6 +186,47 @@ TEST_F(ManageHeadshots, KeepsItsSettings) {
     Open();
     EXPECT_TRUE(FindControl<QCheckBox>(*window, "checkNoResizeLeft")->isChecked());
     EXPECT_EQ(window->size(), QSize(1000, 720));
+}
+
+TEST_F(ManageHeadshots, AllIsReachedWithTheKeyboard) {
+    Picture(u"heads/Ann_1.jpg"_s, {4, 6});
+    Open();
+    QStringList reached;
+    for (int i = 0; i < 40 && !reached.contains(window->focusWidget()->objectName()); ++i) {
+        reached += window->focusWidget()->objectName();
+        QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+    }
+    EXPECT_EQ(reached.join(u' ').toStdString(),
+              "FileListImages checkNoResizeLeft cbRemoveDuplicates cbRemoveTrailingSpaces cbRenameAlternatives "
+              "cbRenameAliase cbMakePrimary cbExit textFilter checkFilterSubstring listAlphabeth");
+}
+
+TEST_F(ManageHeadshots, APictureTooLargeForItsOwnSizeIsFitted) {
+    QImage large(12'000, 9'000, QImage::Format_Grayscale8);
+    large.fill(100);
+    ASSERT_TRUE(large.save(folder / u"heads/Ann.jpg"_s));
+    Open();
+    FindControl<QCheckBox>(*window, "checkNoResizeLeft")->click();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return picture->HasPicture(); }));
+    EXPECT_TRUE(Label("labelImageSizeExisting").startsWith(u"12000 x 9000 / "_s));
+}
+
+TEST_F(ManageHeadshots, TheMenuOfTheListCopiesAndDeletes) {
+    for (const char *name : {"A", "B", "C"}) {
+        Picture(u"heads/"_s + QString::fromLatin1(name) + u".jpg"_s, {4, 4});
+    }
+    Open();
+    EXPECT_EQ(files->contextMenuPolicy(), Qt::ActionsContextMenu);
+    files->selectAll();
+    QTest::keyClick(files, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(services.clipboard.Text(), u"A.jpg\nB.jpg\nC.jpg\n"_s);
+    files->selectionModel()->select(files->model()->index(1, 0), QItemSelectionModel::Deselect);
+    FindControl<QAction>(*files, "mCopyToClipboard")->trigger();
+    EXPECT_EQ(services.clipboard.Text(), u"A.jpg\nC.jpg\n"_s);
+    EXPECT_EQ(FindControl<QAction>(*files, "mDelete")->text(), u"Delete Images"_s);
+    services.dialogs.ExpectMessage(u"Delete all selected images?"_s, MessageAnswer::Yes, u"Delete Images"_s);
+    FindControl<QAction>(*files, "mDelete")->trigger();
+    EXPECT_EQ(Files(), QStringList{u"B.jpg"_s});
 }
 
 TEST_F(ManageHeadshots, AFolderThatIsGoneIsAnEmptyList) {

@@ -178,6 +178,28 @@ TEST_F(AliasFile, CirclesAndChainsOfAFileAreResolved) {
     EXPECT_EQ(Links(), (QStringList{u"Bo|Ann||0"_s, u"Cy|Ann||0"_s}));
 }
 
+TEST_F(AliasFile, ADatabaseThatIsLeftMeanwhileEndsTheImport) {
+    QByteArray lines;
+    QByteArray aliases;
+    for (int i = 0; i < 200; ++i) {
+        const QByteArray name = "Bo" + QByteArray::number(i);
+        lines += name + ";Bob\n";
+        aliases += "<Alias Name='" + name + "'/>";
+    }
+    for (const auto &[name, content] :
+         {std::pair(u"a.cfg"_s, lines),
+          std::pair(u"a.xml"_s, "<Aliases><Common Name='Bob'>" + aliases + "</Common></Aliases>")}) {
+        Run(u"DELETE FROM Alias");
+        std::unique_ptr<sql::Database> left;
+        services.pump.At(services.pump.Turns() + 2, [&] { left = std::move(session.Database); });
+        Import(name, content);
+        EXPECT_FALSE(session.Database);
+        ASSERT_TRUE(left);
+        session.Database = std::move(left);
+        EXPECT_EQ(Links().size(), 100) << qPrintable(name);
+    }
+}
+
 TEST_F(AliasFile, WithoutADatabaseNothingHappens) {
     session.Database.reset();
     Expect(u"No open database!"_s, {}, MessageIcon::Warning);

@@ -203,6 +203,24 @@ TEST_F(CrossLinkEditorTest, AnAliasBecomesTheCommonNameOfItsGroup) {
     EXPECT_EQ(editor->listCommonNames.Find(u"Ann"_s, 0), -1);
 }
 
+TEST_F(CrossLinkEditorTest, AGroupMovesWhollyOrNotAtAll) {
+    Select(u"Ann"_s, 0);
+    const QStringList before = Links();
+    int inserts = 0;
+    session.Database->SetObserver([&](QStringView statement) {
+        if (statement.startsWith(u"INSERT") && ++inserts == 2) {
+            throw sql::SqlError(sql::ErrorCode::DiskFull, u"no room"_s);
+        }
+    });
+    EXPECT_THROW(editor->SetAsCommon(u"Anny"_s), sql::SqlError);
+    session.Database->SetObserver({});
+    EXPECT_EQ(Links(), before);
+    EXPECT_EQ(Selected(), u"Ann|0"_s);
+    EXPECT_EQ(Aliases().size(), 2);
+    editor->SetAsCommon(u"Anny"_s);
+    EXPECT_EQ(Selected(), u"Anny|0"_s);
+}
+
 TEST_F(CrossLinkEditorTest, AChangedYearTakesTheRowsOfEveryYear) {
     editor->ChangeYear(); // no row
     Select(u"Ann"_s, 1950);

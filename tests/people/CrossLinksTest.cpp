@@ -87,12 +87,34 @@ TEST_F(CrossLinks, AliasThatIsACommonNameTurnsThePair) {
                        "instead"_s));
 }
 
-TEST_F(CrossLinks, TwoCommonNamesAreTurnedAsAnyOther) {
+TEST_F(CrossLinks, TwoCommonNamesBecomeOneGroup) {
     Link(u"Zoe"_s, u"Yan"_s);
-    Link(u"Ann"_s, u"Anny"_s);
+    LinkAlias(session, u"Ann"_s, u"Anny"_s, 0, true, u"a nickname"_s);
+    Link(u"Ann"_s, u"Annie"_s, 1950);
     Link(u"Ann"_s, u"Zoe"_s, 0, false);
-    EXPECT_EQ(Rows(u"SELECT AliasName, CommonName FROM Alias ORDER BY AliasName"),
-              (QStringList{u"Ann|Zoe"_s, u"Anny|Ann"_s, u"Yan|Zoe"_s}));
+    EXPECT_EQ(Rows(u"SELECT AliasName, CommonName, BirthYear, Comment FROM Alias ORDER BY AliasName"),
+              (QStringList{u"Ann|Zoe|0|"_s, u"Annie|Ann|1950|"_s, u"Anny|Zoe|0|a nickname"_s, u"Yan|Zoe|0|"_s}))
+        << "no name is both an alias and a common name of one year";
+}
+
+TEST_F(CrossLinks, NoOrderOfLinksMakesACircleOrAChain) {
+    const QStringList names = {u"Ann"_s, u"Bo"_s, u"Cy"_s, u"Dee"_s};
+    // Every sequence of four links between four names; the first is always the same, the names being alike.
+    for (int code = 0; code < 16 * 16 * 16; ++code) {
+        Run(u"DELETE FROM Alias");
+        Link(u"Ann"_s, u"Bo"_s);
+        QStringList links;
+        for (int rest = code; links.size() < 3; rest /= 16) {
+            links += names[rest % 4] + u'|' + names[rest / 4 % 4];
+            Link(names[rest % 4], names[rest / 4 % 4]);
+        }
+        QStringList aliases = Rows(u"SELECT AliasName FROM Alias");
+        const QStringList commons = Rows(u"SELECT DISTINCT CommonName FROM Alias");
+        EXPECT_EQ(aliases.removeDuplicates(), 0);
+        for (const QString &alias : aliases) {
+            ASSERT_FALSE(commons.contains(alias)) << qPrintable(alias) << " after " << qPrintable(links.join(u' '));
+        }
+    }
 }
 
 TEST_F(CrossLinks, YearsAreKeptApart) {

@@ -116,6 +116,17 @@ TEST_F(DropBoxTest, WithoutANameNothingIsStored) {
     EXPECT_EQ(Headshots(), QStringList());
 }
 
+TEST_F(DropBoxTest, ANameThatNoFileCanHaveIsAFault) {
+    const QString picture = folder.Write(u"Ann.jpg"_s, kPicture);
+    ExpectPerson(QString(300, u'x'));
+    ExpectFault();
+    EXPECT_EQ(StoreDrop(session, picture, DropType::Person), QString());
+    ExpectPerson(u"?*<>"_s);
+    EXPECT_EQ(StoreDrop(session, picture, DropType::Person), QString());
+    EXPECT_EQ(Headshots(), QStringList());
+    EXPECT_TRUE(folder.Has(u"Ann.jpg"_s));
+}
+
 TEST_F(DropBoxTest, ANameLeavesNotTheFolder) {
     const QString file = folder.Write(u"x.jpg"_s, kPicture);
     ExpectPerson(u"../../etc/..\\x"_s);

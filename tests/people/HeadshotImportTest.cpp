@@ -151,6 +151,51 @@ TEST_F(HeadshotImportTest, AFaultIsTold) {
     wizard->CopyImage();
 }
 
+TEST_F(HeadshotImportTest, WithoutAHeadshotFolderNothingIsCopied) {
+    Have(u"source"_s, {u"Ann.jpg"_s});
+    session.HeadshotPath.clear();
+    Select(u"Ann.jpg"_s);
+    const QString present = QDir::currentPath();
+    QDir::setCurrent(folder_.Path());
+    Expect(u"Error copying image"_s, {}, MessageIcon::Critical);
+    wizard->CopyImage();
+    Expect(u"Error copying image"_s, {}, MessageIcon::Critical);
+    EXPECT_EQ(wizard->CopyAlternative(), -1);
+    QDir::setCurrent(present);
+    EXPECT_FALSE(folder_.Has(u"Ann.jpg"_s));
+}
+
+TEST_F(HeadshotImportTest, AnAlternateThatIsGoneDoesNotBecomeThePrimary) {
+    Have(u"heads"_s, {u"Ann.jpg"_s});
+    Have(u"source"_s, {u"Ann.jpg"_s});
+    Select(u"Ann.jpg"_s);
+    EXPECT_EQ(wizard->CopyAlternative(), 1);
+    QFile::remove(session.HeadshotPath + u"Ann_1.jpg"_s);
+    Expect(u"The pictures cannot change places:\nSource file does not exist."_s, u"Make Primary"_s,
+           MessageIcon::Warning);
+    wizard->MakePrimary();
+    EXPECT_EQ(Files(), QStringList{u"Ann.jpg=heads/Ann.jpg"_s});
+}
+
+TEST_F(HeadshotImportTest, AFileThatMayOnlyBeReadIsReplacedLater) {
+    Have(u"source"_s, {u"Ann.jpg"_s});
+    const QString source = Path(u"source/Ann.jpg"_s);
+    QFile::setPermissions(source, QFile::ReadOwner);
+    Select(u"Ann.jpg"_s);
+    wizard->CopyImage();
+    EXPECT_TRUE(QFile::permissions(session.HeadshotPath + u"Ann.jpg"_s).testFlag(QFile::WriteOwner));
+    QFile::remove(source);
+    folder_.Write(u"source/Ann.jpg"_s, "new");
+    wizard->CopyImage();
+    EXPECT_EQ(Files(), QStringList{u"Ann.jpg=new"_s});
+    QFile::remove(source);
+    Log(kTraceError);
+    Expect(u"Error copying image"_s, {}, MessageIcon::Critical);
+    wizard->CopyImage();
+    EXPECT_EQ(Files(), QStringList{u"Ann.jpg=new"_s});
+    EXPECT_EQ(LogLines().filter(u"Error:    CopyAll: cannot read "_s).size(), 1);
+}
+
 TEST_F(HeadshotImportTest, AFolderThatIsGoneIsMade) {
     Have(u"source"_s, {u"Ann.jpg"_s});
     QDir(session.HeadshotPath).removeRecursively();

@@ -85,6 +85,9 @@ TEST_F(HeadshotTools, TrailingSpacesAndUnderscoresGo) {
              {u" .jpg=a"_s, u"_1.jpg=b"_s, u"__.jpg=c"_s},
              {u" .jpg=a"_s, u"_1.jpg=b"_s, u"__.jpg=c"_s}},
             {"other files", {u"Ann_Lee.png=a"_s, u"Ann_Lee.jpg.txt=b"_s}, {u"Ann_Lee.png=a"_s, u"Ann_Lee.jpg.txt=b"_s}},
+            {"an extension in the name",
+             {u"Ann.jpg.jpg=a"_s, u"Bo .jpg.jpg=b"_s},
+             {u"Ann.jpg.jpg=a"_s, u"Bo .jpg.jpg=b"_s}},
             {"an extension in capitals", {u"Ann_Lee.JPG=a"_s, u"Bo.JPG=b"_s}, {u"Ann Lee.jpg=a"_s, u"Bo.JPG=b"_s}},
         });
 }
@@ -171,6 +174,38 @@ TEST_F(HeadshotTools, WithinTheHeadshotFolderNoFileIsItsOwnDuplicate) {
     RemoveIdenticals(session, Path(u"heads"_s));
     EXPECT_EQ(Files().size(), 2) << "one of the two of Ann, and that of Bo";
     EXPECT_TRUE(Files().contains(u"Bo.jpg=c"_s));
+}
+
+TEST_F(HeadshotTools, NamesThatNoFileCanHave) {
+    for (const auto &[alias, common] :
+         {std::pair(u"Long"_s, QString(250, u'x')), std::pair(u"Dots"_s, u".."_s), std::pair(u"Nothing"_s, u"?/*<>"_s),
+          std::pair(u"Lines"_s, u"A\nB"_s), std::pair(u"Parent"_s, u"../Bo"_s), std::pair(u"Bar"_s, u"C|D"_s)}) {
+        LinkAlias(session, common, alias, 0, true, {});
+    }
+    Check(RenameAlias, {
+                           {"longer than a name may be", {u"Long_12.jpg=a"_s}, {u"Long_12.jpg=a"_s}},
+                           {"dots alone", {u"Dots.jpg=a"_s}, {u"__.jpg=a"_s}},
+                           {"nothing is left", {u"Nothing.jpg=a"_s}, {u"Nothing.jpg=a"_s}},
+                           {"a line break", {u"Lines.jpg=a"_s}, {u"AB.jpg=a"_s}},
+                           {"another folder", {u"Parent.jpg=a"_s}, {u"..Bo.jpg=a"_s}},
+                           {"a bar stays", {u"Bar.jpg=a"_s}, {u"C|D.jpg=a"_s}},
+                       });
+    EXPECT_TRUE(LogLines().join(u'\n').contains(u"Error:    RenameAlias: Long_12.jpg -> "_s)) << "the fault is traced";
+}
+
+TEST_F(HeadshotTools, WithoutAFolderNothingHappens) {
+    Have({u"Ann .jpg=a"_s, u"Ann1.jpg=b"_s, u"Ann.jpg=c"_s, u"Ann_1.jpg=d"_s});
+    const QStringList before = Files();
+    const QString present = QDir::currentPath();
+    QDir::setCurrent(session.HeadshotPath);
+    session.HeadshotPath.clear();
+    for (const Tool tool :
+         {RemoveTrailingSpaces, RenameAlias, RenameAlternatives, DeleteDuplicateImages, RemoveIdenticals}) {
+        tool(session, {});
+    }
+    EXPECT_FALSE(PictureFolder({}).Copy(u"Ann.jpg"_s, u"Bo.jpg"_s));
+    QDir::setCurrent(present);
+    EXPECT_EQ(Files(), before) << "no folder is not the one that the program was started in";
 }
 
 TEST_F(HeadshotTools, OfTwoSpellingsOfOneFileNoneIsLost) {

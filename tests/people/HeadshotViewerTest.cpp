@@ -155,9 +155,22 @@ TEST_F(HeadshotViewerTest, APictureThatIsGoneChangesNothing) {
     viewer.LoadHeadShot(u"Ann"_s, true, {});
     Next();
     QFile::remove(session.HeadshotPath + u"Ann_1.jpg"_s);
+    services.dialogs.ExpectMessage(u"The pictures cannot change places:\nSource file does not exist."_s,
+                                   MessageIcon::Warning, MessageAnswer::Ok, u"Make Primary"_s);
     viewer.SetHeadshotAsPrimary();
     EXPECT_EQ(Files(), QStringList{u"Ann.jpg"_s});
     EXPECT_EQ(Shown(), u"Ann.jpg"_s);
+}
+
+TEST_F(HeadshotViewerTest, APictureOfTheNetThatHasNoPlaceIsNotKept) {
+    services.downloader.pages[u"http://host/a"_s] = kPicture;
+    for (const auto &[name, folder] :
+         {std::pair(u"Ann"_s, QString()), std::pair(QString(), session.HeadshotPath),
+          std::pair(u"???"_s, session.HeadshotPath), std::pair(QString(300, u'x'), session.HeadshotPath)}) {
+        EXPECT_FALSE(viewer.DownloadHeadshot(u"http://host/a"_s, name, folder)) << qPrintable(name);
+    }
+    EXPECT_EQ(Files(), QStringList());
+    EXPECT_FALSE(QFileInfo::exists(u"Ann.jpg"_s));
 }
 
 TEST_F(HeadshotViewerTest, APictureOfTheNetIsKeptUnderTheCommonNameWithoutAYear) {

@@ -209,10 +209,10 @@ TEST(SettingsTable, WindowsHaveTheirSections) {
         sections += QString::fromUtf16(section);
         EXPECT_TRUE(IsWindowSection(sections.last()));
     }
-    EXPECT_EQ(
-        sections.join(u' '),
-        u"ProfileInfo Awards SQLQueries AssignEpisodes CoverWindow FilterTags EditMultiUse "
-        "CrewMapping ListViewWindow EditSkin EncryptionPad CrossLinks ManageHeadshots HeadshotImport HTMLExport"_s);
+    EXPECT_EQ(sections.join(u' '),
+              u"ProfileInfo Awards SQLQueries AssignEpisodes CoverWindow FilterTags EditMultiUse "
+              "CrewMapping ListViewWindow EditSkin EncryptionPad CrossLinks ManageHeadshots HeadshotImport "
+              "HeadshotTools DropBox HTMLExport"_s);
     EXPECT_FALSE(IsWindowSection(u"Window"_s));
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform_qt/ScaledPicture.h"
 
+#include <QImageReader>
 #include <QPainter>
 #include <QPromise>
 #include <QResizeEvent>
@@ -13,6 +14,13 @@ namespace ostrand {
 namespace {
 
 constexpr int kAnySize = 1 << 20; ///< pixels; no picture is larger
+
+/// Whether the toolkit reads it as large as it is.
+bool IsReadable(QSize picture) {
+    constexpr qint64 kBytesOfPixel = 4;
+    const qint64 megabytes = qint64(picture.width()) * picture.height() * kBytesOfPixel >> 20;
+    return QImageReader::allocationLimit() == 0 || megabytes < QImageReader::allocationLimit();
+}
 
 QFuture<QImage> ReadBeside(const QString &path, QSize place, PictureGrowth growth) {
     const auto promise = std::make_shared<QPromise<QImage>>();
@@ -61,8 +69,9 @@ void HeadshotView::Load() {
     } else if (!reading_) {
         reading_ = true;
         const QSize place = (QSizeF(maximumViewportSize()) * devicePixelRatioF()).toSize();
-        watcher_.setFuture(natural_ ? ReadBeside(path_, {kAnySize, kAnySize}, PictureGrowth::Never)
-                                    : ReadBeside(path_, place, PictureGrowth::Fit));
+        watcher_.setFuture(natural_ && IsReadable(PictureSize(path_))
+                               ? ReadBeside(path_, {kAnySize, kAnySize}, PictureGrowth::Never)
+                               : ReadBeside(path_, place, PictureGrowth::Fit));
     }
 }
 

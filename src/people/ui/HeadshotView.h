@@ -8,7 +8,8 @@
 namespace ostrand {
 
 /// Shows a picture fitted into its place, or in its own size with scroll bars. Pictures are read beside the event loop,
-/// so that a large one holds nothing up; of several that were asked for meanwhile only the last one is read.
+/// so that a large one holds nothing up, and one that is too large for its own size is fitted; of several that were
+/// asked for meanwhile only the last one is read.
 class HeadshotView : public QAbstractScrollArea {
     Q_OBJECT
 public:

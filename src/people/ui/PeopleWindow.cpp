@@ -3,10 +3,12 @@
 #include "shell/Session.h"
 
 #include <QAbstractItemView>
+#include <QAction>
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QKeyEvent>
-#include <QShortcut>
+
+#include <numeric>
 
 namespace ostrand {
 
@@ -17,11 +19,14 @@ using namespace Qt::StringLiterals;
 QString SelectedText(const QAbstractItemView &list) {
     const QAbstractItemModel &model = *list.model();
     QList<int> rows;
-    for (int row = 0; row < model.rowCount(); ++row) {
-        if (!list.selectionModel()->hasSelection() || list.selectionModel()->isRowSelected(row, {})) {
-            rows += row;
-        }
+    for (const QModelIndex &index : list.selectionModel()->selectedRows()) {
+        rows += index.row();
     }
+    if (rows.isEmpty()) {
+        rows.resize(model.rowCount());
+        std::iota(rows.begin(), rows.end(), 0);
+    }
+    std::sort(rows.begin(), rows.end());
     QString text;
     for (const int row : rows) {
         QStringList cells;
@@ -77,15 +82,26 @@ QLabel *PeopleWindow::AddLabel(QBoxLayout &layout, const char *name) {
     return label;
 }
 
+QAction *PeopleWindow::AddEntry(QAbstractItemView &list, const QString &caption, QKeySequence::StandardKey key) {
+    auto *entry = new QAction(caption, &list);
+    entry->setShortcut(key);
+    entry->setShortcutContext(Qt::WidgetShortcut);
+    list.addAction(entry);
+    list.setContextMenuPolicy(Qt::ActionsContextMenu);
+    return entry;
+}
+
 void PeopleWindow::LetCopy(QAbstractItemView &list) {
-    auto *copy = new QShortcut(QKeySequence::Copy, &list, nullptr, nullptr, Qt::WidgetShortcut);
-    connect(copy, &QShortcut::activated, this,
+    QAction *copy = AddEntry(list, Text(u"&Copy"), QKeySequence::Copy);
+    copy->setObjectName(u"mCopyToClipboard"_s);
+    connect(copy, &QAction::triggered, this,
             [this, &list] { session_.services.clipboard.SetText(SelectedText(list)); });
 }
 
-void PeopleWindow::OnDelete(QWidget &list, std::function<void()> pressed) {
-    auto *shortcut = new QShortcut(QKeySequence::Delete, &list, nullptr, nullptr, Qt::WidgetShortcut);
-    connect(shortcut, &QShortcut::activated, this, [pressed = std::move(pressed)] { pressed(); });
+void PeopleWindow::OnDelete(QAbstractItemView &list, const char16_t *caption, std::function<void()> pressed) {
+    QAction *remove = AddEntry(list, Text(caption), QKeySequence::Delete);
+    remove->setObjectName(u"mDelete"_s);
+    connect(remove, &QAction::triggered, this, [pressed = std::move(pressed)] { pressed(); });
 }
 
 void PeopleWindow::keyPressEvent(QKeyEvent *event) {

@@ -4,10 +4,12 @@
 #include "shell/ui/Mnemonics.h"
 
 #include <QDialog>
+#include <QKeySequence>
 
 #include <functional>
 
 class QAbstractItemView;
+class QAction;
 class QBoxLayout;
 class QCheckBox;
 class QLabel;
@@ -28,14 +30,18 @@ protected:
                            std::function<void()> pressed);
     QCheckBox *AddCheckBox(QBoxLayout &layout, const char *name, const char16_t *caption, const char16_t *tool_tip);
     QLabel *AddLabel(QBoxLayout &layout, const char *name);
-    /// Ctrl+C copies the selected rows of a list, all rows when none is selected, as lines.
+    /// Ctrl+C, or the list's menu, copies the selected rows of a list, all rows when none is selected, as lines.
     void LetCopy(QAbstractItemView &list);
-    void OnDelete(QWidget &list, std::function<void()> pressed);
+    /// The Delete key, or the list's menu.
+    void OnDelete(QAbstractItemView &list, const char16_t *caption, std::function<void()> pressed);
 
     void keyPressEvent(QKeyEvent *event) override;
 
     Session &session_;
     Mnemonics keys_;
+
+private:
+    static QAction *AddEntry(QAbstractItemView &list, const QString &caption, QKeySequence::StandardKey key);
 };
 
 } // namespace ostrand

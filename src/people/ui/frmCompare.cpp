@@ -5,6 +5,7 @@
 #include "people/ui/frmDropBox.h"
 #include "platform_qt/ElidedLabel.h"
 #include "shell/Session.h"
+#include "shell/ui/PressedLabel.h"
 #include "shell/ui/WindowPlace.h"
 
 #include <QCheckBox>
@@ -44,7 +45,7 @@ frmCompare::frmCompare(Session &session, QWidget *parent) :
     MakeSource(*layout);
     connect(&import_, &HeadshotImport::PicturesChanged, this, &frmCompare::ShowPictures);
     connect(FileListImages_->selectionModel(), &QItemSelectionModel::currentChanged, this, &frmCompare::LoadImage);
-    UpdateSourceImageList();
+    ShowList(0);
     FileListImages_->setFocus();
     new WindowPlace(session_, u"HeadshotImport"_s, this,
                     sizeHint().expandedTo({fontMetrics().averageCharWidth() * 150, fontMetrics().lineSpacing() * 32}));
@@ -96,15 +97,14 @@ void frmCompare::MakeButtons(QBoxLayout &layout) {
                   [this] { import_.OpenImage(); }),
         AddButton(layout, "cbReload", u"Reload Image", u"Reads both pictures again", [this] { LoadImage(); }),
         cbCopyImage_};
-    auto *editor = new QLabel(this);
+    auto *editor = new PressedLabel(this);
     editor->setObjectName(u"labelClickHere"_s);
     const QString caption = Text(u"Click here to change Editor");
-    editor->setText(u"<a href=\"#\">"_s + caption.toHtmlEscaped() + u"</a>"_s);
-    editor->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
-    editor->setFocusPolicy(Qt::StrongFocus);
+    editor->setText(caption);
+    editor->SetPressable(true);
     editor->setAccessibleName(caption);
     editor->setToolTip(Text(u"Chooses the program that edits pictures"));
-    connect(editor, &QLabel::linkActivated, this, &frmCompare::SetImageEditor);
+    connect(editor, &PressedLabel::Pressed, this, &frmCompare::SetImageEditor);
     layout.addWidget(editor);
     layout.addStretch();
     QPushButton *box = AddButton(layout, "cbDropBox", u"Image Drop Box",
@@ -183,7 +183,11 @@ void frmCompare::UpdateSourceImageList() {
     import_.UpdateSourceImageList();
     const HeadshotFolder &list = import_.FileListImages;
     const int same = list.RowOf(name);
-    const int row = same >= 0 ? same : std::clamp(place, 0, std::max(0, list.rowCount() - 1));
+    ShowList(same >= 0 ? same : std::clamp(place, 0, std::max(0, list.rowCount() - 1)));
+}
+
+void frmCompare::ShowList(int row) {
+    const HeadshotFolder &list = import_.FileListImages;
     FileListImages_->setCurrentIndex(list.index(row));
     LoadImage();
     labelImageCount_->setText(QString::number(list.rowCount()) + u' ' + Text(u"Images"));

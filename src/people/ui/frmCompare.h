@@ -39,6 +39,8 @@ private:
     void MakeList(QBoxLayout &layout);
     void MakeSource(QBoxLayout &layout);
     void MakeCopyRow(QBoxLayout &layout);
+    /// Shows the list as it was read, and selects a row.
+    void ShowList(int row);
     void ChooseSource();
     void OpenTools();
     void OpenDropBox();

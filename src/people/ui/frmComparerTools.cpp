@@ -2,6 +2,7 @@
 
 #include "people/HeadshotImport.h"
 #include "people/HeadshotTools.h"
+#include "shell/ui/WindowPlace.h"
 
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -12,7 +13,6 @@ frmComparerTools::frmComparerTools(Session &session, HeadshotImport &import, QWi
     PeopleWindow(session, "frmComparerTools", u"Tools", parent), import_(import) {
     setModal(true);
     auto *layout = new QVBoxLayout(this);
-    layout->setSizeConstraint(QLayout::SetFixedSize);
     AddButton(*layout, "cbCopyWhereNone", u"Copy Where None Exists",
               u"Copies the pictures of all persons that have none in the headshot folder",
               [this] { import_.CopyWhereNone(); });
@@ -29,7 +29,9 @@ frmComparerTools::frmComparerTools(Session &session, HeadshotImport &import, QWi
               u"Deletes the files of the source folder that the headshot folder has already",
               [this] { import_.RemoveIdenticalImages(); });
     layout->addSpacing(fontMetrics().height());
+    layout->addStretch();
     AddButton(*layout, "cbClose", u"Close", u"Closes this window", [this] { close(); });
+    new WindowPlace(session_, QStringLiteral("HeadshotTools"), this, sizeHint());
 }
 
 void frmComparerTools::AddTool(QBoxLayout &layout, const char *name, const char16_t *caption, const char16_t *tool_tip,

@@ -76,10 +76,11 @@ QWidget *frmCrossLinks::MakeNames() {
     listCommonNames_->setAllColumnsShowFocus(true);
     listCommonNames_->setMinimumWidth(fontMetrics().averageCharWidth() * 30);
     listCommonNames_->header()->setStretchLastSection(false);
+    listCommonNames_->header()->setTextElideMode(Qt::ElideRight);
     listCommonNames_->header()->setSortIndicator(CommonNames::CommonName, Qt::AscendingOrder);
     listCommonNames_->setSortingEnabled(true);
     LetCopy(*listCommonNames_);
-    OnDelete(*listCommonNames_, [this] { editor_.RemoveCommonName(); });
+    OnDelete(*listCommonNames_, u"Remove Common Name", [this] { editor_.RemoveCommonName(); });
     return listCommonNames_;
 }
 
@@ -98,7 +99,7 @@ QWidget *frmCrossLinks::MakeAliases() {
     listAlias_->setMinimumWidth(fontMetrics().averageCharWidth() * 22);
     layout->addWidget(listAlias_);
     LetCopy(*listAlias_);
-    OnDelete(*listAlias_, [this] { RemoveAliasFromList(SelectedAlias()); });
+    OnDelete(*listAlias_, u"Remove Alias", [this] { RemoveAliasFromList(SelectedAlias()); });
     return box;
 }
 

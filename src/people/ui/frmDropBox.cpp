@@ -2,6 +2,7 @@
 
 #include "shell/Session.h"
 #include "shell/ui/Mnemonics.h"
+#include "shell/ui/WindowPlace.h"
 
 #include <QDragEnterEvent>
 #include <QFileInfo>
@@ -54,6 +55,7 @@ frmDropBox::frmDropBox(Session &session, QWidget *parent) :
     connect(paste, &QPushButton::clicked, this, &frmDropBox::Paste);
     connect(new QShortcut(QKeySequence::Paste, this), &QShortcut::activated, this, &frmDropBox::Paste);
     connect(new QShortcut(QKeySequence(Qt::Key_Escape), this), &QShortcut::activated, this, &QWidget::close);
+    new WindowPlace(session_, u"DropBox"_s, this, sizeHint());
 }
 
 QString frmDropBox::Text(const char16_t *english) {

@@ -54,9 +54,9 @@ void frmManageHeadshots::MakeFilter(QBoxLayout &layout) {
     label->setBuddy(textFilter_);
     row->addWidget(label);
     row->addWidget(textFilter_, 1);
-    checkFilterSubstring_ =
-        AddCheckBox(*row, "checkFilterSubstring", u"Substring", u"The text may stand anywhere in the name");
     layout.addLayout(row);
+    checkFilterSubstring_ =
+        AddCheckBox(layout, "checkFilterSubstring", u"Substring", u"The text may stand anywhere in the name");
     connect(textFilter_, &QLineEdit::textChanged, this, &frmManageHeadshots::ShowFilter);
     connect(checkFilterSubstring_, &QCheckBox::toggled, this, &frmManageHeadshots::ShowFilter);
 }
@@ -76,6 +76,8 @@ void frmManageHeadshots::MakeList(QBoxLayout &layout) {
             const QSignalBlocker quiet(textFilter_);
             textFilter_->clear();
             KeepPlace([&] { manager_.ShowLetter(selected.first()->text()); });
+        } else {
+            ShowFilter();
         }
     });
     FileListImages_ = new QListView(this);
@@ -86,7 +88,7 @@ void frmManageHeadshots::MakeList(QBoxLayout &layout) {
     FileListImages_->setSelectionMode(QAbstractItemView::ExtendedSelection);
     FileListImages_->setMinimumWidth(fontMetrics().averageCharWidth() * 26);
     LetCopy(*FileListImages_);
-    OnDelete(*FileListImages_, [this] { DeleteSelected(); });
+    OnDelete(*FileListImages_, u"Delete Images", [this] { DeleteSelected(); });
     row->addWidget(listAlphabeth_);
     row->addWidget(FileListImages_, 1);
     layout.addLayout(row, 1);

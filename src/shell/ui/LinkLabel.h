@@ -1,15 +1,14 @@
 // A text that acts as a link.
 #pragma once
 
-#include <QLabel>
+#include "shell/ui/PressedLabel.h"
 
 namespace ostrand {
 
 class Opener;
 
-/// Opens what its link leads to (shell/LinkTarget.h) on a click, Enter or the space bar. Looks like a link only while
-/// it is one.
-class LinkLabel : public QLabel {
+/// Opens what its link leads to (shell/LinkTarget.h) when it is pressed. Looks like a link only while it is one.
+class LinkLabel : public PressedLabel {
     Q_OBJECT
 public:
     explicit LinkLabel(Opener &opener, QWidget *parent = nullptr);
@@ -17,11 +16,6 @@ public:
     void SetLink(const QString &link, const QString &shown = {});
     const QString &Link() const { return link_; }
     void Open();
-
-protected:
-    void mouseReleaseEvent(QMouseEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
-    void paintEvent(QPaintEvent *event) override;
 
 private:
     Opener &opener_;
