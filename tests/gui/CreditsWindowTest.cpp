@@ -11,7 +11,9 @@
 #include <QLabel>
 #include <QMenu>
 #include <QStackedLayout>
+#include <QTabBar>
 #include <QTimer>
+#include <QToolButton>
 
 namespace ostrand {
 namespace {
@@ -156,11 +158,13 @@ TEST_F(CreditsWindow, HeadersSortAndMove) {
     StartWith({u"DELETE FROM DbInfo WHERE InfoName = 'CastOrderColumns'"_s,
                u"INSERT INTO DbInfo (InfoName, InfoValue) VALUES ('CastOrderColumns', '3,1,2')"_s});
     QHeaderView *header = View("ListCast")->header();
+    EXPECT_FALSE(header->isSortIndicatorShown()) << "the order they come in";
     EXPECT_EQ(header->visualIndex(0), 2) << "the stored places";
     EXPECT_EQ(header->visualIndex(2), 1);
     header->moveSection(2, 0);
     EXPECT_EQ(session.view.CastOrderColumns, (QList<int>{1, 2, 3}));
     ClickHeader("ListCast", 0);
+    EXPECT_TRUE(header->isSortIndicatorShown());
     EXPECT_EQ(header->sortIndicatorSection(), 0);
     EXPECT_EQ(Column("ListCast").first(), u"Wanda Quill"_s);
     ClickHeader("ListCast", 0);
@@ -172,6 +176,31 @@ TEST_F(CreditsWindow, HeadersSortAndMove) {
     EXPECT_EQ(Column("listAppearences"), (QStringList{u"Aab Other"_s, u"Aaa Test"_s}));
     View("listAppearences")->header()->moveSection(3, 0);
     EXPECT_EQ(session.view.AppearancesOrderColumns, (QList<int>{2, 3, 4, 1}));
+}
+
+TEST_F(CreditsWindow, AllTabsAreInSight) {
+    StartWith();
+    auto *tabs = Control<QTabBar>("tabMain");
+    main->resize(1280, 800);
+    const struct {
+        QStringList texts;
+        bool whole;
+    } cases[] = {{{u"Besetzung/Stab"_s, u"Details"_s, u"Ton/Bild"_s}, true},
+                 {{u"Distribution et \u00e9quipe technique"_s, u"D\u00e9tails"_s, u"Audio/Vid\u00e9o"_s}, false}};
+    for (const auto &c : cases) {
+        for (int i = 0; i < tabs->count(); ++i) {
+            tabs->setTabText(i, c.texts[i]);
+        }
+        QCoreApplication::processEvents();
+        const QRect last = tabs->tabRect(2);
+        EXPECT_EQ(tabs->tabRect(0).left(), 0);
+        EXPECT_LE(last.right(), tabs->width()) << qPrintable(c.texts[0]);
+        EXPECT_EQ(last.right() + 1 >= tabs->sizeHint().width(), c.whole) << qPrintable(c.texts[0]);
+        for (const QToolButton *scroll : tabs->findChildren<QToolButton *>()) {
+            EXPECT_FALSE(scroll->isVisible());
+        }
+    }
+    EXPECT_EQ(tabs->tabToolTip(1), u"Details"_s);
 }
 
 TEST_F(CreditsWindow, AppearancesLeadToTheirTitles) {
@@ -406,8 +435,8 @@ TEST_F(CreditsWindow, ThePortraitComesBesideTheWorkOfTheWindow) {
     };
     EXPECT_EQ(picture->HeightAt(200), 300) << "known from the head of the file";
     EXPECT_EQ(shown(), QColor(Qt::black));
-    QTest::mouseClick(picture, Qt::LeftButton);
-    EXPECT_TRUE(picture->IsLoading()) << "the window does not wait";
+    browser.credits.picActor.AlternateHeadshot();
+    EXPECT_EQ(picture->Picture().toImage().pixelColor(5, 5), QColor(Qt::black)) << "the window does not wait";
     EXPECT_EQ(shown(), QColor(Qt::white));
     for (int i = 0; i < 9; ++i) {
         QTest::mouseClick(picture, Qt::LeftButton);
@@ -444,9 +473,8 @@ TEST_F(CreditsWindow, APortraitAsThinAsALineFitsIn) {
     Click("ListCast", 0);
     QCoreApplication::processEvents();
     auto *picture = Control<ActorView>("picActor");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !picture->IsLoading(); }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !picture->Picture().isNull(); }));
     EXPECT_LE(picture->height(), main->height());
-    EXPECT_FALSE(picture->Picture().isNull());
 }
 
 TEST_F(CreditsWindow, AnAwardLeadsToItsFilm) {
@@ -471,7 +499,10 @@ TEST_F(CreditsWindow, ColumnsKeepTheirParts) {
     StartWith();
     QTreeView *cast = View("ListCast");
     const auto share = [cast](int column) { return double(cast->columnWidth(column)) / cast->viewport()->width(); };
+    main->resize(1280, 800);
+    QCoreApplication::processEvents();
     EXPECT_NEAR(share(0), 0.46, 0.02);
+    EXPECT_GE(cast->columnWidth(2), cast->header()->fontMetrics().horizontalAdvance(u"Position"_s)) << "a whole header";
     cast->header()->resizeSection(0, cast->viewport()->width() / 4);
     main->resize(main->width() + 300, main->height());
     QCoreApplication::processEvents();
