@@ -92,6 +92,7 @@ void ShowCoverAgain(Browser &browser) {
 
 void RestoreSelection(Browser &browser) {
     Q_EMIT browser.DatabaseOpened();
+    Q_EMIT browser.TagsChanged(true);
     GetLastSelectedItem(browser);
     ShowCoverAgain(browser);
     browser.listSeries.SetWidth(TitleList::Title, kTitleWidth);
@@ -109,6 +110,7 @@ void ReloadTitles(Browser &browser) {
     if (restored > 0) { // the first row is shown already
         UpdateSeriesList(browser, restored);
     }
+    Q_EMIT browser.TagsChanged(false);
 }
 
 void TakeSettings(Browser &browser) {
@@ -145,6 +147,7 @@ void ShowNoCollection(Browser &browser) {
     UpdateFilters(browser);
     ShowFilterCount(browser, 0);
     ClearAllProfileInfos(browser);
+    Q_EMIT browser.TagsChanged(true);
 }
 
 void TranslateBrowser(Browser &browser) {
@@ -166,6 +169,7 @@ void TranslateBrowser(Browser &browser) {
     Q_EMIT browser.FilterChanged();
     ShowFilterCount(browser, browser.filter_count);
     RefreshProfileInfos(browser);
+    RefillAppearances(browser);
 }
 
 void AttachBrowser(Browser &browser) {

@@ -34,7 +34,9 @@ const std::vector<int> &RowsByKey::Find(const QString &key) const {
     if (rows_.isEmpty()) {
         return kNone;
     }
-    const auto found = rows_.constFind(sql::SortKey(key));
+    wanted_.resize(0);
+    sql::AppendSortKey(key, wanted_);
+    const auto found = rows_.constFind(wanted_);
     return found == rows_.constEnd() ? kNone : *found;
 }
 
@@ -56,7 +58,11 @@ BoxsetRows::BoxsetRows(Session &session) {
 
 void BoxsetRows::GetBoxsetChilds(const QString &boxset_id, int level, const QString &parent_key,
                                  std::vector<TitleRow> &rows) {
-    std::vector<Siblings> path = {{&by_boxset_.Find(boxset_id), 0, level, parent_key}};
+    const std::vector<int> &first = by_boxset_.Find(boxset_id);
+    if (first.empty()) {
+        return;
+    }
+    std::vector<Siblings> path = {{&first, 0, level, parent_key}};
     while (!path.empty()) {
         Siblings &siblings = path.back();
         if (siblings.next == siblings.rows->size() || siblings.level > kDeepestLevel) {

@@ -17,6 +17,7 @@ public:
 
 private:
     QHash<QByteArray, std::vector<int>> rows_;
+    mutable QByteArray wanted_; ///< the key that is looked for, whose room serves the next one
 };
 
 /// Reads the children of all boxsets at once: a statement for each title of the list would cost more than the list.

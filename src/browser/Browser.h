@@ -102,6 +102,10 @@ public:
 Q_SIGNALS:
     /// Another database is open; its path and name are known.
     void DatabaseOpened();
+    /// The titles of listSeries are about to be read anew, and are there. The list is not to be seen between the two,
+    /// and the user waits.
+    void ListFillingBegun();
+    void ListFillingEnded();
     /// `current_row` is to be selected and scrolled to.
     void CurrentRowChanged();
     /// `current_episode` is to be selected and scrolled to.
@@ -116,12 +120,16 @@ Q_SIGNALS:
     /// ShowFrontCover or the cover stem changed.
     void CoverChanged();
     void TabsChanged();
+    /// The collection's tags may be others; `other_collection` where they belong to another one, or to none.
+    void TagsChanged(bool other_collection);
     void MainTabChanged();
     void FilterChanged();
     void FilterCountChanged();
     void SeasonsChanged();
     void HistoryChanged();
     void ModeChanged();
+    /// Texts are to be shown in another language: windows beside the main one, which has done so, give theirs anew.
+    void LanguageChanged();
     /// Fonts, tool bar, grid lines: what the settings tell.
     void SettingsChanged();
 };

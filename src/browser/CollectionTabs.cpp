@@ -193,13 +193,25 @@ bool FilterEntryAvailable(Browser &browser, int index) {
 }
 
 void OpenFilterList(Browser &browser) {
+    Session &session = browser.session;
     if (browser.comboFilter.isEmpty()) {
-        Session &session = browser.session;
         ShowMessage(session, {.text = Translate(
                                   session, u"No Filter defined! Filters are created through 'Tools->SQL Query'."_s),
                               .title = Translate(session, u"No Filter defined"_s),
                               .icon = MessageIcon::Information});
+        return;
     }
+    // Queries may have been saved, deleted or imported since the last time.
+    const QString chosen = browser.comboFilter_text;
+    try {
+        UpdateFilters(browser);
+    } catch (const sql::SqlError &error) {
+        Trace(session, u"OpenFilterList: "_s + error.Text(), kTraceError);
+    }
+    if (browser.comboFilter.contains(chosen)) {
+        browser.comboFilter_text = chosen;
+    }
+    Q_EMIT browser.FilterChanged();
 }
 
 bool QualifiesAsFilter(const QString &statement) {

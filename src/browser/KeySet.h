@@ -13,26 +13,35 @@ public:
     /// False for a key that was there.
     bool Add(const QString &key) {
         const qsizetype before = keys_.size();
-        keys_.insert({key});
+        keys_.insert({key, HashOf(key)});
         return keys_.size() != before;
     }
-    bool Contains(const QString &key) const { return keys_.contains({key}); }
+    bool Contains(const QString &key) const { return keys_.contains({key, HashOf(key)}); }
 
 private:
     struct Key {
         QString text;
+        size_t hash;
         bool operator==(const Key &other) const {
-            return text.size() == other.text.size() && text.compare(other.text, Qt::CaseInsensitive) == 0;
+            return hash == other.hash && text.size() == other.text.size() &&
+                   text.compare(other.text, Qt::CaseInsensitive) == 0;
         }
-        friend size_t qHash(const Key &key, size_t seed) {
-            constexpr size_t kFactor = 0x100000001B3;
-            size_t hash = seed;
-            for (const QChar unit : key.text) {
-                hash = (hash ^ unit.toCaseFolded().unicode()) * kFactor;
-            }
-            return hash ^ hash >> 32;
-        }
+        friend size_t qHash(const Key &key, size_t seed) { return key.hash ^ seed; }
     };
+    static char16_t Folded(char16_t unit) {
+        if (unit < 0x80) {
+            return unit >= u'A' && unit <= u'Z' ? char16_t(unit + (u'a' - u'A')) : unit;
+        }
+        return QChar(unit).toCaseFolded().unicode();
+    }
+    static size_t HashOf(const QString &key) {
+        constexpr size_t kFactor = 0x100000001B3;
+        size_t hash = 0xCBF29CE484222325;
+        for (const QChar unit : key) {
+            hash = (hash ^ Folded(unit.unicode())) * kFactor;
+        }
+        return hash ^ hash >> 32;
+    }
     QSet<Key> keys_;
 };
 

@@ -18,9 +18,9 @@ struct SortEntry {
     int row;
 };
 
-quint64 StartOf(const QByteArray &key) {
+quint64 StartOf(std::string_view key) {
     quint64 start = 0;
-    std::memcpy(&start, key.constData(), std::min(size_t(key.size()), sizeof start));
+    std::memcpy(&start, key.data(), std::min(key.size(), sizeof start));
     return qFromBigEndian(start);
 }
 
@@ -152,27 +152,37 @@ void TitleList::Unsort() {
     sorted_ = false;
 }
 
-const std::vector<QByteArray> &TitleList::SortKeys() {
-    if (keyed_column_ != sort_column_) {
-        keyed_column_ = sort_column_;
-        sort_keys_.clear();
-        sort_keys_.reserve(rows_.size());
-        for (const TitleRow &row : rows_) {
-            sort_keys_.push_back(sql::SortKey(row.texts[size_t(sort_column_)]));
-        }
+void TitleList::MakeSortKeys() {
+    if (keyed_column_ == sort_column_) {
+        return;
     }
-    return sort_keys_;
+    constexpr int kUsualLength = 32;
+    keyed_column_ = sort_column_;
+    sort_keys_.resize(0);
+    sort_keys_.reserve(qsizetype(rows_.size()) * kUsualLength);
+    key_places_.clear();
+    key_places_.reserve(rows_.size());
+    for (const TitleRow &row : rows_) {
+        const auto start = quint32(sort_keys_.size());
+        sql::AppendSortKey(row.texts[size_t(sort_column_)], sort_keys_);
+        key_places_.push_back({start, quint32(sort_keys_.size()) - start});
+    }
+}
+
+std::string_view TitleList::KeyOf(int row) const {
+    const KeyPlace &place = key_places_[size_t(row)];
+    return {sort_keys_.constData() + place.start, place.size};
 }
 
 std::vector<int> TitleList::SortRows() {
-    const std::vector<QByteArray> &keys = SortKeys();
+    MakeSortKeys();
     std::vector<SortEntry> entries;
     entries.reserve(rows_.size());
-    for (const QByteArray &key : keys) {
-        entries.push_back({StartOf(key), int(entries.size())});
+    for (int row = 0; row < rowCount(); ++row) {
+        entries.push_back({StartOf(KeyOf(row)), row});
     }
-    const auto is_less = [&keys](const SortEntry &a, const SortEntry &b) {
-        return a.start != b.start ? a.start < b.start : keys[size_t(a.row)] < keys[size_t(b.row)];
+    const auto is_less = [this](const SortEntry &a, const SortEntry &b) {
+        return a.start != b.start ? a.start < b.start : KeyOf(a.row) < KeyOf(b.row);
     };
     if (sort_order_ == Order::Ascending) {
         std::stable_sort(entries.begin(), entries.end(), is_less);
@@ -180,18 +190,23 @@ std::vector<int> TitleList::SortRows() {
         std::stable_sort(entries.begin(), entries.end(),
                          [&is_less](const SortEntry &a, const SortEntry &b) { return is_less(b, a); });
     }
+    std::vector<int> new_places(rows_.size());
+    if (std::is_sorted(entries.begin(), entries.end(),
+                       [](const SortEntry &a, const SortEntry &b) { return a.row < b.row; })) {
+        std::iota(new_places.begin(), new_places.end(), 0); // a list that was read in its order stays as it is
+        return new_places;
+    }
     std::vector<TitleRow> sorted;
     sorted.reserve(rows_.size());
-    std::vector<QByteArray> sorted_keys;
-    sorted_keys.reserve(rows_.size());
-    std::vector<int> new_places(rows_.size());
+    std::vector<KeyPlace> sorted_places;
+    sorted_places.reserve(rows_.size());
     for (const SortEntry &entry : entries) {
         new_places[size_t(entry.row)] = int(sorted.size());
         sorted.push_back(std::move(rows_[size_t(entry.row)]));
-        sorted_keys.push_back(std::move(sort_keys_[size_t(entry.row)]));
+        sorted_places.push_back(key_places_[size_t(entry.row)]);
     }
     rows_ = std::move(sorted);
-    sort_keys_ = std::move(sorted_keys);
+    key_places_ = std::move(sorted_places);
     return new_places;
 }
 

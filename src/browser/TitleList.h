@@ -3,6 +3,8 @@
 
 #include <QAbstractTableModel>
 
+#include <string_view>
+
 namespace ostrand {
 
 inline constexpr int kTitleColumns = 6;
@@ -76,13 +78,22 @@ Q_SIGNALS:
 
 private:
     Colour ColourOf(int row) const;
-    /// The sort keys of the rows by the column that sorts, in their order.
-    const std::vector<QByteArray> &SortKeys();
+    /// Where the sort key of a row stands among those of all rows.
+    struct KeyPlace {
+        quint32 start;
+        quint32 size;
+    };
+
+    /// Makes the sort keys of the column that sorts, unless they are there.
+    void MakeSortKeys();
+    std::string_view KeyOf(int row) const;
     /// Orders the rows; returns where each one went.
     std::vector<int> SortRows();
 
     std::vector<TitleRow> rows_;
-    std::vector<QByteArray> sort_keys_; ///< of `keyed_column_`, kept since a list is often sorted again the other way
+    // The keys of `keyed_column_` one behind the other, kept since a list is often sorted again the other way.
+    QByteArray sort_keys_;
+    std::vector<KeyPlace> key_places_; ///< in the order of the rows
     int keyed_column_ = -1;
     QStringList headers_;
     std::array<double, kTitleColumns> widths_ = {0.78, 0, 0, 0, 0, 0};

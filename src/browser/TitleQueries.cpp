@@ -67,6 +67,18 @@ std::vector<TitleRow> ReadTitles(Session &session, const QString &tab) {
     return rows;
 }
 
+/// Tells windows of the time in which the list is filled, whichever way that ends.
+class Filling {
+public:
+    explicit Filling(Browser &browser) : browser_(browser) { Q_EMIT browser_.ListFillingBegun(); }
+    ~Filling() { Q_EMIT browser_.ListFillingEnded(); }
+    Filling(const Filling &) = delete;
+    Filling &operator=(const Filling &) = delete;
+
+private:
+    Browser &browser_;
+};
+
 /// A stored sort that there is none of gives way to the one that it was taken for; boxsets could never show else.
 void KeepValidSort(Browser &browser) {
     const ViewState &view = browser.session.view;
@@ -108,6 +120,7 @@ void FillMovieNames(Browser &browser) {
 
 void GetMovieNames(Browser &browser) {
     Trace(browser.session, u"GetMovieNames()"_s, kTraceEntry);
+    const Filling filling(browser);
     FillMovieNames(browser);
     ShowFirstTitle(browser);
     Trace(browser.session, u"GetMovieNames()"_s, kTraceExit);
@@ -115,6 +128,7 @@ void GetMovieNames(Browser &browser) {
 
 void RefillMovieNames(Browser &browser, const QStringList &keys) {
     const int before = browser.current_row;
+    const Filling filling(browser);
     FillMovieNames(browser);
     ShowTitleOrRow(browser, keys, before);
 }

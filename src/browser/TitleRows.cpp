@@ -76,7 +76,7 @@ TitleRow TitleRowReader::ChildRow() const {
     return row;
 }
 
-TitleRow TitleRowReader::GroupRow(int number, int indent) const {
+TitleRow TitleRowReader::BareRow(int number, int indent) const {
     TitleRow row;
     row.key = record_.Text(profile_id_) + u'|' + QString::number(number);
     row.tag = titles_.OriginalOrTitle();
@@ -84,7 +84,18 @@ TitleRow TitleRowReader::GroupRow(int number, int indent) const {
     row.tool_tip = titles_.GetTitle(true, false);
     row.texts[TitleList::Title] = QString(indent, u' ') + row.tool_tip;
     row.texts[TitleList::Number] = LastFive(record_.Text(col_no_));
+    return row;
+}
+
+TitleRow TitleRowReader::GroupRow(int number, int indent) const {
+    TitleRow row = BareRow(number, indent);
     row.texts[TitleList::SortTitle] = titles_.GetSortTitle(false);
+    return row;
+}
+
+TitleRow TitleRowReader::TaggedRow() const {
+    TitleRow row = BareRow(0, 0);
+    row.texts[TitleList::SortTitle] = SortTitleOrEmpty();
     return row;
 }
 

@@ -18,9 +18,12 @@ public:
     TitleRow ChildRow() const;
     /// A title in a grouped list.
     TitleRow GroupRow(int number, int indent) const;
+    /// The same in a list by tags, whose routine has no words for a title without any text: it stands without one.
+    TitleRow TaggedRow() const;
 
 private:
     TitleRow DatedRow() const;
+    TitleRow BareRow(int number, int indent) const;
     QString SortTitleOrEmpty() const;
     QString Date(int ordinal) const;
 

@@ -1,5 +1,6 @@
 #include "browser/Views.h"
 
+#include "browser/AppearancesPanel.h"
 #include "browser/Browser.h"
 #include "browser/CollectionTabs.h"
 #include "browser/ListFilling.h"
@@ -136,6 +137,7 @@ void ShowTVShows(Browser &browser) {
         WriteDbInfo(session, kTabColList, QString::number(browser.tabColList_selected));
     }
     ChangeMode(browser, false);
+    ClearAppearences(browser); // what the first episode of all listed goes again, deliberately
 }
 
 void UpdateSeriesNames(Browser &browser) {

@@ -5,10 +5,9 @@
 #include "collection_files/Rows.h"
 #include "collection_files/SectionReaders.h"
 #include "database/DatabaseFunctions.h"
+#include "database/EventIds.h"
 #include "shell/Session.h"
 #include "xml/XmlNodes.h"
-
-#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -102,25 +101,6 @@ void InsertUser(Session &session, const Person &person) {
                {QLatin1String("PhoneNumber"), person.phone},
                {QLatin1String("EmailAddress"), person.mail},
                {QLatin1String("IsActive"), true}});
-}
-
-/// A number that no event has. Drawn by chance; should chance fail for long, counted on from the last draw.
-int NewEventId(Session &session) {
-    constexpr double kRange = 2147483648.0;
-    constexpr int kDraws = 100;
-    qint64 number = 0;
-    for (int draw = 0;; ++draw) {
-        number = draw < kDraws ? std::llround(session.services.random.Next() * kRange) : number + 1;
-        if (number <= 0 || number >= qint64(kRange)) {
-            number = 0;
-            continue;
-        }
-        if (session.Database
-                ->OpenRecordset(QString(u"SELECT * FROM Events WHERE EventID = "_s + QString::number(number)))
-                .Eof()) {
-            return int(number);
-        }
-    }
 }
 
 QString PlaceType(const QString &type) {

@@ -24,6 +24,8 @@ struct WebEngineRules {
     std::function<PageLink(const QUrl &url, bool by_click, bool is_main_frame)> follow;
     /// Takes a link that leads out of the program.
     std::function<void(const QString &url)> open_link;
+    /// Scripts of pages run.
+    bool scripts = true;
 };
 
 /// The module's way in.
@@ -39,5 +41,5 @@ LazyHtmlView::MakeEngine LoadWebEngine(WebEngineRules rules, std::function<void(
 
 } // namespace ostrand
 
-#define OstrandWebEnginePlugin_iid "ostrand.WebEnginePlugin/1"
+#define OstrandWebEnginePlugin_iid "ostrand.WebEnginePlugin/2"
 Q_DECLARE_INTERFACE(ostrand::WebEnginePlugin, OstrandWebEnginePlugin_iid)

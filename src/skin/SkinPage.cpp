@@ -155,7 +155,7 @@ bool ShowSkinPage(Session &session, SkinState &skin, HtmlView &view, const SkinH
         Step(session,
              [&] { page = RenderSkinText(session, skin, page, *row, is_episode, back_profile_id, RenderOptions()); });
     }
-    view.Navigate(PathToFileUrl(WriteTempPage(session, u"Temp.html"_s, page)));
+    view.Navigate(PathToFileUrl(WriteTempPage(session, skin.page_file, page)));
     WriteTempPage(session, u"blank.html"_s, u"<HTML></HTML>"_s);
     return true;
 }

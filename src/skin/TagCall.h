@@ -28,6 +28,8 @@ struct RenderOptions {
 struct SkinState {
     /// The skin of the last page.
     QString ActiveSkin;
+    /// Where in the temp folder its pages are written.
+    QString page_file = QStringLiteral("Temp.html");
     FolderIndex headshots;
     FolderIndex covers;
     /// Told of each attribute that a producer looks for, whether or not the tag has it; may be empty.

@@ -2,6 +2,7 @@
 
 #include "sql/CollationTable.h"
 
+#include <bit>
 #include <cstring>
 
 namespace ostrand::sql {
@@ -180,21 +181,36 @@ void PutPlace(QByteArray &key, std::uint32_t place, std::uint32_t character) {
     PutNumber(key, character + 1);
 }
 
-/// The key of a text of letters, digits and signs of ASCII alone, which have neither accents nor places; empty for any
-/// other text.
-QByteArray AsciiSortKey(QStringView text) {
-    QByteArray key(text.size() + 2, Qt::Uninitialized);
-    char *next = key.data();
+/// Appends the key of a text of ASCII, which has no accents; false, and nothing is appended, for any other text.
+bool AppendAsciiSortKey(QStringView text, QByteArray &key) {
+    const qsizetype before = key.size();
+    key.resize(before + text.size() + 2);
+    char *next = key.data() + before;
+    std::uint32_t ignored = 0;
     for (const QChar unit : text) {
-        const std::uint8_t weight = unit.unicode() < 0x80 ? weights::kAscii[unit.unicode()] : std::uint8_t(0);
-        if (weight == 0) {
-            return {};
+        if (unit.unicode() >= 0x80) {
+            key.resize(before);
+            return false;
         }
-        *next++ = char(weight);
+        const std::uint8_t weight = weights::kAscii[unit.unicode()];
+        *next = char(weight);
+        next += weight != 0 ? 1 : 0;
+        ignored += weight != 0 ? 0 : 1;
     }
     *next++ = 0;
-    *next = 0;
-    return key;
+    *next++ = 0;
+    key.resize(next - key.constData());
+    if (ignored > 0) {
+        std::uint32_t count = 0;
+        for (const QChar unit : text) {
+            if (weights::kAscii[unit.unicode()] != 0) {
+                ++count;
+            } else {
+                PutPlace(key, count, WeightOf(unit.unicode()).secondary);
+            }
+        }
+    }
+    return true;
 }
 
 /// Runs over what weighs the same in both texts. True when `result` is known; else `place` is where the slow
@@ -211,6 +227,9 @@ bool CompareQuickly(const Unit *left, size_t left_size, const Unit *right, size_
         std::memcpy(&left_block, left + i, sizeof left_block);
         std::memcpy(&right_block, right + i, sizeof right_block);
         if (left_block != right_block) {
+            if constexpr (std::endian::native == std::endian::little) {
+                i += size_t(std::countr_zero(left_block ^ right_block)) / (8 * sizeof(Unit)); // what is equal before
+            }
             break;
         }
     }
@@ -268,15 +287,13 @@ int Compare(QStringView left, QStringView right) {
     return CompareWeights(Weigher(Utf16Reader(left.sliced(start))), Weigher(Utf16Reader(right.sliced(start))));
 }
 
-QByteArray SortKey(QStringView text) {
+void AppendSortKey(QStringView text, QByteArray &key) {
     while (text.endsWith(u' ')) {
         text.chop(1);
     }
-    if (const QByteArray key = AsciiSortKey(text); !key.isEmpty()) {
-        return key;
+    if (AppendAsciiSortKey(text, key)) {
+        return;
     }
-    QByteArray letters;
-    letters.reserve(text.size() + 2);
     QByteArray accents;
     QByteArray places;
     std::uint32_t count = 0;
@@ -287,7 +304,7 @@ QByteArray SortKey(QStringView text) {
             continue;
         }
         ++count;
-        PutNumber(letters, weigher.Primary());
+        PutNumber(key, weigher.Primary());
         if (weigher.Secondary() == 0) {
             ++unaccented;
             continue;
@@ -296,11 +313,17 @@ QByteArray SortKey(QStringView text) {
         PutNumber(accents, weigher.Secondary() + 1);
         unaccented = 0;
     }
-    letters.append(char(0));
-    letters.append(accents);
-    letters.append(char(0));
-    letters.append(places);
-    return letters;
+    key.append(char(0));
+    key.append(accents);
+    key.append(char(0));
+    key.append(places);
+}
+
+QByteArray SortKey(QStringView text) {
+    QByteArray key;
+    key.reserve(text.size() + 2);
+    AppendSortKey(text, key);
+    return key;
 }
 
 int CompareUtf8(std::string_view left, std::string_view right) {

@@ -19,5 +19,7 @@ int Compare(QStringView left, QStringView right);
 int CompareUtf8(std::string_view left, std::string_view right);
 /// A key for sorting or looking up many texts: keys stand to each other, byte by byte, as Compare finds their texts.
 QByteArray SortKey(QStringView text);
+/// Puts such a key behind what is in `key` already.
+void AppendSortKey(QStringView text, QByteArray &key);
 
 } // namespace ostrand::sql

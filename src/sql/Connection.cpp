@@ -191,15 +191,19 @@ int Statement::ColumnCount() const {
 }
 
 Value Statement::Column(int column) const {
-    switch (sqlite3_column_type(handle_.get(), column)) {
+    // Each look at a column costs; the value may be read so because a connection stays in one thread.
+    sqlite3_value *value = sqlite3_column_value(handle_.get(), column);
+    switch (sqlite3_value_type(value)) {
     case SQLITE_INTEGER:
-        return qint64(sqlite3_column_int64(handle_.get(), column));
+        return qint64(sqlite3_value_int64(value));
     case SQLITE_FLOAT:
-        return sqlite3_column_double(handle_.get(), column);
+        return sqlite3_value_double(value);
     case SQLITE_NULL:
         return {};
-    default:
-        return ColumnText(column);
+    default: {
+        const auto *text = reinterpret_cast<const char *>(sqlite3_value_text(value));
+        return QString::fromUtf8(text, sqlite3_value_bytes(value));
+    }
     }
 }
 

@@ -179,15 +179,25 @@ private:
 
 } // namespace
 
-std::unique_ptr<Recordset::Data> Database::Impl::Collect(const Compiled &compiled, Statement &statement) {
+std::unique_ptr<Recordset::Data> Database::Impl::Collect(const Compiled &compiled, Statement &statement,
+                                                         int expected_rows) {
     auto data = std::make_unique<Recordset::Data>();
     data->database = this;
     data->shape = compiled.result;
     data->columns = int(compiled.result->fields.size());
     const bool row_ids = !compiled.result->table.isEmpty();
+    data->cells.reserve(size_t(expected_rows) * size_t(data->columns));
     while (statement.Step()) {
         for (int i = 0; i < data->columns; ++i) {
-            data->cells.push_back(statement.Column(i));
+            Value value = statement.Column(i);
+            if (data->rows > 0 && value.GetType() == Value::Type::Text) {
+                // Rows of a join repeat their texts, which then need no memory of their own.
+                const Value &above = data->cells[data->cells.size() - size_t(data->columns)];
+                if (value == above) {
+                    value = above;
+                }
+            }
+            data->cells.push_back(std::move(value));
         }
         if (row_ids) {
             data->row_ids.push_back(statement.ColumnInteger(data->columns));
@@ -202,7 +212,8 @@ std::unique_ptr<Recordset::Data> Database::Impl::ReadRows(CachedStatement &cache
     BindLiterals(cached.compiled, cached.statement);
     const bool outer = interruptible.exchange(true);
     try {
-        auto data = Collect(cached.compiled, cached.statement);
+        auto data = Collect(cached.compiled, cached.statement, cached.last_rows);
+        cached.last_rows = data->rows;
         interruptible = outer;
         return data;
     } catch (const SqlError &) {

@@ -37,7 +37,8 @@ struct Database::Impl {
     void RunDdl(const ast::Statement &statement);
 
     void BindLiterals(const Compiled &compiled, Statement &statement) const;
-    std::unique_ptr<Recordset::Data> Collect(const Compiled &compiled, Statement &statement);
+    /// Reads all rows; room is made at once for as many as are expected.
+    std::unique_ptr<Recordset::Data> Collect(const Compiled &compiled, Statement &statement, int expected_rows = 0);
 
     /// Runs `change` as one write: opens a batch before it, counts it, notices a lost batch.
     int Write(const std::function<int()> &change);

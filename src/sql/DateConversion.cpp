@@ -288,8 +288,13 @@ std::optional<double> ReadDateText(QStringView text, bool dots_are_day_first) {
     return date && IsDateInRange(*date) ? date : std::nullopt;
 }
 
+/// The number has no more digits than the width.
 void AppendPadded(QString &text, int number, int width) {
-    text.append(QString::number(number).rightJustified(width, u'0'));
+    std::array<char16_t, 4> digits;
+    for (int place = width; place-- > 0; number /= 10) {
+        digits[size_t(place)] = char16_t(u'0' + number % 10);
+    }
+    text.append(QStringView(digits.data(), width));
 }
 
 QString DayText(const DateParts &parts) {

@@ -19,6 +19,7 @@ struct CachedStatement {
     Statement statement;
     std::vector<QString> baked; ///< texts of the baked literals, in the order of `compiled.baked`
     bool busy = false;
+    int last_rows = 0; ///< of its last result
 };
 
 /// Keeps the statements used last. One shape has an entry for each set of its baked literals.

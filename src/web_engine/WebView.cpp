@@ -102,6 +102,7 @@ WebView::WebView(const WebEngineRules &rules, QWidget *parent) :
     CloseUnseenConnections(*profile_);
     setPage(new WebPage(profile_, *this, rules));
     Restrict(*page()->settings());
+    page()->settings()->setAttribute(QWebEngineSettings::JavascriptEnabled, rules.scripts);
     setContextMenuPolicy(Qt::NoContextMenu);
 }
 

@@ -278,6 +278,27 @@ TEST_F(FilterBox, OpensTheWindowsThatExist) {
     EXPECT_FALSE(session.view.mTVShows);
 }
 
+TEST_F(FilterBox, WhatWasSavedMeanwhileIsThereWhenTheListOpens) {
+    ChooseFilter(browser, u"Short titles"_s);
+    Save(u"Long titles"_s, Filter(u"WHERE Len(p.Title) > 5"_s));
+    Run(u"DELETE FROM SQLQueries WHERE Name LIKE 'A*'");
+    OpenFilterList(browser);
+    EXPECT_EQ(browser.comboFilter, (QStringList{u"Clear Filter"_s, u"Filter Profiles by Tags"_s, u"Long titles"_s,
+                                                u"Short titles"_s, u"Add/Edit Filter"_s}));
+    EXPECT_EQ(browser.comboFilter_text, u"Short titles"_s) << "still displayed";
+    EXPECT_EQ(browser.listSeries.rowCount(), 1);
+    Run(u"DELETE FROM SQLQueries WHERE Name = 'Short titles'");
+    OpenFilterList(browser);
+    EXPECT_EQ(browser.comboFilter_text, QString());
+}
+
+TEST_F(FilterBox, AFaultLeavesTheFixedEntries) {
+    Run(u"DROP TABLE SQLQueries");
+    OpenFilterList(browser);
+    EXPECT_TRUE(browser.comboFilter.startsWith(u"Clear Filter"_s));
+    EXPECT_TRUE(LogLines().last().startsWith(u"Error:    OpenFilterList: "_s)) << qPrintable(LogLines().last());
+}
+
 TEST_F(FilterBox, AnEmptyBoxTellsWhereFiltersComeFrom) {
     OpenFilterList(browser);
     EXPECT_TRUE(services.dialogs.messages.empty());

@@ -352,5 +352,23 @@ TEST_F(TitleQueriesTest, TracesItsEntryAndExit) {
     EXPECT_TRUE(lines.contains(u"Exit:     GetMovieNames()"_s)) << lines.join(u'\n').toStdString();
 }
 
+TEST_F(TitleQueriesTest, WindowsHearWhenTheListIsFilled) {
+    AddProfile(u"P1"_s);
+    AddProfile(u"P2"_s);
+    QStringList heard;
+    const auto hear = [&](const QString &what) { heard << what + QString::number(browser.listSeries.rowCount()); };
+    QObject::connect(&browser, &Browser::ListFillingBegun, [&] { hear(u"begun "_s); });
+    QObject::connect(&browser, &Browser::CurrentRowChanged, [&] { hear(u"row "_s); });
+    QObject::connect(&browser, &Browser::ListFillingEnded, [&] { hear(u"ended "_s); });
+    GetMovieNames(browser);
+    EXPECT_EQ(heard, (QStringList{u"begun 0"_s, u"row 2"_s, u"ended 2"_s}));
+    heard.clear();
+    browser.tabColList << u"A'B"_s;
+    SelectTab(u"A'B"_s);
+    GetMovieNames(browser);
+    EXPECT_EQ(heard.front(), u"begun 2"_s);
+    EXPECT_EQ(heard.back(), u"ended 0"_s) << "a faulty statement ends it too";
+}
+
 } // namespace
 } // namespace ostrand

@@ -131,6 +131,18 @@ TEST_F(ViewsTest, MovieViewComesBackToItsCollectionTab) {
     EXPECT_EQ(Keys(), QStringList{u"C1"_s});
 }
 
+TEST_F(ViewsTest, TheEntryOfTVViewLeavesTheAppearancesEmpty) {
+    Run(u"INSERT INTO Episodes (EpisodeID, SeriesID, Season, EpisodeNo, EpisodeTitle) VALUES ('G11', 'S2', 'One', '1', "
+        u"'Dew')");
+    Run(u"INSERT INTO Profile2Episodes (ProfileID, EpisodeID) VALUES ('A1', 'G11')");
+    ChangeMode(browser, false);
+    ASSERT_EQ(browser.appearances.listAppearences.rowCount(), 1) << "the profile that holds the first episode";
+    ShowMovies(browser);
+    ShowTVShows(browser);
+    EXPECT_EQ(session.CurrentProfileID, u"G11"_s);
+    EXPECT_EQ(browser.appearances.listAppearences.rowCount(), 0);
+}
+
 TEST_F(ViewsTest, ATabThatIsNoLongerThereLeavesTheFirst) {
     for (const QString &stored : {u"9"_s, u"0"_s, u"none"_s, QString()}) {
         ChangeMode(browser, false);

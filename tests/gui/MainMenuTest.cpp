@@ -365,10 +365,24 @@ TEST_F(MainMenu, TheTabKeyWalksFromLeftToRight) {
             << qPrintable(stops.join(u' '));
         ASSERT_GE(first_bar, lists.size());
         EXPECT_EQ(stops.sliced(stops.lastIndexOf(u"SplitBar"_s) + 1),
-                  movies ? QStringList({u"SQL"_s, u"ChangeMode"_s, u"tabColList"_s, u"comboFilter"_s})
-                         : QStringList({u"SQL"_s, u"ChangeMode"_s, u"tabColList"_s}));
+                  QStringList({u"SQL"_s, u"ProfileInfo"_s, u"ChangeMode"_s, u"tabColList"_s}) +
+                      (movies ? QStringList{u"comboFilter"_s} : QStringList()));
         EXPECT_FALSE(stops.contains(u"ScrollRightButton"_s));
     }
+}
+
+TEST_F(MainMenu, TheMenuOfTheTabsIsThatOfTheTabMeant) {
+    StartAsked(true);
+    auto *tabs = Control<QTabBar>("tabColList");
+    ASSERT_GE(tabs->count(), 4);
+    tabs->resize(tabs->sizeHint());
+    tabs->setCurrentIndex(0);
+    ASSERT_GT(tabs->tabAt(tabs->rect().center()), 0);
+    EXPECT_EQ(OpenedBy(tabs, QContextMenuEvent::Keyboard), u"mColTabTools"_s);
+    EXPECT_EQ(tabs->currentIndex(), 0) << "a key means the tab that is selected";
+    const int below = tabs->tabAt(tabs->rect().center());
+    EXPECT_EQ(OpenedBy(tabs, QContextMenuEvent::Mouse), u"mColTabTools"_s);
+    EXPECT_EQ(tabs->currentIndex(), below) << "the mouse means the one below it";
 }
 
 TEST_F(MainMenu, EachListOpensItsContextMenu) {

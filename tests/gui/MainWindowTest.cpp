@@ -330,6 +330,60 @@ TEST_F(MainWindow, CtrlAtTheStartBringsTheFirstLayoutBack) {
     EXPECT_NEAR(double(main->Split(1)->Position()) / (main->Split(1)->width() * 15), 0.45, 0.01);
 }
 
+TEST_F(MainWindow, ColumnsOfTheListFollowItsWidth) {
+    Start();
+    const QHeaderView *header = List()->header();
+    for (const int width : {900, 1400, 700}) {
+        main->resize(width, 600);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(header->sectionSize(TitleList::Title), qRound(0.78 * List()->width())) << width;
+        EXPECT_EQ(header->hiddenSectionCount(), kTitleColumns - 1) << width;
+    }
+    Trigger("mOrderProdYearAsc");
+    for (const int width : {900, 1400, 700}) {
+        main->resize(width, 600);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(header->sectionSize(TitleList::Year), qRound(0.25 * List()->width())) << width;
+        EXPECT_EQ(header->length(), List()->viewport()->width()) << "the title gives way to the column that sorts";
+    }
+    Trigger("mOrderColNoDesc");
+    EXPECT_EQ(header->sectionSize(TitleList::Number), qRound(0.25 * List()->width()));
+    EXPECT_TRUE(header->isSectionHidden(TitleList::Year));
+    Trigger("mOrderTitleAsc");
+    EXPECT_EQ(header->sectionSize(TitleList::Title), qRound(0.78 * List()->width()));
+    EXPECT_EQ(header->hiddenSectionCount(), kTitleColumns - 1);
+}
+
+TEST_F(MainWindow, TheListIsHiddenAndTheCursorWaitsWhileItIsFilled) {
+    Start();
+    List()->setFocus();
+    int looks = 0;
+    QObject::connect(&browser, &Browser::CurrentRowChanged, List(), [&] {
+        ++looks;
+        EXPECT_FALSE(List()->viewport()->isVisible());
+        EXPECT_TRUE(QApplication::overrideCursor());
+        EXPECT_EQ(main->focusWidget(), List());
+    });
+    Trigger("mBoxsetView");
+    EXPECT_GT(looks, 0);
+    EXPECT_TRUE(List()->viewport()->isVisible());
+    EXPECT_FALSE(QApplication::overrideCursor());
+    EXPECT_EQ(main->focusWidget(), List());
+}
+
+TEST_F(MainWindow, AColumnDrawnToAnotherWidthKeepsIt) {
+    Start();
+    main->resize(1400, 600);
+    List()->header()->resizeSection(TitleList::Title, List()->width() / 2);
+    Trigger("mBoxsetView"); // fills the list anew
+    EXPECT_EQ(List()->columnWidth(TitleList::Title), List()->width() / 2);
+    main->resize(900, 600);
+    QCoreApplication::processEvents();
+    EXPECT_NEAR(List()->columnWidth(TitleList::Title), List()->width() / 2, 1);
+    ASSERT_TRUE(OpenCollectionDatabase(session, database));
+    EXPECT_EQ(List()->columnWidth(TitleList::Title), qRound(0.78 * List()->width()));
+}
+
 TEST_F(MainWindow, FontsOfTheSettingsReachTheLists) {
     Start({u"INSERT INTO DbInfo (InfoName, InfoValue) VALUES ('FontSize', '14')"_s,
            u"INSERT INTO DbInfo (InfoName, InfoValue) VALUES ('FontName', 'DejaVu Sans')"_s});

@@ -46,6 +46,16 @@ TEST(Collation, CaseTrailingBlanksAndExpansionDoNotCount) {
     }
 }
 
+TEST(Collation, KeysPutBehindOthersAreThoseThatStandAlone) {
+    QByteArray keys = "before";
+    QByteArray expected = keys;
+    for (const QString &text : {u"abc"_s, u""_s, u"co-op's"_s, u"-'-"_s, u"zoë"_s, u"zo-ë "_s, u"мир"_s, u"  "_s}) {
+        AppendSortKey(text, keys);
+        expected += SortKey(text);
+        EXPECT_EQ(keys, expected) << text.toStdString();
+    }
+}
+
 TEST(Collation, OtherTextsAreNeverEqual) {
     const QStringList texts = {u"zoe"_s, u"zoë"_s, u"zoé"_s,       u"zo-e"_s, u"zo'e"_s, u"zo\u00ADe"_s, u"zo’e"_s,
                                u"zoø"_s, u"zoo"_s, u"zoº"_s,       u"zo²"_s,  u"zo2"_s,  u" zoe"_s,      u"zoe\t"_s,

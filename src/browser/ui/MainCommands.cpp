@@ -11,12 +11,15 @@
 #include "browser/PanelFields.h"
 #include "browser/ProfileCommands.h"
 #include "browser/ProfileInfos.h"
+#include "browser/SheetTitle.h"
 #include "browser/SkinView.h"
 #include "browser/TitleQueries.h"
 #include "browser/Views.h"
 #include "browser/ui/Guarded.h"
 #include "browser/ui/frmCover.h"
+#include "browser/ui/frmFilterTags.h"
 #include "browser/ui/frmMain.h"
+#include "browser/ui/frmProfile.h"
 #include "collection_files/ProfilerImport.h"
 #include "database/TitlesDue.h"
 #include "database/ui/frmSwitchDatabase.h"
@@ -56,6 +59,7 @@ void ShowDropBox(frmMain &main) {
     auto *window = main.findChild<frmDropBox *>();
     if (!window) {
         window = new frmDropBox(main.browser.session, &main);
+        QObject::connect(&main.browser, &Browser::LanguageChanged, window, &frmDropBox::TranslateTexts);
     }
     window->show();
     window->raise();
@@ -70,6 +74,47 @@ void ShowCoverWindow(frmMain &main) {
     window->show();
     window->raise();
     window->activateWindow();
+}
+
+void ShowFilterTags(frmMain &main) {
+    auto *window = main.findChild<frmFilterTags *>();
+    if (!window) {
+        window = new frmFilterTags(main.browser, &main);
+        window->perform = [&main](const std::function<void()> &action) { main.Perform(action); };
+    }
+    window->show();
+    window->raise();
+    window->activateWindow();
+}
+
+void ShowProfile(frmMain &main, const SheetTitle &title) {
+    auto *window = main.findChild<frmProfile *>();
+    if (!window) {
+        window = new frmProfile(
+            main.browser,
+            [&main](WebEngineRules rules, std::function<void(const QString &)> failed) {
+                return main.EngineFor(std::move(rules), std::move(failed));
+            },
+            [&main](const std::function<void()> &action) { main.Perform(action); }, &main);
+    }
+    window->show();
+    if (title.is_episode) {
+        window->GetEpisodeInfo(title.id);
+    } else {
+        window->GetProfileInfo(title.id);
+    }
+    window->raise();
+    window->activateWindow();
+}
+
+void ShowProfileInfo(frmMain &main) {
+    ShowProfile(main, SelectedTitle(main.browser));
+}
+
+void ShowEpisodeInfo(frmMain &main) {
+    if (const SheetTitle episode = SelectedEpisode(main.browser); !episode.id.isEmpty()) {
+        ShowProfile(main, episode);
+    }
 }
 
 void ShowSqlQuery(frmMain &main) {
@@ -147,6 +192,8 @@ constexpr Handler kHandlers[] = {
     {u"mUseCustomTitle", Browse<ToggleCustomTitle>},
     {u"mUseOriginalTitle", Browse<ToggleOriginalTitle>},
     {u"mShowDescription", Browse<ToggleDescription>},
+    {u"mProfileInformation", ShowProfileInfo},
+    {u"mEpisodeInfoContext", ShowEpisodeInfo},
     {u"mShowCover", ShowCoverWindow},
     {u"mFlipCover", Browse<FlipCover>},
     {u"mGotoProfile", Browse<GotoProfile>},
@@ -226,6 +273,7 @@ void HandleGridLines(frmMain &main) {
 
 void HandleCommands(frmMain &main) {
     HandleGridLines(main);
+    main.browser.hooks.ShowFilterTags = [&main] { ShowFilterTags(main); };
     for (const Handler &handler : kHandlers) {
         main.browser.commands.Handle(QString::fromUtf16(handler.name),
                                      [&main, run = handler.run] { main.Perform([&] { run(main); }); });

@@ -4,6 +4,7 @@
 #include "browser/CollectionTabs.h"
 #include "shell/Session.h"
 
+#include <QContextMenuEvent>
 #include <QScopedValueRollback>
 #include <QStandardItemModel>
 
@@ -16,8 +17,21 @@ void FilterBox::showPopup() {
     }
 }
 
+void TypeTabs::contextMenuEvent(QContextMenuEvent *event) {
+    // A key tells the middle of all tabs as its place, where another one may stand.
+    if (event->reason() == QContextMenuEvent::Keyboard) {
+        Q_EMIT MenuWanted(mapToGlobal(tabRect(currentIndex()).center()));
+        return;
+    }
+    const int index = tabAt(event->pos());
+    if (index >= 0 && index != currentIndex()) {
+        setCurrentIndex(index);
+    }
+    Q_EMIT MenuWanted(event->globalPos());
+}
+
 TitleListPanel::TitleListPanel(Browser &browser, QWidget *parent) :
-    QWidget(parent), browser_(browser), tabColList_(new QTabBar(this)), comboFilter_(new FilterBox(this)),
+    QWidget(parent), browser_(browser), tabColList_(new TypeTabs(this)), comboFilter_(new FilterBox(this)),
     listSeries_(new TitleListView(browser, this)), labelFilterCount_(new QLabel(this)) {
     setObjectName(QStringLiteral("Frame1_1"));
     MakeTabs();
@@ -52,7 +66,6 @@ void TitleListPanel::MakeTabs() {
     tabColList_->setUsesScrollButtons(true);
     tabColList_->setDrawBase(false);
     tabColList_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    tabColList_->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(&browser_, &Browser::TabsChanged, this, &TitleListPanel::ShowTabs);
     connect(tabColList_, &QTabBar::currentChanged, this, [this](int index) {
         if (!following_ && index >= 0) {
@@ -66,13 +79,7 @@ void TitleListPanel::MakeTabs() {
             SelectColTypeTab(browser_, index + 1);
         }
     });
-    connect(tabColList_, &QWidget::customContextMenuRequested, this, [this](const QPoint &place) {
-        const int index = tabColList_->tabAt(place);
-        if (index >= 0 && index != tabColList_->currentIndex()) {
-            tabColList_->setCurrentIndex(index);
-        }
-        Q_EMIT TabMenuWanted(tabColList_->mapToGlobal(place));
-    });
+    connect(tabColList_, &TypeTabs::MenuWanted, this, &TitleListPanel::TabMenuWanted);
 }
 
 void TitleListPanel::MakeFilterBox() {

@@ -21,6 +21,20 @@ Q_SIGNALS:
     void AboutToOpen();
 };
 
+/// The tabs of collection types; tells when a menu is wanted for the current one.
+class TypeTabs : public QTabBar {
+    Q_OBJECT
+public:
+    using QTabBar::QTabBar;
+
+Q_SIGNALS:
+    void MenuWanted(const QPoint &place);
+
+protected:
+    /// The mouse makes the tab below it the current one first.
+    void contextMenuEvent(QContextMenuEvent *event) override;
+};
+
 /// Frame1_1. The tabs of collection types, the filter box, listSeries and the count of what is shown.
 class TitleListPanel : public QWidget {
     Q_OBJECT
@@ -44,7 +58,7 @@ private:
     void ShowFilters();
 
     Browser &browser_;
-    QTabBar *tabColList_;
+    TypeTabs *tabColList_;
     FilterBox *comboFilter_;
     TitleListView *listSeries_;
     QLabel *labelFilterCount_;

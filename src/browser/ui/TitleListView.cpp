@@ -28,7 +28,11 @@ TitleListView::TitleListView(Browser &browser, QWidget *parent) :
     header()->setSectionsMovable(false);
     header()->setStretchLastSection(false);
     header()->setMinimumSectionSize(0);
+    connect(header(), &QHeaderView::sectionResized, this,
+            [this](int column, int, int size) { KeepWidth(column, size); });
     connect(header(), &QHeaderView::sectionClicked, this, [this](int column) { SortByHeader(browser_, column); });
+    connect(&browser_, &Browser::ListFillingBegun, this, [this] { ShowFilling(true); });
+    connect(&browser_, &Browser::ListFillingEnded, this, [this] { ShowFilling(false); });
     connect(&browser_, &Browser::CurrentRowChanged, this, &TitleListView::FollowBrowser);
     connect(&browser_, &Browser::ModeChanged, this, &TitleListView::FollowView);
     connect(&browser_.listSeries, &TitleList::WidthsChanged, this, &TitleListView::ApplyWidths);
@@ -62,6 +66,16 @@ QList<int> TitleListView::SelectedRows() const {
 void TitleListView::SetGridLines(bool shown) {
     delegate_->SetGridLines(shown);
     viewport()->update();
+}
+
+void TitleListView::ShowFilling(bool on) {
+    // The rows and not the list: what is hidden loses the focus.
+    viewport()->setVisible(!on);
+    if (on) {
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    } else {
+        QApplication::restoreOverrideCursor();
+    }
 }
 
 void TitleListView::FollowBrowser() {
@@ -145,11 +159,18 @@ void TitleListView::resizeEvent(QResizeEvent *event) {
     ApplyWidths();
 }
 
+void TitleListView::KeepWidth(int column, int size) {
+    if (!applying_ && size > 0 && width() > 0) {
+        browser_.listSeries.SetWidth(column, double(size) / width());
+    }
+}
+
 void TitleListView::ApplyWidths() {
+    const QScopedValueRollback<bool> apply(applying_, true);
     const int list_width = width();
     int others = 0;
     for (int column = 1; column < kTitleColumns; ++column) {
-        const int wanted = int(browser_.listSeries.Width(column) * list_width);
+        const int wanted = qRound(browser_.listSeries.Width(column) * list_width);
         setColumnHidden(column, wanted == 0);
         if (wanted > 0) {
             setColumnWidth(column, wanted);
@@ -157,7 +178,7 @@ void TitleListView::ApplyWidths() {
         }
     }
     // The two widths may add up to more than there is; the list does not scroll sideways for that.
-    setColumnWidth(0, std::min(int(browser_.listSeries.Width(0) * list_width), viewport()->width() - others));
+    setColumnWidth(0, std::min(qRound(browser_.listSeries.Width(0) * list_width), viewport()->width() - others));
 }
 
 void TitleListView::ShowSortMark() {

@@ -37,7 +37,11 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    /// The list is being filled: its rows are hidden and the cursor waits.
+    void ShowFilling(bool on);
     void FollowBrowser();
+    /// The user drew a column to another width, which it keeps as a part of the list's.
+    void KeepWidth(int column, int size);
     /// The user went to a row.
     void Move(int row);
     void FollowView();
@@ -48,6 +52,7 @@ private:
     Browser &browser_;
     TitleDelegate *delegate_;
     bool following_ = false;
+    bool applying_ = false;
     bool moving_ = false; ///< to the row that the user chose
     QString typed_;
     QElapsedTimer last_typed_;

@@ -24,6 +24,7 @@
 #include "browser/ui/SkinRules.h"
 #include "browser/ui/TitleListPanel.h"
 #include "browser/ui/ToolMain.h"
+#include "browser/ui/frmProfile.h"
 #include "collection_files/ProfilerImport.h"
 #include "database/ui/frmSwitchDatabase.h"
 #include "shell/InstanceMarker.h"
@@ -68,10 +69,11 @@ void OpenMenuOf(QWidget *control) {
 
 } // namespace
 
-frmMain::frmMain(Browser &the_browser, LazyHtmlView::MakeEngine make_engine) : browser(the_browser) {
+frmMain::frmMain(Browser &the_browser, LazyHtmlView::MakeEngine make_engine) :
+    browser(the_browser), make_engine_(std::move(make_engine)) {
     setObjectName(u"frmMain"_s);
     setAcceptDrops(true);
-    MakeSkinView(std::move(make_engine));
+    MakeSkinView();
     Compose();
     ConnectBrowser();
     AttachBrowser(browser);
@@ -90,7 +92,9 @@ frmMain::frmMain(Browser &the_browser, LazyHtmlView::MakeEngine make_engine) : b
 frmMain::~frmMain() {
     // What still runs must not reach a window that is gone.
     browser.session.window = {};
+    browser.hooks.ShowFilterTags = {};
     browser.disconnect(this);
+    delete findChild<frmProfile *>();
     skin_.reset();
 }
 
@@ -98,13 +102,14 @@ SplitPanel *frmMain::Split(int number) const {
     return splits_[size_t(number - 1)];
 }
 
-void frmMain::MakeSkinView(LazyHtmlView::MakeEngine make_engine) {
-    if (!make_engine) {
-        make_engine = LoadWebEngine(SkinRules(browser.session), [this](const QString &reason) {
-            Guarded(browser.session, [&] { skin_->TellNoEngine(reason); });
-        });
-    }
-    WebSkin_ = new LazyHtmlView(std::move(make_engine));
+LazyHtmlView::MakeEngine frmMain::EngineFor(WebEngineRules rules, std::function<void(const QString &)> failed) const {
+    return make_engine_ ? make_engine_ : LoadWebEngine(std::move(rules), std::move(failed));
+}
+
+void frmMain::MakeSkinView() {
+    WebSkin_ = new LazyHtmlView(EngineFor(SkinRules(browser.session), [this](const QString &reason) {
+        Guarded(browser.session, [&] { skin_->TellNoEngine(reason); });
+    }));
     WebSkin_->setObjectName(u"WebSkin"_s);
     skin_ = std::make_unique<SkinView>(browser, *WebSkin_);
     skin_->later = [this](const std::function<void()> &action) {
@@ -323,6 +328,7 @@ void frmMain::SetWindowHooks() {
         MenuStrings(browser.session, browser.commands);
         TranslateBrowser(browser);
         TranslateNames();
+        Q_EMIT browser.LanguageChanged();
     };
     session.window.ShowAuditMenus = [this] {
         ostrand::ShowAuditMenus(browser.commands, browser.session.audit.menus_shown);
@@ -465,6 +471,8 @@ void frmMain::ShowListView(std::unique_ptr<ListTable> table) {
         Guarded(browser.session,
                 [&] { kind == ListRowKind::Episode ? ShowEpisode(browser, key) : ShowMovie(browser, key); });
     };
+    connect(&browser, &Browser::LanguageChanged, window,
+            [this, window] { Guarded(browser.session, [&] { window->ShowAgain(); }); });
     window->show();
     window->raise();
 }

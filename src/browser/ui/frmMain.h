@@ -1,7 +1,7 @@
 // The main window.
 #pragma once
 
-#include "platform_qt/LazyHtmlView.h"
+#include "platform_qt/WebEnginePlugin.h"
 
 #include <QMainWindow>
 
@@ -37,6 +37,8 @@ public:
 
     Browser &browser;
     SkinView &Skin() { return *skin_; }
+    /// An engine for a view of pages, by its own rules; `failed` is told why there is none.
+    LazyHtmlView::MakeEngine EngineFor(WebEngineRules rules, std::function<void(const QString &reason)> failed) const;
     /// The window's splitters by their number, from 1.
     SplitPanel *Split(int number) const;
     /// Shows a table in a window of its own; one with the same caption is filled anew.
@@ -56,7 +58,7 @@ protected:
     void dropEvent(QDropEvent *event) override;
 
 private:
-    void MakeSkinView(LazyHtmlView::MakeEngine make_engine);
+    void MakeSkinView();
     void Compose();
     void OrderTabs();
     void ConnectBrowser();
@@ -90,6 +92,7 @@ private:
     MiddlePanel *middle_ = nullptr;
     AppearancesView *appearances_ = nullptr;
     AwardsFrame *awards_ = nullptr;
+    LazyHtmlView::MakeEngine make_engine_; ///< stands in for the module
     LazyHtmlView *WebSkin_ = nullptr;
     std::unique_ptr<SkinView> skin_;
     std::array<SplitPanel *, 6> splits_ = {};

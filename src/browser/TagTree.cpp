@@ -1,0 +1,158 @@
+#include "browser/TagTree.h"
+
+#include "shell/Session.h"
+#include "sql/Collation.h"
+
+namespace ostrand {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr auto kDivider = u'/';
+
+QStringList ReadTags(Session &session) {
+    QStringList tags;
+    if (!session.Database) {
+        return tags;
+    }
+    sql::Recordset rows =
+        session.Database->OpenRecordset(u"SELECT DISTINCT FullyQualifiedName FROM Tags ORDER BY FullyQualifiedName");
+    for (; !rows.Eof(); rows.MoveNext()) {
+        const QString tag = rows.Text(0);
+        if (!tag.isEmpty() && !tag.startsWith(u' ')) {
+            tags += tag;
+        }
+    }
+    return tags;
+}
+
+} // namespace
+
+QModelIndex TagTree::index(int row, int column, const QModelIndex &parent) const {
+    const Node &node = nodes_[parent.isValid() ? size_t(parent.internalId()) : 0];
+    if (column != 0 || row < 0 || row >= int(node.children.size())) {
+        return {};
+    }
+    return createIndex(row, 0, quintptr(node.children[size_t(row)]));
+}
+
+QModelIndex TagTree::parent(const QModelIndex &index) const {
+    if (!index.isValid()) {
+        return {};
+    }
+    const int above = nodes_[size_t(index.internalId())].parent;
+    return above == 0 ? QModelIndex() : createIndex(nodes_[size_t(above)].row, 0, quintptr(above));
+}
+
+int TagTree::rowCount(const QModelIndex &parent) const {
+    return int(nodes_[parent.isValid() ? size_t(parent.internalId()) : 0].children.size());
+}
+
+int TagTree::columnCount(const QModelIndex &) const {
+    return 1;
+}
+
+Qt::ItemFlags TagTree::flags(const QModelIndex &index) const {
+    return index.isValid() ? QAbstractItemModel::flags(index) | Qt::ItemIsUserCheckable : Qt::NoItemFlags;
+}
+
+QVariant TagTree::data(const QModelIndex &index, int role) const {
+    if (!index.isValid()) {
+        return {};
+    }
+    const Node &node = nodes_[size_t(index.internalId())];
+    switch (role) {
+    case Qt::DisplayRole:
+        return node.text;
+    case Qt::ToolTipRole:
+    case TagRole:
+        return node.tag;
+    case KeyRole:
+        return QString(u't' + node.tag);
+    case Qt::CheckStateRole:
+        return int(node.checked ? Qt::Checked : Qt::Unchecked);
+    default:
+        return {};
+    }
+}
+
+bool TagTree::setData(const QModelIndex &index, const QVariant &value, int role) {
+    if (!index.isValid() || role != Qt::CheckStateRole) {
+        return false;
+    }
+    bool &checked = nodes_[size_t(index.internalId())].checked;
+    const bool wanted = value.toInt() == Qt::Checked;
+    if (checked != wanted) {
+        checked = wanted;
+        Q_EMIT dataChanged(index, index, {Qt::CheckStateRole});
+        Q_EMIT CheckChanged(index);
+    }
+    return true;
+}
+
+void TagTree::Load(Session &session, bool keep_checks) {
+    const QStringList checked = keep_checks ? CheckedTags() : QStringList();
+    Clear();
+    const QStringList tags = ReadTags(session);
+    beginResetModel();
+    for (const QString &tag : tags) {
+        AddTag(tag);
+    }
+    for (const QString &tag : checked) {
+        const auto found = by_path_.constFind(sql::SortKey(tag));
+        if (found != by_path_.constEnd()) {
+            nodes_[size_t(*found)].checked = true;
+        }
+    }
+    endResetModel();
+}
+
+QStringList TagTree::CheckedTags() const {
+    QStringList tags;
+    CollectChecked(0, tags);
+    return tags;
+}
+
+void TagTree::Clear() {
+    beginResetModel();
+    nodes_.assign(1, {});
+    by_path_.clear();
+    endResetModel();
+}
+
+void TagTree::AddTag(const QString &tag) {
+    int parent = 0;
+    for (qsizetype at = 0; at <= tag.size();) {
+        qsizetype end = tag.indexOf(kDivider, at);
+        end = end < 0 ? tag.size() : end;
+        parent = AddLevel(parent, tag.mid(at, end - at), tag.left(end));
+        at = end + 1;
+    }
+}
+
+int TagTree::AddLevel(int parent, const QString &text, const QString &path) {
+    const QByteArray key = sql::SortKey(path);
+    if (const auto found = by_path_.constFind(key); found != by_path_.constEnd()) {
+        return *found;
+    }
+    const int number = int(nodes_.size());
+    std::vector<int> &siblings = nodes_[size_t(parent)].children;
+    Node node{.text = text, .tag = path, .parent = parent, .row = int(siblings.size()), .children = {}};
+    siblings.push_back(number);
+    nodes_.push_back(std::move(node)); // ends the reference to the siblings
+    by_path_.insert(key, number);
+    return number;
+}
+
+// As deep as a tag has levels, which its 255 characters limit.
+void TagTree::CollectChecked(int node, QStringList &tags) const {
+    for (const int child : nodes_[size_t(node)].children) {
+        if (nodes_[size_t(child)].checked) {
+            tags += nodes_[size_t(child)].tag;
+        }
+        CollectChecked(child, tags);
+    }
+}
+
+} // namespace ostrand
