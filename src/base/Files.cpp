@@ -4,12 +4,26 @@
 #include <QFile>
 #include <QSaveFile>
 
+#include <utility>
+
 namespace ostrand {
 
 bool ReplaceFile(const QString &path, const QByteArray &content, QString *error) {
+    bool given = false;
+    return ReplaceFile(
+        path, [&] { return std::exchange(given, true) ? QByteArray() : content; }, error);
+}
+
+bool ReplaceFile(const QString &path, const std::function<QByteArray()> &next_piece, QString *error) {
     QSaveFile file(path);
-    const bool written =
-        file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.commit(); // commit syncs
+    bool written = file.open(QIODevice::WriteOnly);
+    while (written) {
+        const QByteArray piece = next_piece();
+        if (piece.isEmpty())
+            break;
+        written = file.write(piece) == piece.size();
+    }
+    written = written && file.commit(); // which syncs
     if (!written && error != nullptr)
         *error = file.errorString();
     return written;

@@ -4,6 +4,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <functional>
 #include <optional>
 
 namespace ostrand {
@@ -11,6 +12,9 @@ namespace ostrand {
 /// Writes a new file beside the old one, makes it durable and puts it in the old one's place, so that a crash leaves
 /// either the one or the other. False on a fault, which leaves the old file; `error` then says why.
 bool ReplaceFile(const QString &path, const QByteArray &content, QString *error = nullptr);
+
+/// The same for content that comes in pieces, until an empty one.
+bool ReplaceFile(const QString &path, const std::function<QByteArray()> &next_piece, QString *error = nullptr);
 
 /// The whole file; nothing when it cannot be read.
 std::optional<QByteArray> ReadFile(const QString &path);

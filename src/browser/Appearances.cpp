@@ -166,14 +166,23 @@ std::optional<std::vector<ListTableRow>> GetAppearances(Session &session, const 
     return std::move(search).Sorted();
 }
 
-void ShowAppearances(Session &session, const QString &name, int birth_year) {
+namespace {
+
+std::unique_ptr<ListTable> AppearancesTable(Session &session, const QString &name, int birth_year) {
     std::vector<ListTableRow> rows = GetAppearances(session, name, birth_year).value_or(std::vector<ListTableRow>());
     const QString caption =
         name + " ("_L1 + QString::number(rows.size()) + u' ' + Translate(session, u"entries"_s) + u')';
     auto table = std::make_unique<ListTable>(caption, AppearanceColumns(session));
     table->Assign(std::move(rows));
+    table->again = [&session, name, birth_year] { return AppearancesTable(session, name, birth_year); };
+    return table;
+}
+
+} // namespace
+
+void ShowAppearances(Session &session, const QString &name, int birth_year) {
     if (session.window.ShowListView) {
-        session.window.ShowListView(std::move(table));
+        session.window.ShowListView(AppearancesTable(session, name, birth_year));
     }
 }
 

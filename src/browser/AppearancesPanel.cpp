@@ -119,6 +119,10 @@ void GetAppearances(Browser &browser, const QString &name, const QString &birth_
         return;
     }
     EnterMode(browser, PanelMode::Appearances);
+    if (!keep) {
+        browser.appearances.appearances_of.clear();
+    }
+    browser.appearances.appearances_of.append({name, birth_year});
     std::vector<ListTableRow> rows = keep ? browser.appearances.listAppearences.Rows() : std::vector<ListTableRow>();
     const bool merged = !rows.empty();
     rows.insert(rows.end(), std::make_move_iterator(found->begin()), std::make_move_iterator(found->end()));
@@ -285,6 +289,7 @@ void FindAwardsForActor(Browser &browser, const QString &name, const QString &bi
     Session &session = browser.session;
     AppearancesPanel &panel = browser.appearances;
     QString shown_name = name;
+    panel.awards_of = {name, birth_year};
     panel.labelAwards = Translate(session, u"Awards for"_s) + u' ' + shown_name.replace(u'&', "&&"_L1);
     panel.treeAwards.Clear();
     try {
@@ -300,6 +305,7 @@ void FindAwardsForActor(Browser &browser, const QString &name, const QString &bi
 
 void ClearAwards(Browser &browser) {
     AppearancesPanel &panel = browser.appearances;
+    panel.awards_of = {};
     panel.labelAwards = Translate(browser.session, u"Awards"_s);
     if (panel.treeAwards.rowCount() > 0) {
         panel.treeAwards.Clear();
@@ -329,6 +335,33 @@ void ShowAppearanceHeaders(Browser &browser) {
     const PanelMode mode = browser.session.view.panel_mode;
     if (mode != PanelMode::None) {
         browser.appearances.listAppearences.SetColumns(ColumnsOf(browser.session, mode));
+    }
+}
+
+void RefillAppearances(Browser &browser) {
+    AppearancesPanel &panel = browser.appearances;
+    const bool of_persons = browser.session.view.panel_mode == PanelMode::Appearances;
+    if (of_persons && panel.listAppearences.rowCount() > 0) {
+        const int row = panel.current_row;
+        const int column = panel.sort_column;
+        const Qt::SortOrder order = panel.sort_order;
+        bool keep = false;
+        for (const auto &[name, birth_year] : QList(panel.appearances_of)) {
+            GetAppearances(browser, name, birth_year, keep);
+            keep = true;
+        }
+        if (column >= 0) {
+            panel.sort_column = column;
+            panel.sort_order = order;
+            panel.listAppearences.sort(column, order);
+            Q_EMIT panel.SortChanged();
+        }
+        panel.current_row = row < panel.listAppearences.rowCount() ? row : -1;
+    }
+    if (const AppearancesPanel::Person person = panel.awards_of; !person.first.isEmpty()) {
+        FindAwardsForActor(browser, person.first, person.second);
+    } else {
+        ClearAwards(browser);
     }
 }
 

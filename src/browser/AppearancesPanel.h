@@ -24,6 +24,11 @@ public:
     /// The caption above treeAwards; "&" stands doubled in it.
     QString labelAwards;
 
+    /// A name and a birth year.
+    using Person = std::pair<QString, QString>;
+    /// Whose appearances the list shows, and whose awards the tree; a name is empty for none.
+    QList<Person> appearances_of;
+    Person awards_of;
     /// Whose appearances the list holds; empty while it lists something else, or those of several persons.
     QString shown_name;
     QString shown_birth_year;
@@ -76,5 +81,7 @@ void GoToAwardedMovie(Browser &browser, const QModelIndex &nomination);
 
 /// The captions in the present language.
 void ShowAppearanceHeaders(Browser &browser);
+/// The rows and the awards anew, in the present language; their order and the row that is selected stay.
+void RefillAppearances(Browser &browser);
 
 } // namespace ostrand

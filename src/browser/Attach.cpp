@@ -54,6 +54,7 @@ void LoadWindowSettings(Browser &browser) {
     browser.translated = browser.session.UseUserDefinedStrings;
     Q_EMIT browser.SettingsChanged();
     browser.current_row = -1;
+    browser.find.Forget();
     BuildColumns(browser);
     browser.tabColList_selected = 1; // captions of another database say nothing here
     LoadTabs(browser);
@@ -78,7 +79,7 @@ void FollowBrowser(Browser &browser) {
     }
     const int row = browser.current_row;
     const bool selected = row >= 0 && row < browser.listSeries.rowCount();
-    view.LastSelectedItem = selected ? browser.listSeries.At(row).key : QString();
+    view.LastSelectedItem = selected ? browser.listSeries.At(row).key : browser.find.HiddenKey();
 }
 
 /// The cover folder may have been settled after the current row was shown.
@@ -135,6 +136,7 @@ void ShowNoCollection(Browser &browser) {
     session.CurrentProfileID.clear();
     session.CurrentSeriesID.clear();
     session.CurrentIsEpisode = false;
+    browser.find.Forget();
     browser.current_row = -1;
     browser.current_episode = -1;
     browser.current_season = -1;
@@ -170,6 +172,7 @@ void TranslateBrowser(Browser &browser) {
     Q_EMIT browser.FilterChanged();
     ShowFilterCount(browser, browser.filter_count);
     RefreshProfileInfos(browser);
+    RefillAppearances(browser);
 }
 
 void AttachBrowser(Browser &browser) {

@@ -21,6 +21,7 @@ struct Siblings {
     size_t next;
     int level;
     QString parent_key;
+    QString parent_sort_title;
 };
 
 } // namespace
@@ -56,13 +57,13 @@ BoxsetRows::BoxsetRows(Session &session) {
     }
 }
 
-void BoxsetRows::GetBoxsetChilds(const QString &boxset_id, int level, const QString &parent_key,
+void BoxsetRows::GetBoxsetChilds(const QString &boxset_id, int level, const QString &parent_sort_title,
                                  std::vector<TitleRow> &rows) {
     const std::vector<int> &first = by_boxset_.Find(boxset_id);
     if (first.empty()) {
         return;
     }
-    std::vector<Siblings> path = {{&first, 0, level, parent_key}};
+    std::vector<Siblings> path = {{&first, 0, level, boxset_id, parent_sort_title}};
     while (!path.empty()) {
         Siblings &siblings = path.back();
         if (siblings.next == siblings.rows->size() || siblings.level > kDeepestLevel) {
@@ -76,11 +77,12 @@ void BoxsetRows::GetBoxsetChilds(const QString &boxset_id, int level, const QStr
         QString &title = row.texts[TitleList::Title];
         title = title.rightJustified(title.size() + qsizetype(siblings.level) * kBlanksOfLevel, u' ');
         QString &sort_title = row.texts[TitleList::SortTitle];
-        sort_title = siblings.parent_key + " - "_L1 + sort_title;
+        sort_title = siblings.parent_sort_title + " - "_L1 + sort_title;
+        row.parent_key = siblings.parent_key;
         const std::vector<int> &below = by_boxset_.Find(row.key);
         if (!below.empty()) {
             // Ends the reference to `siblings`.
-            path.push_back({&below, 0, siblings.level + 1, row.texts[TitleList::SortTitle]});
+            path.push_back({&below, 0, siblings.level + 1, row.key, row.texts[TitleList::SortTitle]});
         }
         rows.push_back(std::move(row));
     }

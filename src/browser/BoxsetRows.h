@@ -29,7 +29,8 @@ public:
     /// Adds the children of a boxset behind `rows`, each followed by its own children. A title that was added before,
     /// be it under another parent or because a boxset contains itself, is left out with all below it: it stands in the
     /// list already.
-    void GetBoxsetChilds(const QString &boxset_id, int level, const QString &parent_key, std::vector<TitleRow> &rows);
+    void GetBoxsetChilds(const QString &boxset_id, int level, const QString &parent_sort_title,
+                         std::vector<TitleRow> &rows);
 
 private:
     std::vector<TitleRow> children_;

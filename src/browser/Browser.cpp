@@ -13,6 +13,9 @@ QString SelectedColType(Browser &browser) {
 void ShowFilterCount(Browser &browser, int count) {
     browser.filter_count = count;
     browser.labelFilterCount = Translate(browser.session, QStringLiteral("Filtered:")) + u' ' + QString::number(count);
+    if (browser.find.IsPartial()) {
+        browser.labelFilterCount += u'…';
+    }
     Q_EMIT browser.FilterCountChanged();
 }
 

@@ -6,6 +6,7 @@
 #include "browser/Commands.h"
 #include "browser/CreditsPanel.h"
 #include "browser/EpisodeList.h"
+#include "browser/FindBox.h"
 #include "browser/History.h"
 #include "browser/ProfileContent.h"
 #include "browser/TitleList.h"
@@ -27,6 +28,7 @@ public:
     Commands commands;
 
     TitleList listSeries;
+    FindBox find{*this};
     EpisodeList listEpisodes;
     /// The seasons of the selected series, and the selected one; -1 for none.
     QStringList listSeasons;
@@ -128,6 +130,8 @@ Q_SIGNALS:
     void SeasonsChanged();
     void HistoryChanged();
     void ModeChanged();
+    /// Texts are to be shown in another language: windows beside the main one, which has done so, give theirs anew.
+    void LanguageChanged();
     /// Fonts, tool bar, grid lines: what the settings tell.
     void SettingsChanged();
 };

@@ -44,6 +44,7 @@ void ShowNothing(Browser &browser, const QString &key) {
 
 /// Shows a title or, in TV view, a series that the list holds; false when it does not.
 bool ShowRowOf(Browser &browser, const QString &key) {
+    browser.find.GiveWayTo(key);
     const int row = browser.listSeries.RowOfTitle(key);
     if (row >= 0) {
         UpdateSeriesList(browser, row);
@@ -155,6 +156,7 @@ void ShowEpisode(Browser &browser, const QString &episode_id) {
     if (!session.view.mTVShows) {
         ChangeMode(browser, false);
     }
+    browser.find.GiveWayTo(episode.Text(0));
     const int series = browser.listSeries.RowOfTitle(episode.Text(0));
     if (series < 0) {
         return;

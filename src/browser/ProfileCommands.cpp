@@ -106,7 +106,7 @@ void ForgetProfiles(Browser &browser, const QStringList &ids) {
     TitleList &list = browser.listSeries;
     browser.current_row = -1;
     list.RemoveTitles(ids);
-    ShowFilterCount(browser, int(std::ranges::count_if(list.Rows(), std::not_fn(&TitleRow::header))));
+    ShowFilterCount(browser, list.TitleCount());
     ShowTitleOrRow(browser, {key}, 0);
 }
 
@@ -191,14 +191,11 @@ void RenameRows(Browser &browser, const QString &id) {
     if (record.Eof()) {
         return;
     }
-    TitleList &list = browser.listSeries;
-    for (int row = 0; row < list.rowCount(); ++row) {
-        if (ProfileOfRow(browser, row).compare(id, Qt::CaseInsensitive) == 0) {
-            const QString &shown = list.At(row).texts[TitleList::Title];
-            const auto text = std::ranges::find_if(shown, [](QChar c) { return c != u' '; });
-            list.SetTexts(row, ListTitle(browser, record, 0, int(text - shown.begin())));
-        }
-    }
+    browser.listSeries.SetTexts(id, [&](const TitleRow &row) {
+        const QString &shown = row.texts[TitleList::Title];
+        const auto text = std::ranges::find_if(shown, [](QChar c) { return c != u' '; });
+        return ListTitle(browser, record, 0, int(text - shown.begin()));
+    });
 }
 
 /// The list after these profiles got other values; `renamed` is the one whose row may say something else, if any.

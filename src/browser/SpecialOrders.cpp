@@ -77,6 +77,7 @@ private:
     QString GroupsStatement(const Grouping &grouping) const;
     void AddHeader(const QString &text);
     void AddTitles(const QString &statement, int indent);
+    TitleRow GroupRow(const TitleRowReader &reader, int indent) const;
     void AddGroupTitles(const Grouping &grouping, const QString &value, const QString &or_null);
     void AddLocalityTitles(const QString &value, const QString &or_null);
 
@@ -129,8 +130,17 @@ void SpecialOrderRows::AddTitles(const QString &statement, int indent) {
     sql::Recordset record = session_.Database->OpenRecordset(statement);
     const TitleRowReader reader(session_.view, record);
     for (; !record.Eof(); record.MoveNext()) {
-        rows_.push_back(reader.GroupRow(number_, indent));
+        rows_.push_back(GroupRow(reader, indent));
     }
+}
+
+/// A title below the header of the group; in a list without groups, one without.
+TitleRow SpecialOrderRows::GroupRow(const TitleRowReader &reader, int indent) const {
+    TitleRow row = reader.GroupRow(number_, indent);
+    if (number_ > 0) {
+        row.parent_key = QString::number(number_);
+    }
+    return row;
 }
 
 // Titles without a value join their group from every tab, deliberately: "OR" stands behind the tab's "AND".
@@ -162,7 +172,7 @@ void SpecialOrderRows::AddLocalityTitles(const QString &value, const QString &or
     RowsByKey by_boxset;
     for (; !child.Eof(); child.MoveNext()) {
         by_boxset.Add(child.Text(boxset), int(children.size()));
-        children.push_back(child_reader.GroupRow(number_, 2 * kIndent));
+        children.push_back(GroupRow(child_reader, 2 * kIndent));
     }
     sql::Recordset record = session_.Database->OpenRecordset(
         titles + u'(' + condition +
@@ -170,10 +180,11 @@ void SpecialOrderRows::AddLocalityTitles(const QString &value, const QString &or
         order_);
     const TitleRowReader reader(session_.view, record);
     for (; !record.Eof(); record.MoveNext()) {
-        rows_.push_back(reader.GroupRow(number_, kIndent));
-        const QString id = ProfileOfKey(rows_.back().key);
-        for (const int row : by_boxset.Find(id)) {
+        rows_.push_back(GroupRow(reader, kIndent));
+        const QString key = rows_.back().key;
+        for (const int row : by_boxset.Find(ProfileOfKey(key))) {
             rows_.push_back(children[size_t(row)]);
+            rows_.back().parent_key = key;
         }
     }
 }
@@ -213,8 +224,7 @@ void CollectRows(Browser &browser, const QString &category, SpecialOrderRows &ro
 void ShowSpecialOrder(Browser &browser, std::vector<TitleRow> rows) {
     TitleList &list = browser.listSeries;
     list.Assign(std::move(rows));
-    const auto headers = std::count_if(list.Rows().begin(), list.Rows().end(), std::mem_fn(&TitleRow::header));
-    ShowFilterCount(browser, list.rowCount() - int(headers));
+    ShowFilterCount(browser, list.TitleCount());
     if (browser.session.view.mcolorlist) {
         ApplyListColors(browser, true);
     }

@@ -24,10 +24,14 @@ quint64 StartOf(std::string_view key) {
     return qFromBigEndian(start);
 }
 
+bool IsOfTitle(const TitleRow &row, const QString &id) {
+    return !row.header && QStringView(row.key).left(row.key.indexOf(u'|')).compare(id, Qt::CaseInsensitive) == 0;
+}
+
 } // namespace
 
 int TitleList::rowCount(const QModelIndex &parent) const {
-    return parent.isValid() ? 0 : int(rows_.size());
+    return parent.isValid() ? 0 : int(shown_.size());
 }
 
 int TitleList::columnCount(const QModelIndex &parent) const {
@@ -89,11 +93,93 @@ int TitleList::Assign(std::vector<TitleRow> rows) {
     beginResetModel();
     rows_ = std::move(rows);
     keyed_column_ = -1;
+    ++order_;
     if (sorted_) {
         SortRows();
     }
+    shown_ = Passing();
     endResetModel();
     return int(clashes);
+}
+
+bool TitleList::Narrow() {
+    std::vector<int> shown = Passing();
+    if (shown == shown_) {
+        return false;
+    }
+    beginResetModel();
+    shown_ = std::move(shown);
+    endResetModel();
+    return true;
+}
+
+std::vector<TitleRow> TitleList::Rows() const {
+    std::vector<TitleRow> rows;
+    rows.reserve(shown_.size());
+    for (const int row : shown_) {
+        rows.push_back(rows_[size_t(row)]);
+    }
+    return rows;
+}
+
+const std::vector<int> &TitleList::Parents() {
+    if (std::exchange(parents_order_, order_) == order_) {
+        return parents_;
+    }
+    parents_.assign(rows_.size(), -1);
+    if (std::all_of(rows_.begin(), rows_.end(), [](const TitleRow &row) { return row.parent_key.isEmpty(); })) {
+        return parents_;
+    }
+    QHash<QStringView, int> places;
+    places.reserve(qsizetype(rows_.size()));
+    for (const TitleRow &row : rows_) {
+        places.insert(row.key, int(places.size()));
+    }
+    for (size_t i = 0; i < rows_.size(); ++i) {
+        if (!rows_[i].parent_key.isEmpty()) {
+            parents_[i] = places.value(rows_[i].parent_key, -1);
+        }
+    }
+    return parents_;
+}
+
+std::vector<int> TitleList::Passing() {
+    std::vector<int> shown;
+    std::vector<bool> passes = filter_ ? filter_(rows_, order_) : std::vector<bool>();
+    if (passes.empty()) {
+        shown.resize(rows_.size());
+        std::iota(shown.begin(), shown.end(), 0);
+        return shown;
+    }
+    for (size_t i = 0; i < rows_.size(); ++i) {
+        passes[i] = passes[i] && !rows_[i].header;
+    }
+    const std::vector<int> &parents = Parents();
+    for (size_t i = 0; i < rows_.size(); ++i) {
+        for (int row = passes[i] ? parents[i] : -1; row >= 0 && !passes[size_t(row)]; row = parents[size_t(row)]) {
+            passes[size_t(row)] = true;
+        }
+    }
+    for (size_t i = 0; i < rows_.size(); ++i) {
+        if (passes[i]) {
+            shown.push_back(int(i));
+        }
+    }
+    return shown;
+}
+
+int TitleList::RowOfNumber(int number) const {
+    const auto row = std::lower_bound(shown_.begin(), shown_.end(), number);
+    return row == shown_.end() || *row != number ? -1 : int(row - shown_.begin());
+}
+
+bool TitleList::HoldsHidden(const QString &id) const {
+    return shown_.size() < rows_.size() &&
+           std::any_of(rows_.begin(), rows_.end(), [&id](const TitleRow &row) { return IsOfTitle(row, id); });
+}
+
+int TitleList::TitleCount() const {
+    return int(std::count_if(shown_.begin(), shown_.end(), [this](int row) { return !rows_[size_t(row)].header; }));
 }
 
 void TitleList::Clear() {
@@ -123,13 +209,19 @@ void TitleList::RemoveTitles(const QStringList &ids) {
     Assign(std::move(rows));
 }
 
-void TitleList::SetTexts(int row, const TitleRow &texts) {
-    TitleRow &shown = rows_[size_t(row)];
-    shown.texts = texts.texts;
-    shown.tool_tip = texts.tool_tip;
-    shown.tag = texts.tag;
+void TitleList::SetTexts(const QString &id, const std::function<TitleRow(const TitleRow &row)> &make_texts) {
+    for (TitleRow &row : rows_) {
+        if (IsOfTitle(row, id)) {
+            TitleRow texts = make_texts(row);
+            row.texts = std::move(texts.texts);
+            row.tool_tip = std::move(texts.tool_tip);
+            row.tag = std::move(texts.tag);
+        }
+    }
     keyed_column_ = -1;
-    Q_EMIT dataChanged(index(row, 0), index(row, kTitleColumns - 1));
+    if (!shown_.empty()) {
+        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, kTitleColumns - 1));
+    }
 }
 
 void TitleList::SortBy(int column, Order order) {
@@ -138,12 +230,21 @@ void TitleList::SortBy(int column, Order order) {
     sort_order_ = order;
     Q_EMIT layoutAboutToBeChanged({}, VerticalSortHint);
     const std::vector<int> new_places = SortRows();
+    std::vector<int> shown;
+    shown.reserve(shown_.size());
+    for (const int row : shown_) {
+        shown.push_back(new_places[size_t(row)]);
+    }
+    std::sort(shown.begin(), shown.end());
     const QModelIndexList before = persistentIndexList();
     QModelIndexList after;
     after.reserve(before.size());
     for (const QModelIndex &index : before) {
-        after.append(createIndex(new_places[size_t(index.row())], index.column()));
+        const int row = new_places[size_t(shown_[size_t(index.row())])];
+        const auto place = std::lower_bound(shown.begin(), shown.end(), row);
+        after.append(createIndex(int(place - shown.begin()), index.column()));
     }
+    shown_ = std::move(shown);
     changePersistentIndexList(before, after);
     Q_EMIT layoutChanged({}, VerticalSortHint);
 }
@@ -205,6 +306,7 @@ std::vector<int> TitleList::SortRows() {
         sorted.push_back(std::move(rows_[size_t(entry.row)]));
         sorted_places.push_back(key_places_[size_t(entry.row)]);
     }
+    ++order_;
     rows_ = std::move(sorted);
     key_places_ = std::move(sorted_places);
     return new_places;
@@ -212,7 +314,7 @@ std::vector<int> TitleList::SortRows() {
 
 void TitleList::SetStriping(Striping striping) {
     // A view looks at every row for this.
-    if (std::exchange(striping_, striping) != striping && !rows_.empty()) {
+    if (std::exchange(striping_, striping) != striping && !shown_.empty()) {
         Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, kTitleColumns - 1), {ColourRole});
     }
 }
@@ -224,19 +326,21 @@ void TitleList::SetWidth(int column, double fraction) {
     }
 }
 
+template <typename Test>
+int TitleList::FirstShown(Test test) const {
+    const auto row =
+        std::find_if(shown_.begin(), shown_.end(), [&](int candidate) { return test(rows_[size_t(candidate)]); });
+    return row == shown_.end() ? -1 : int(row - shown_.begin());
+}
+
 int TitleList::RowOfKey(const QString &key) const {
-    const auto row = std::find_if(rows_.begin(), rows_.end(), [&key](const TitleRow &candidate) {
-        return candidate.key.size() == key.size() && candidate.key.compare(key, Qt::CaseInsensitive) == 0;
+    return FirstShown([&key](const TitleRow &row) {
+        return row.key.size() == key.size() && row.key.compare(key, Qt::CaseInsensitive) == 0;
     });
-    return row == rows_.end() ? -1 : int(row - rows_.begin());
 }
 
 int TitleList::RowOfTitle(const QString &id) const {
-    const auto row = std::find_if(rows_.begin(), rows_.end(), [&id](const TitleRow &candidate) {
-        return !candidate.header &&
-               QStringView(candidate.key).left(candidate.key.indexOf(u'|')).compare(id, Qt::CaseInsensitive) == 0;
-    });
-    return row == rows_.end() ? -1 : int(row - rows_.begin());
+    return FirstShown([&id](const TitleRow &row) { return IsOfTitle(row, id); });
 }
 
 QString ProfileOfKey(const QString &key) {

@@ -3,6 +3,7 @@
 
 #include <QAbstractTableModel>
 
+#include <functional>
 #include <string_view>
 
 namespace ostrand {
@@ -12,6 +13,8 @@ inline constexpr int kTitleColumns = 6;
 /// One row of the list. `header` rows stand above a group of titles and are no titles themselves.
 struct TitleRow {
     QString key; ///< a ProfileID, behind which "|" and a number may stand
+    /// The key of the row that this one stands below: the header of its group, the boxset that it is a child of.
+    QString parent_key;
     QString tag;
     QString tool_tip;
     std::array<QString, kTitleColumns> texts;
@@ -19,6 +22,8 @@ struct TitleRow {
 };
 
 /// The item model of listSeries. Keys are unique without regard to case.
+///
+/// The list may be narrowed to a part of its rows; all members but Assign and the sorts know those alone then.
 class TitleList : public QAbstractTableModel {
     Q_OBJECT
 public:
@@ -48,9 +53,26 @@ public:
     void Clear();
     /// Takes all rows of these titles away, and the headers that stand above no title then.
     void RemoveTitles(const QStringList &ids);
-    /// Gives a row other texts; it stays in its place and keeps its key.
-    void SetTexts(int row, const TitleRow &texts);
-    const std::vector<TitleRow> &Rows() const { return rows_; }
+    /// Gives all rows of a title, shown or not, the texts that are made for each; they stay in their places and keep
+    /// their keys.
+    void SetTexts(const QString &id, const std::function<TitleRow(const TitleRow &row)> &make_texts);
+
+    /// By row of all that are there, whether it is to be shown; empty for all of them. Asked whenever there are other
+    /// rows, and at Narrow. Rows above one that is shown are so too, and headers not by themselves. `order` is another
+    /// number when these are other rows than at the call before, or in another order.
+    using RowFilter = std::function<std::vector<bool>(const std::vector<TitleRow> &rows, int order)>;
+    void SetRowFilter(RowFilter filter) { filter_ = std::move(filter); }
+    /// Asks the filter again; false where the same rows are shown as before.
+    bool Narrow();
+    /// The number of a shown row among all that are there, which Narrow does not change; -1 for none. And back.
+    int NumberOf(int row) const { return row < 0 || row >= rowCount() ? -1 : shown_[size_t(row)]; }
+    int RowOfNumber(int number) const;
+    /// The rows that are shown, as copies.
+    std::vector<TitleRow> Rows() const;
+    /// A row of this profile or series is there and is not shown.
+    bool HoldsHidden(const QString &id) const;
+    /// The rows that are no headers.
+    int TitleCount() const;
 
     /// Turns the automatic sort on and sorts: a text comparison of the column in the database's collation, stable.
     void SortBy(int column, Order order);
@@ -71,7 +93,7 @@ public:
     int RowOfKey(const QString &key) const;
     /// The first row of a profile or series, whatever stands behind "|" in its key; -1 when there is none.
     int RowOfTitle(const QString &id) const;
-    const TitleRow &At(int row) const { return rows_[size_t(row)]; }
+    const TitleRow &At(int row) const { return rows_[size_t(shown_[size_t(row)])]; }
 
 Q_SIGNALS:
     void WidthsChanged();
@@ -87,10 +109,21 @@ private:
     /// Makes the sort keys of the column that sorts, unless they are there.
     void MakeSortKeys();
     std::string_view KeyOf(int row) const;
-    /// Orders the rows; returns where each one went.
+    /// Orders all rows; returns where each one went.
     std::vector<int> SortRows();
+    /// By row, the one that it stands below; -1 for none.
+    const std::vector<int> &Parents();
+    /// The rows that the filter lets through, and those above them.
+    std::vector<int> Passing();
+    template <typename Test>
+    int FirstShown(Test test) const;
 
-    std::vector<TitleRow> rows_;
+    std::vector<TitleRow> rows_; ///< all of them
+    std::vector<int> shown_;     ///< those that are shown, in their order
+    RowFilter filter_;
+    int order_ = 0;
+    std::vector<int> parents_; ///< see Parents; made for `parents_order_`
+    int parents_order_ = -1;
     // The keys of `keyed_column_` one behind the other, kept since a list is often sorted again the other way.
     QByteArray sort_keys_;
     std::vector<KeyPlace> key_places_; ///< in the order of the rows

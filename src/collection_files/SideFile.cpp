@@ -48,10 +48,15 @@ bool WriteSideFile(Session &session, const QString &path, const std::function<bo
 
 pugi::xml_node LoadSideFile(Session &session, const QString &file, const char *root, const QString &invalid,
                             pugi::xml_document &document) {
-    const XmlResult result = XmlLoadFile(file, document);
+    XmlResult result = XmlLoadFile(file, document);
     const pugi::xml_node node = document.child(root);
     if (result.ok && node) {
         return node;
+    }
+    if (result.ok) { // a file of another kind
+        result.reason = Translate(session, u"The file holds no element"_s) + " '"_L1 + QLatin1String(root) + "'."_L1;
+        result.source = u'<' + QString::fromUtf8(document.document_element().name()) + u'>';
+        result.line = 1;
     }
     ShowMessage(session,
                 {.text = Translate(session, invalid) + kLineBreak + result.reason + kLineBreak + result.source +

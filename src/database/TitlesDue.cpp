@@ -35,6 +35,7 @@ std::unique_ptr<ListTable> TitlesDue(Session &session) {
     auto table = std::make_unique<ListTable>(
         text(u"Titles due to be returned"_s),
         QStringList{text(u"Title due"_s), text(u"UPC"_s), text(u"due from"_s), text(u"day(s) overdue"_s)});
+    table->again = [&session] { return TitlesDue(session); };
     if (!session.Database) {
         return table;
     }

@@ -44,13 +44,17 @@ std::optional<std::vector<Entry>> ReadXml(Session &session, const QString &path)
     return entries;
 }
 
+std::nullopt_t Refuse(Session &session, const QString &why, const QString &path) {
+    ShowMessage(session, {.text = Translate(session, why) + u' ' + path,
+                          .title = Translate(session, u"Invalid file"_s),
+                          .icon = MessageIcon::Warning});
+    return std::nullopt;
+}
+
 std::optional<std::vector<Entry>> ReadText(Session &session, const QString &path) {
     const std::optional<QByteArray> content = ReadFile(path);
     if (!content) {
-        ShowMessage(session, {.text = Translate(session, u"The file cannot be read:"_s) + u' ' + path,
-                              .title = Translate(session, u"Invalid file"_s),
-                              .icon = MessageIcon::Warning});
-        return std::nullopt;
+        return Refuse(session, u"The file cannot be read:"_s, path);
     }
     std::vector<Entry> entries;
     for (const QString &line : CommandLines(DecodeUserText(*content))) {
@@ -59,6 +63,10 @@ std::optional<std::vector<Entry>> ReadText(Session &session, const QString &path
         if (pieces.size() > 1) {
             entries.push_back({pieces[0], pieces[1]});
         }
+    }
+    // Any name may stand for this form, and a file of another kind must not take all translations away.
+    if (content->contains('\0') || (entries.empty() && !content->trimmed().isEmpty())) {
+        return Refuse(session, u"This is no language file:"_s, path);
     }
     return entries;
 }
@@ -101,6 +109,9 @@ bool InEnglish(Session &session, const std::function<bool()> &action) {
     const bool done = action();
     session.UseUserDefinedStrings = true;
     session.window.MenuStrings();
+    if (session.window.SettingsStored) {
+        session.window.SettingsStored(); // what lists and pages tell is made of texts too
+    }
     return done;
 }
 

@@ -57,6 +57,20 @@ QString PlaceText(const QString &text, int position, const QString &line_word, c
         .arg(before.size() - line_start + 1);
 }
 
+/// Where a place of a statement stands in the text that the statement was made from; -1 where that cannot be told. What
+/// stands before the first variable, or behind the last, is the same in both.
+int PlaceInSource(const QString &text, const QString &statement, int position) {
+    if (position < 0 || position > statement.size()) {
+        return -1;
+    }
+    if (text.startsWith(QStringView(statement).left(position))) {
+        return position;
+    }
+    const QStringView source = QStringView(text).left(text.contains(u';') ? text.indexOf(u';') : text.size());
+    const QStringView behind = QStringView(statement).mid(position);
+    return source.endsWith(behind) ? int(source.size() - behind.size()) : -1;
+}
+
 /// The database keeps lines as CR LF.
 QString WithLineEnds(QString text) {
     return text.replace(kLineBreak, "\n"_L1).replace("\n"_L1, kLineBreak);
@@ -65,7 +79,7 @@ QString WithLineEnds(QString text) {
 } // namespace
 
 QueryTool::QueryTool(Session &session) : session_(session) {
-    caption = Translated(u"SQL Query");
+    ShowCounts();
 }
 
 QString QueryTool::Translated(const char16_t *english) const {
@@ -74,18 +88,35 @@ QString QueryTool::Translated(const char16_t *english) const {
 
 bool QueryTool::RequireDatabase() {
     textError.clear();
-    labelInfo.clear();
+    fault_.reset();
+    changed_ = -1;
+    usage_shown_ = false;
     error_position = -1;
+    ShowCounts();
     if (!session_.Database) {
         textError = Translated(u"No open database!");
     }
     return session_.Database != nullptr;
 }
 
+void QueryTool::ShowCounts() {
+    caption = Translated(u"SQL Query");
+    if (records_ >= 0) {
+        caption += " ("_L1 + QString::number(records_) + u' ' + Translated(u"records") + u')';
+    }
+    labelInfo = changed_ < 0 ? QString() : Translated(u"Rows changed:") + u' ' + QString::number(changed_);
+}
+
 void QueryTool::TellFault(const sql::SqlError &error, const QString &statement) {
-    textError = error.Text();
-    if (!statement.isEmpty() && error.Position() >= 0 && error.Position() <= statement.size()) {
-        textError += kLineBreak + PlaceText(statement, error.Position(), Translated(u"Line"), Translated(u"column"));
+    fault_ = Fault{error.Text(), statement, error.Position()};
+    ShowFault();
+}
+
+void QueryTool::ShowFault() {
+    textError = fault_->text;
+    if (!fault_->statement.isEmpty() && fault_->position >= 0 && fault_->position <= fault_->statement.size()) {
+        textError +=
+            kLineBreak + PlaceText(fault_->statement, fault_->position, Translated(u"Line"), Translated(u"column"));
     }
 }
 
@@ -124,13 +155,14 @@ void QueryTool::Run(const QString &statement) {
     const bool select = statement.trimmed().startsWith("select"_L1, Qt::CaseInsensitive);
     if (select || session_.Database->GivesRows(statement)) {
         sql::Recordset rows = session_.Database->OpenRecordset(statement);
-        caption = Translated(u"SQL Query") + " ("_L1 + QString::number(rows.RecordCount()) + u' ' +
-                  Translated(u"records") + u')';
+        records_ = rows.RecordCount();
+        tables_listed_ = false;
+        ShowCounts();
         listQueryResult.Assign(std::move(rows));
         return;
     }
-    const int count = session_.Database->Execute(statement);
-    labelInfo = Translated(u"Rows changed:") + u' ' + QString::number(count);
+    changed_ = session_.Database->Execute(statement);
+    ShowCounts();
 }
 
 void QueryTool::SendQuery(const QString &text, const QString &col_type) {
@@ -148,36 +180,44 @@ void QueryTool::SendQuery(const QString &text, const QString &col_type) {
     } catch (const sql::SqlError &error) {
         Trace(session_, u"SendQuery: "_s + error.Text(), kTraceError);
         TellFault(error, statement);
-        // A place behind a variable is another one in the text that was sent.
-        if (error.Position() >= 0 && text.startsWith(QStringView(statement).left(error.Position()))) {
-            error_position = error.Position();
-        }
+        error_position = PlaceInSource(text, statement, error.Position());
     }
     UpdateQueryList(); // the statement may have changed them
 }
 
 void QueryTool::ListTables() {
     Try([this] {
-        std::vector<QStringList> rows;
-        qsizetype widest = 1;
-        for (const sql::TableInfo &table : session_.Database->GetCatalogue().Tables()) {
-            if (!table.name.startsWith("MSys"_L1)) {
-                rows.push_back(FieldsOf(table));
-                widest = std::max(widest, rows.back().size());
-            }
-        }
-        QStringList columns(widest, Translated(u"Field"));
-        columns.front() = Translated(u"Tables");
-        listQueryResult.Assign(columns, std::move(rows));
-        caption = Translated(u"SQL Query");
-        textError = QStringList{Translated(u"Usage:"),
-                                Translated(u"Single quotes inside of values must be replaced by two single quotes"),
-                                Translated(u"Example: Role = 'T'Pol' has to be Role = 'T''Pol'"),
-                                Translated(u"Wildcard is the asterisk:"),
-                                Translated(u"Example: SELECT Name FROM Cast WHERE Name LIKE 'An*'"),
-                                Translated(u"Using variables: $VariableName$")}
-                        .join(kLineBreak);
+        ShowTables();
+        ShowUsage();
     });
+}
+
+void QueryTool::ShowTables() {
+    std::vector<QStringList> rows;
+    qsizetype widest = 1;
+    for (const sql::TableInfo &table : session_.Database->GetCatalogue().Tables()) {
+        if (!table.name.startsWith("MSys"_L1)) {
+            rows.push_back(FieldsOf(table));
+            widest = std::max(widest, rows.back().size());
+        }
+    }
+    QStringList columns(widest, Translated(u"Field"));
+    columns.front() = Translated(u"Tables");
+    listQueryResult.Assign(columns, std::move(rows));
+    records_ = -1;
+    tables_listed_ = true;
+    ShowCounts();
+}
+
+void QueryTool::ShowUsage() {
+    usage_shown_ = true;
+    textError = QStringList{Translated(u"Usage:"),
+                            Translated(u"Single quotes inside of values must be replaced by two single quotes"),
+                            Translated(u"Example: Role = 'T'Pol' has to be Role = 'T''Pol'"),
+                            Translated(u"Wildcard is the asterisk:"),
+                            Translated(u"Example: SELECT Name FROM Cast WHERE Name LIKE 'An*'"),
+                            Translated(u"Using variables: $VariableName$")}
+                    .join(kLineBreak);
 }
 
 QString QueryTool::SaveQuery(const QString &statement) {
@@ -259,7 +299,9 @@ void QueryTool::SaveResult() {
         divider = u'\t';
     }
     QString fault;
-    if (!ReplaceFile(path, EncodeUserText(ResultLines(listQueryResult, divider)), &fault)) {
+    ResultLines lines(listQueryResult, divider);
+    if (!ReplaceFile(
+            path, [&] { return EncodeUserText(lines.Next()); }, &fault)) {
         ShowMessage(session_, {.text = Translated(u"The file cannot be written:") + u' ' + path + kLineBreak + fault,
                                .title = Translated(u"Save Result"),
                                .icon = MessageIcon::Critical});
@@ -268,11 +310,23 @@ void QueryTool::SaveResult() {
 
 void QueryTool::DatabaseChanged() {
     listQueryResult.Clear();
+    records_ = -1;
+    tables_listed_ = false;
+    RequireDatabase();
     textError.clear();
-    labelInfo.clear();
-    error_position = -1;
-    caption = Translated(u"SQL Query");
     UpdateQueryList();
+}
+
+void QueryTool::TranslateTexts() {
+    ShowCounts();
+    if (fault_) {
+        ShowFault();
+    } else if (usage_shown_) {
+        ShowUsage();
+    }
+    if (tables_listed_ && session_.Database) {
+        ShowTables();
+    }
 }
 
 QString QueryTool::FilterTemplate() {

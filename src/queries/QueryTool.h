@@ -7,6 +7,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 namespace ostrand {
 
 struct Session;
@@ -43,6 +45,8 @@ public:
     void SaveResult();
     /// Another database was opened, or none is open any more.
     void DatabaseChanged();
+    /// Gives what is shown in the present language.
+    void TranslateTexts();
     /// What "Create Filter" puts in: the columns that the title list needs.
     static QString FilterTemplate();
 
@@ -52,9 +56,24 @@ private:
     bool RequireDatabase();
     void Run(const QString &statement);
     void TellFault(const sql::SqlError &error, const QString &statement);
+    void ShowTables();
+    void ShowUsage();
+    void ShowCounts();
+    void ShowFault();
     QString Translated(const char16_t *english) const;
 
+    struct Fault {
+        QString text;
+        QString statement; ///< empty where the place in it says nothing
+        int position = -1;
+    };
+
     Session &session_;
+    int records_ = -1; ///< of the last query; -1 for none
+    int changed_ = -1; ///< rows that the last statement changed; -1 where it was none that does
+    bool tables_listed_ = false;
+    bool usage_shown_ = false;
+    std::optional<Fault> fault_;
 };
 
 } // namespace ostrand

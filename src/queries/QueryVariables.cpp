@@ -1,6 +1,7 @@
 #include "queries/QueryVariables.h"
 
 #include "database/DatabaseFunctions.h"
+#include "queries/StatementWatch.h"
 #include "shell/Dialogs.h"
 #include "shell/Session.h"
 
@@ -85,12 +86,15 @@ QString AskForVariable(Session &session, const QString &name, const QString &lis
     if (list.isEmpty()) {
         return InputText(session, prompt, title, cancelled, {});
     }
+    QStringList values = list.split(u'|'); // a value may hold the word by which the dialog knows a statement
     if (list.startsWith(kSelect, Qt::CaseInsensitive)) {
-        // The dialog knows a statement by the word in lower case.
-        return InputCombo(session, prompt, title, cancelled, kSelect + list.mid(kSelect.size()), {});
+        std::optional<StatementWatch> watch; // it ends before the dialog opens
+        if (session.Database) {
+            watch.emplace(session);
+        }
+        values = ListedValues(session, kSelect + list.mid(kSelect.size()));
     }
-    // Not through the dialog's own rule: a value may hold that word.
-    const std::optional<QString> answer = session.services.dialogs.InputCombo(prompt, title, list.split(u'|'), {});
+    const std::optional<QString> answer = session.services.dialogs.InputCombo(prompt, title, values, {});
     cancelled = !answer;
     return answer.value_or(QString());
 }

@@ -34,11 +34,16 @@ QList<int> AllRows(const QAbstractItemModel &list) {
     return rows;
 }
 
-QString ResultLines(const QAbstractItemModel &list, const QString &divider) {
+ResultLines::ResultLines(const QAbstractItemModel &list, QString divider) : list_(list), divider_(std::move(divider)) {}
+
+QString ResultLines::Next() {
+    constexpr qsizetype kPiece = qsizetype(64) * 1024;
+    const int rows = list_.rowCount();
+    const int columns = list_.columnCount();
     QString text;
-    AddLine(text, list.columnCount(), divider, [&](int column) { return Heading(list, column); });
-    for (int row = 0; row < list.rowCount(); ++row) {
-        AddLine(text, list.columnCount(), divider, [&](int column) { return Cell(list, row, column); });
+    for (; row_ < rows && text.size() < kPiece; ++row_) {
+        AddLine(text, columns, divider_,
+                [this](int column) { return row_ < 0 ? Heading(list_, column) : Cell(list_, row_, column); });
     }
     return text;
 }

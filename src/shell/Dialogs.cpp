@@ -17,6 +17,13 @@ QStringList FirstFields(Session &session, const QString &statement) {
     return values;
 }
 
+QString Answer(const std::optional<QString> &answer, bool &cancelled) {
+    cancelled = !answer;
+    return answer.value_or(QString());
+}
+
+} // namespace
+
 QStringList ListedValues(Session &session, const QString &list) {
     if (!list.contains(QStringLiteral("select"))) {
         return list.split(u'|');
@@ -31,13 +38,6 @@ QStringList ListedValues(Session &session, const QString &list) {
         return {};
     }
 }
-
-QString Answer(const std::optional<QString> &answer, bool &cancelled) {
-    cancelled = !answer;
-    return answer.value_or(QString());
-}
-
-} // namespace
 
 QString InputCombo(Session &session, const QString &prompt, const QString &title, bool &cancelled, const QString &list,
                    const QString &preset) {

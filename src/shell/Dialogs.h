@@ -14,6 +14,8 @@ struct Session;
 /// of InputText.
 QString InputCombo(Session &session, const QString &prompt, const QString &title, bool &cancelled, const QString &list,
                    const QString &preset);
+/// The values that such a list offers.
+QStringList ListedValues(Session &session, const QString &list);
 /// The same without values.
 QString InputText(Session &session, const QString &prompt, const QString &title, bool &cancelled,
                   const QString &preset);

@@ -3,6 +3,9 @@
 
 #include <QAbstractTableModel>
 
+#include <functional>
+#include <memory>
+
 namespace ostrand {
 
 /// What a row of a list window stands for.
@@ -36,6 +39,8 @@ public:
     const std::vector<ListTableRow> &Rows() const { return rows_; }
 
     QString caption;
+    /// Makes the table anew in the present language, from what the database holds now; empty where it cannot.
+    std::function<std::unique_ptr<ListTable>()> again;
 
 private:
     QStringList columns_;

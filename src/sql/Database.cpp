@@ -39,6 +39,7 @@ Database::Impl::~Impl() {
         }
     }
     ForgetStatements();
+    change_counter.reset();
     batch.reset();
     ddl.reset();
     if (connection.Handle()) {
@@ -189,7 +190,15 @@ std::unique_ptr<Recordset::Data> Database::Impl::Collect(const Compiled &compile
     data->cells.reserve(size_t(expected_rows) * size_t(data->columns));
     while (statement.Step()) {
         for (int i = 0; i < data->columns; ++i) {
-            data->cells.push_back(statement.Column(i));
+            Value value = statement.Column(i);
+            if (data->rows > 0 && value.GetType() == Value::Type::Text) {
+                // Rows of a join repeat their texts, which then need no memory of their own.
+                const Value &above = data->cells[data->cells.size() - size_t(data->columns)];
+                if (value == above) {
+                    value = above;
+                }
+            }
+            data->cells.push_back(std::move(value));
         }
         if (row_ids) {
             data->row_ids.push_back(statement.ColumnInteger(data->columns));
@@ -221,17 +230,25 @@ int Database::Impl::Write(const std::function<int()> &change) {
     }
     batch->BeforeWrite();
     const bool outer = interruptible.exchange(may_stop);
-    int changes = 0;
+    int rows = 0;
     try {
-        changes = change();
+        rows = change();
     } catch (const SqlError &error) {
         interruptible = outer;
+        NoteWrite(false);
         batch->OnError(error);
         throw;
     }
     interruptible = outer;
+    NoteWrite(true);
     batch->AfterWrite();
-    return changes;
+    return rows;
+}
+
+void Database::Impl::NoteWrite(bool succeeded) {
+    if (change_counter) {
+        change_counter->AfterWrite(succeeded);
+    }
 }
 
 int Database::Impl::RunChange(CachedStatement &cached) {
@@ -555,6 +572,13 @@ void Database::DropIndex(QStringView table, QStringView index) {
         impl_->ddl->DropIndex({index.toString(), table.toString()});
         return 0;
     });
+}
+
+TableWatch Database::Watch(const QStringList &tables) {
+    if (!impl_->change_counter) {
+        impl_->change_counter = std::make_shared<ChangeCounter>(impl_->connection);
+    }
+    return {impl_->change_counter, tables};
 }
 
 void Database::Flush() {

@@ -4,6 +4,7 @@
 #include "sql/Catalogue.h"
 #include "sql/Recordset.h"
 #include "sql/SqlError.h"
+#include "sql/TableWatch.h"
 #include "sql/Types.h"
 
 #include <QString>
@@ -45,6 +46,9 @@ public:
     void RenameColumn(QStringView table, QStringView column, QStringView new_name);
     void DropColumn(QStringView table, QStringView column);
     void DropIndex(QStringView table, QStringView index);
+
+    /// Watches tables from now on.
+    TableWatch Watch(const QStringList &tables);
 
     /// Makes all that was done durable, unless a bracket is open.
     void Flush();

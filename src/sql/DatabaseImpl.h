@@ -2,6 +2,7 @@
 #pragma once
 
 #include "sql/Batch.h"
+#include "sql/ChangeCounter.h"
 #include "sql/Database.h"
 #include "sql/Ddl.h"
 #include "sql/EditPlan.h"
@@ -42,6 +43,7 @@ struct Database::Impl {
 
     /// Runs `change` as one write: opens a batch before it, counts it, notices a lost batch.
     int Write(const std::function<int()> &change);
+    void NoteWrite(bool succeeded);
     /// Runs SQLite text with values, prepared once and kept until the schema changes. Not OR IGNORE: throws.
     int RunEdit(const QString &sql, const std::vector<Value> &values);
     /// Writes the row that a result set has begun. Throws as RunEdit does.
@@ -64,6 +66,7 @@ struct Database::Impl {
     Connection connection;
     Catalogue catalogue;
     std::optional<Batch> batch;
+    std::shared_ptr<ChangeCounter> change_counter; ///< null until somebody watches a table
     std::optional<Ddl> ddl;
     StatementCache cache;
     QHash<QString, std::shared_ptr<Statement>> edits;

@@ -40,6 +40,64 @@ std::vector<Colour> Colours(const TitleList &list) {
     return colours;
 }
 
+TEST(TitleList, AFilterShowsRowsAndThoseAboveThem) {
+    TitleList list;
+    std::vector<bool> passes;
+    int last_order = -1;
+    list.SetRowFilter([&](const std::vector<TitleRow> &, int order) {
+        last_order = order;
+        return passes;
+    });
+    std::vector<TitleRow> rows = {Header(u"1"_s), Row(u"A|1"_s, u"a"_s), Row(u"B|1"_s, u"b"_s), Header(u"2"_s),
+                                  Row(u"A|2"_s, u"a"_s)};
+    rows[1].parent_key = rows[2].parent_key = u"1"_s;
+    rows[4].parent_key = u"2"_s;
+    list.Assign(rows);
+    EXPECT_EQ(list.rowCount(), 5);
+    EXPECT_EQ(list.TitleCount(), 3);
+    EXPECT_FALSE(list.Narrow());
+    const int order = last_order;
+    passes = {true, false, true, true, false};
+    EXPECT_TRUE(list.Narrow());
+    EXPECT_EQ(last_order, order);
+    EXPECT_EQ(Keys(list), (QStringList{u"1"_s, u"B|1"_s}));
+    EXPECT_EQ(list.TitleCount(), 1);
+    EXPECT_EQ(list.RowOfTitle(u"A"_s), -1);
+    EXPECT_TRUE(list.HoldsHidden(u"a"_s));
+    EXPECT_FALSE(list.HoldsHidden(u"C"_s));
+    EXPECT_EQ(list.NumberOf(1), 2);
+    EXPECT_EQ(list.RowOfNumber(2), 1);
+    EXPECT_EQ(list.RowOfNumber(1), -1);
+    list.SetTexts(u"A"_s, [](const TitleRow &row) {
+        TitleRow texts = row;
+        texts.texts[TitleList::Title] = u"New"_s;
+        return texts;
+    });
+    passes.clear();
+    EXPECT_TRUE(list.Narrow());
+    EXPECT_EQ(list.At(1).texts[TitleList::Title], u"New"_s); // though it was not shown
+    passes = {false, false, false, false, true};
+    list.Narrow();
+    list.RemoveTitles({u"A"_s});
+    EXPECT_NE(last_order, order);
+}
+
+TEST(TitleList, SortsWhatIsNotShownToo) {
+    TitleList list;
+    std::vector<bool> passes;
+    list.SetRowFilter([&](const std::vector<TitleRow> &, int) { return passes; });
+    list.Assign({Row(u"C"_s, u"c"_s), Row(u"A"_s, u"a"_s), Row(u"D"_s, u"d"_s), Row(u"B"_s, u"b"_s)});
+    passes = {true, true, false, true};
+    list.Narrow();
+    const QPersistentModelIndex current = list.index(0, 0);
+    list.SortBy(TitleList::SortTitle, Order::Ascending);
+    EXPECT_EQ(Keys(list), (QStringList{u"A"_s, u"B"_s, u"C"_s}));
+    EXPECT_EQ(current.row(), 2);
+    passes.clear();
+    list.Narrow();
+    EXPECT_EQ(Keys(list), (QStringList{u"A"_s, u"B"_s, u"C"_s, u"D"_s}));
+}
+
 TEST(TitleList, GivesWhatARowHolds) {
     TitleList list;
     list.SetHeaders({u"Titel"_s, u"Nr."_s});

@@ -359,14 +359,14 @@ TEST_F(MainMenu, TheTabKeyWalksFromLeftToRight) {
         } while (at != List());
         const qsizetype first_bar = stops.indexOf(u"SplitBar"_s);
         const QStringList lists = movies
-                                      ? QStringList{u"listSeries"_s, u"picCover"_s, u"tabMain"_s}
+                                      ? QStringList{u"listSeries"_s, u"picMedium"_s, u"picCover"_s, u"tabMain"_s}
                                       : QStringList{u"listSeries"_s, u"listSeasons"_s, u"listEpisodes"_s, u"tabMain"_s};
         EXPECT_EQ(stops.first(lists.size()).join(u' ').toStdString(), lists.join(u' ').toStdString())
             << qPrintable(stops.join(u' '));
         ASSERT_GE(first_bar, lists.size());
         EXPECT_EQ(stops.sliced(stops.lastIndexOf(u"SplitBar"_s) + 1),
                   QStringList({u"SQL"_s, u"ProfileInfo"_s, u"ChangeMode"_s, u"tabColList"_s}) +
-                      (movies ? QStringList{u"comboFilter"_s} : QStringList()));
+                      (movies ? QStringList{u"comboFilter"_s} : QStringList()) + QStringList{u"textFind"_s});
         EXPECT_FALSE(stops.contains(u"ScrollRightButton"_s));
     }
 }

@@ -51,10 +51,11 @@ protected:
 TEST_F(MainWindow, HoldsItsControlsUnderTheirNames) {
     Start();
     for (const char *name :
-         {"Split1",      "Split2",       "Split3",  "Split4",     "Split5",          "Split6",      "Frame1_1",
-          "Frame4_1",    "Frame4_2",     "tabMain", "tabColList", "comboFilter",     "listSeries",  "labelFilterCount",
-          "ListCast",    "FrameCrew",    "Details", "AV",         "listAppearences", "FrameAwards", "picCover",
-          "listSeasons", "listEpisodes", "WebSkin", "toolMain"}) {
+         {"Split1",   "Split2",          "Split3",           "Split4",   "Split5",      "Split6",
+          "Frame1_1", "Frame4_1",        "Frame4_2",         "tabMain",  "tabColList",  "comboFilter",
+          "textFind", "listSeries",      "labelFilterCount", "ListCast", "FrameCrew",   "Details",
+          "AV",       "listAppearences", "FrameAwards",      "picCover", "listSeasons", "listEpisodes",
+          "WebSkin",  "toolMain"}) {
         EXPECT_EQ(main->findChildren<QWidget *>(QLatin1String(name)).size(), 1) << name;
     }
     const struct {

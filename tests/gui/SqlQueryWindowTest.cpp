@@ -103,8 +103,18 @@ TEST_F(SqlQueryWindow, AFaultIsShownAndItsPlaceTakesTheCursor) {
     EXPECT_EQ(Query()->textCursor().positionInBlock(), 6);
     EXPECT_EQ(window->focusWidget(), Query());
     EXPECT_TRUE(Error()->isReadOnly());
+    const auto marked = [this] {
+        const auto marks = Query()->extraSelections();
+        return marks.isEmpty() ? QString() : marks.front().cursor.selectedText();
+    };
+    EXPECT_EQ(marked(), u")"_s);
+    QTest::keyClick(Query(), Qt::Key_Space);
+    EXPECT_EQ(marked(), QString()) << "the text is another one";
+    Send(u"SELECT Title FROM Profiles WHERE Title LIKE"_s);
+    EXPECT_EQ(marked(), u"LIKE"_s) << "where it ends too soon";
     Send(u"SELECT Title FROM Profiles"_s);
     EXPECT_EQ(Error()->toPlainText(), QString());
+    EXPECT_EQ(marked(), QString());
 }
 
 TEST_F(SqlQueryWindow, AClickOnAProfileShowsItInTheMainWindow) {

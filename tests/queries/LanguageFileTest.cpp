@@ -115,6 +115,21 @@ TEST_F(LanguageFileTest, InvalidFilesLeaveTheTable) {
     EXPECT_EQ(All(), QStringList(u"Yes|Ja"_s));
 }
 
+TEST_F(LanguageFileTest, AFileOfAnotherKindLeavesTheTable) {
+    Put(u"Yes"_s, u"Ja"_s);
+    Expect(u"Invalid Language XML file!\r\nThe file holds no element 'Strings'.\r\n<SQLQueries>\r\nLine 1"_s,
+           u"Invalid file"_s, MessageIcon::Warning);
+    EXPECT_FALSE(Import(u"a.xml"_s, "<SQLQueries/>"));
+    for (const QByteArray &content :
+         {QByteArray("[Settings]\nA=1\n"), QByteArray("7z\0|x|y\n", 8), QByteArray("\xFF\xFEY\0e\0s\0|\0J\0a\0", 14)}) {
+        Expect(u"This is no language file: "_s + Path(u"a.cfg"_s), u"Invalid file"_s, MessageIcon::Warning);
+        EXPECT_FALSE(Import(u"a.cfg"_s, content)) << content.constData();
+    }
+    EXPECT_EQ(All(), QStringList(u"Yes|Ja"_s));
+    EXPECT_TRUE(Import(u"a.cfg"_s, " \r\n")) << "no translation at all";
+    EXPECT_EQ(All(), QStringList());
+}
+
 TEST_F(LanguageFileTest, NothingWithoutADatabase) {
     session.Database.reset();
     Expect(u"No open database!"_s, {}, MessageIcon::Warning);
@@ -146,11 +161,14 @@ TEST_F(LanguageFileTest, ArchivesGoThroughTheTemporaryFolder) {
 TEST_F(LanguageFileTest, TheWindowSpeaksTheNewLanguageAtOnceWhereItIsSwitchedOn) {
     QStringList shown;
     session.window.MenuStrings = [&] { shown += Translate(session, u"Yes"_s); };
+    int stored = 0;
+    session.window.SettingsStored = [&] { ++stored; };
     Import(u"a.cfg"_s, "Yes|Oui");
     EXPECT_EQ(shown, QStringList());
     session.UseUserDefinedStrings = true;
     Import(u"a.cfg"_s, "Yes|Ja");
     EXPECT_EQ(shown, (QStringList{u"Yes"_s, u"Ja"_s})) << "by way of English";
+    EXPECT_EQ(stored, 1) << "what lists tell is shown anew";
     EXPECT_EQ(Translate(session, u"Yes"_s), u"Ja"_s);
     session.UseUserDefinedStrings = false;
     session.TraceStrings = true;

@@ -8,6 +8,15 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
+QString AllLines(const QAbstractItemModel &list, const QString &divider) {
+    ResultLines lines(list, divider);
+    QString all;
+    for (QString piece = lines.Next(); !piece.isEmpty(); piece = lines.Next()) {
+        all += piece;
+    }
+    return all;
+}
+
 class QueryResultTest : public CollectionTest {
 protected:
     void SetUp() override { Create(); }
@@ -98,11 +107,11 @@ TEST_F(QueryResultTest, HoldsWhatTheDatabaseNoLongerHas) {
 
 TEST_F(QueryResultTest, LinesHoldTheCellsAsTheyAre) {
     result.Assign({u"A"_s, u"B"_s}, {{u"1|2"_s, u"x\r\ny"_s}, {u"3"_s}});
-    EXPECT_EQ(ResultLines(result, u"|"_s), u"A|B\r\n1|2|x\r\ny\r\n3|\r\n"_s);
-    EXPECT_EQ(ResultLines(result, u"\t"_s).section(u'\r', 0, 0), u"A\tB"_s);
-    EXPECT_EQ(ResultLines(result, QString()).section(u'\r', 0, 0), u"AB"_s);
+    EXPECT_EQ(AllLines(result, u"|"_s), u"A|B\r\n1|2|x\r\ny\r\n3|\r\n"_s);
+    EXPECT_EQ(AllLines(result, u"\t"_s).section(u'\r', 0, 0), u"A\tB"_s);
+    EXPECT_EQ(AllLines(result, QString()).section(u'\r', 0, 0), u"AB"_s);
     result.Assign({u"A"_s, u"B"_s}, {});
-    EXPECT_EQ(ResultLines(result, u", "_s), u"A, B\r\n"_s);
+    EXPECT_EQ(AllLines(result, u", "_s), u"A, B\r\n"_s);
 }
 
 TEST_F(QueryResultTest, TheClipboardGetsOneLineForARow) {
@@ -126,6 +135,27 @@ TEST_F(QueryResultTest, XmlLeavesEmptyCellsOut) {
                                                   "</Table>\r\n");
     result.Clear();
     EXPECT_TRUE(ResultXml(result, {}).endsWith("<Table/>\r\n"));
+}
+
+TEST(ResultText, ALargeResultComesInPieces) {
+    QueryResult result;
+    std::vector<QStringList> rows;
+    for (int i = 0; i < 20'000; ++i) {
+        rows.push_back({QString::number(i), u"text"_s});
+    }
+    result.Assign({u"A"_s, u"B"_s}, rows);
+    ResultLines lines(result, u"|"_s);
+    qsizetype pieces = 0;
+    QStringList all;
+    for (QString piece = lines.Next(); !piece.isEmpty(); piece = lines.Next(), ++pieces) {
+        EXPECT_TRUE(piece.endsWith(u"\r\n"_s)) << "no line is cut";
+        all += piece.chopped(2).split(u"\r\n"_s);
+    }
+    EXPECT_GT(pieces, 2);
+    ASSERT_EQ(all.size(), 20'001);
+    EXPECT_EQ(all.front(), u"A|B"_s);
+    EXPECT_EQ(all[7'001], u"7000|text"_s);
+    EXPECT_EQ(all.back(), u"19999|text"_s);
 }
 
 } // namespace

@@ -113,11 +113,55 @@ TEST_F(QueryToolTest, FaultsTellTheirPlace) {
     EXPECT_EQ(tool.error_position, -1);
 }
 
-TEST_F(QueryToolTest, APlaceBehindAVariableIsNoneOfTheTextThatWasSent) {
-    services.dialogs.ExpectInput({}, u"a longer value"_s);
-    Send(u"SELECT Title FROM Profiles WHERE Title = '$T$' AND )"_s);
-    EXPECT_TRUE(tool.textError.contains(u"Line 1, column "_s));
-    EXPECT_EQ(tool.error_position, -1);
+TEST_F(QueryToolTest, APlaceIsFoundInTheTextThatWasSent) {
+    const struct {
+        QString statement;
+        int position; ///< of the fault, which is the bracket; -1 where it cannot be told
+    } table[] = {
+        {u"SELECT Title FROM Profiles WHERE ) AND Title = '$T$'"_s, 33},
+        {u"SELECT Title FROM Profiles WHERE Title = '$T$' AND )"_s, 51},
+        {u"SELECT Title FROM Profiles WHERE Title = '$T$' AND ) ; $T$ \"a)|b)\""_s, 51},
+        {u"SELECT Title FROM Profiles WHERE Title = '$T$' AND ) OR Title = '$T$'"_s, -1},
+    };
+    for (const auto &row : table) {
+        services.dialogs.ExpectInput({}, u"a longer value"_s);
+        Send(row.statement);
+        EXPECT_TRUE(tool.textError.contains(u"Line 1, column "_s)) << qPrintable(tool.textError);
+        EXPECT_EQ(tool.error_position, row.position) << qPrintable(row.statement);
+    }
+}
+
+TEST_F(QueryToolTest, AnotherLanguageChangesWhatIsShown) {
+    session.UseUserDefinedStrings = true;
+    const auto put = [this](const char *english, const char *user) {
+        Run(QString(u"INSERT INTO Translation (OriginalString, UserString) VALUES ('"_s + QLatin1String(english) +
+                    u"', '"_s + QLatin1String(user) + u"')"_s));
+    };
+    Send(u"SELECT Title FROM Profiles"_s);
+    Send(u"UPDATE Profiles SET ProdYear = 1"_s);
+    put("SQL Query", "Abfrage");
+    put("records", "Zeilen");
+    put("Rows changed:", "Anders:");
+    put("Tables", "Tabellen");
+    put("Usage:", "Hinweise:");
+    put("Line", "Zeile");
+    tool.TranslateTexts();
+    EXPECT_EQ(tool.caption, u"Abfrage (2 Zeilen)"_s);
+    EXPECT_EQ(tool.labelInfo, u"Anders: 2"_s);
+    EXPECT_EQ(Cell(1, 0), u"Birch"_s) << "the result stays";
+    session.UseUserDefinedStrings = false;
+    tool.ListTables();
+    session.UseUserDefinedStrings = true;
+    tool.TranslateTexts();
+    EXPECT_EQ(Headings().front(), u"Tabellen"_s);
+    EXPECT_TRUE(tool.textError.startsWith(u"Hinweise:\r\n"_s)) << qPrintable(tool.textError);
+    EXPECT_EQ(tool.caption, u"Abfrage"_s);
+    session.UseUserDefinedStrings = false;
+    Send(u"SELECT Title FROM Profiles WHERE )"_s);
+    ASSERT_TRUE(tool.textError.contains(u"Line 1"_s)) << qPrintable(tool.textError);
+    session.UseUserDefinedStrings = true;
+    tool.TranslateTexts();
+    EXPECT_TRUE(tool.textError.contains(u"Zeile 1"_s)) << qPrintable(tool.textError);
 }
 
 TEST_F(QueryToolTest, VariablesAreAskedForAndACancelEndsIt) {
@@ -306,6 +350,16 @@ TEST_F(QueryToolTest, ALongStatementShowsProgressAndCanBeCancelled) {
     Send(u"SELECT Title FROM Profiles"_s);
     EXPECT_EQ(tool.textError, QString()) << "the next statement runs";
     EXPECT_FALSE(session.progress.IsShown());
+}
+
+TEST_F(QueryToolTest, TheValuesOfAVariableCanTakeTooLongToo) {
+    FillAliases();
+    services.pump.At(2, [this] { session.progress.Close(); });
+    services.dialogs.ExpectMessage(u"An Error occured"_s);
+    services.dialogs.ExpectInput(u"Please enter the value for the variable 'n'"_s, std::nullopt);
+    Send(u"SELECT $n$ ; $n$ \""_s + kEndless + u'"');
+    EXPECT_TRUE(services.dialogs.last_values.isEmpty());
+    EXPECT_EQ(services.progress.calls.last(), u"closed"_s);
 }
 
 TEST_F(QueryToolTest, ACancelledChangeChangesNothing) {

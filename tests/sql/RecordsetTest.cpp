@@ -100,6 +100,14 @@ TEST_F(RecordsetTest, ReadsValuesAndTheirTexts) {
     EXPECT_EQ(rows.Text(u"Title"), u"Mill"_s);
 }
 
+TEST_F(RecordsetTest, TextsThatRepeatStandInMemoryOnce) {
+    const Recordset rows = Open(u"SELECT a.A, b.Title FROM Loose a, Films b ORDER BY b.Title"_s);
+    ASSERT_EQ(rows.RecordCount(), 4);
+    EXPECT_EQ(rows.GetAt(0, 0).Text().constData(), rows.GetAt(3, 0).Text().constData());
+    EXPECT_EQ(rows.GetAt(0, 1).Text().constData(), rows.GetAt(1, 1).Text().constData());
+    EXPECT_EQ(rows.TextAt(1, 1) + rows.TextAt(2, 1), u"HarbourMill"_s);
+}
+
 TEST_F(RecordsetTest, FindsFieldsByLabelThenByTheEndOfALabel) {
     Recordset rows = Open(u"SELECT *, f.Title AS [Owner] FROM Films f INNER JOIN Loose l ON l.B = f.FilmID"_s);
     EXPECT_EQ(rows.Text(u"OWNER"), u"Mill"_s) << "an alias wins over fields of its name";

@@ -59,6 +59,7 @@ void ShowDropBox(frmMain &main) {
     auto *window = main.findChild<frmDropBox *>();
     if (!window) {
         window = new frmDropBox(main.browser.session, &main);
+        QObject::connect(&main.browser, &Browser::LanguageChanged, window, &frmDropBox::TranslateTexts);
     }
     window->show();
     window->raise();

@@ -2,10 +2,14 @@
 
 #include "browser/Browser.h"
 #include "browser/CollectionTabs.h"
+#include "browser/Navigation.h"
+#include "browser/ui/FindEdit.h"
+#include "browser/ui/Guarded.h"
 #include "shell/Session.h"
 
 #include <QContextMenuEvent>
 #include <QScopedValueRollback>
+#include <QShortcut>
 #include <QStandardItemModel>
 
 namespace ostrand {
@@ -32,10 +36,12 @@ void TypeTabs::contextMenuEvent(QContextMenuEvent *event) {
 
 TitleListPanel::TitleListPanel(Browser &browser, QWidget *parent) :
     QWidget(parent), browser_(browser), tabColList_(new TypeTabs(this)), comboFilter_(new FilterBox(this)),
-    listSeries_(new TitleListView(browser, this)), labelFilterCount_(new QLabel(this)) {
+    textFind_(new FindEdit(browser, this)), listSeries_(new TitleListView(browser, this)),
+    labelFilterCount_(new QLabel(this)) {
     setObjectName(QStringLiteral("Frame1_1"));
     MakeTabs();
     MakeFilterBox();
+    MakeFindBox();
     labelFilterCount_->setObjectName(QStringLiteral("labelFilterCount"));
     labelFilterCount_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     connect(&browser_, &Browser::FilterCountChanged, this,
@@ -46,6 +52,7 @@ TitleListPanel::TitleListPanel(Browser &browser, QWidget *parent) :
     layout->setSpacing(2);
     layout->addWidget(tabColList_);
     layout->addWidget(comboFilter_);
+    layout->addWidget(textFind_);
     layout->addWidget(listSeries_, 1);
     layout->addWidget(labelFilterCount_);
     TranslateNames();
@@ -57,6 +64,11 @@ void TitleListPanel::TranslateNames() {
     comboFilter_->setAccessibleName(shown(u"Filter"));
     comboFilter_->setPlaceholderText(shown(u"Filter"));
     comboFilter_->setToolTip(shown(u"Show only the titles that a saved filter finds"));
+    textFind_->setAccessibleName(shown(u"Find"));
+    textFind_->setPlaceholderText(shown(u"Find title or person"));
+    const QString key = FindEdit::Shortcut().toString(QKeySequence::NativeText);
+    textFind_->setToolTip(shown(u"Show only the titles that hold what is typed, or a person of that name") +
+                          QStringLiteral(" (%1)").arg(key));
     listSeries_->setAccessibleName(shown(u"Titles"));
 }
 
@@ -89,6 +101,29 @@ void TitleListPanel::MakeFilterBox() {
     connect(comboFilter_, &QComboBox::textActivated, this,
             [this](const QString &text) { ChooseFilter(browser_, text); });
     connect(&browser_, &Browser::FilterChanged, this, &TitleListPanel::ShowFilters);
+}
+
+void TitleListPanel::MakeFindBox() {
+    auto *shortcut = new QShortcut(FindEdit::Shortcut(), this);
+    connect(shortcut, &QShortcut::activated, textFind_, [this] {
+        textFind_->setFocus(Qt::ShortcutFocusReason);
+        textFind_->selectAll();
+    });
+    connect(textFind_, &FindEdit::IntoList, this, &TitleListPanel::GoIntoList);
+    connect(textFind_, &FindEdit::BackToList, this, [this] { listSeries_->setFocus(); });
+}
+
+/// From the find box to the current title, or else to the first one.
+void TitleListPanel::GoIntoList() {
+    const TitleList &list = browser_.listSeries;
+    if (list.rowCount() == 0) {
+        return;
+    }
+    listSeries_->setFocus();
+    if (browser_.current_row < 0) {
+        const bool below_header = list.At(0).header && list.rowCount() > 1;
+        Guarded(browser_.session, [&] { MoveToRow(browser_, below_header ? 1 : 0); });
+    }
 }
 
 void TitleListPanel::ShowTabs() {

@@ -9,6 +9,7 @@
 namespace ostrand {
 
 class Browser;
+class FindEdit;
 
 /// The box of saved filters; tells when its list is about to open.
 class FilterBox : public QComboBox {
@@ -35,7 +36,7 @@ protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
 };
 
-/// Frame1_1. The tabs of collection types, the filter box, listSeries and the count of what is shown.
+/// Frame1_1. The tabs of collection types, the filter box, the find box, listSeries and the count of what is shown.
 class TitleListPanel : public QWidget {
     Q_OBJECT
 public:
@@ -54,12 +55,15 @@ Q_SIGNALS:
 private:
     void MakeTabs();
     void MakeFilterBox();
+    void MakeFindBox();
+    void GoIntoList();
     void ShowTabs();
     void ShowFilters();
 
     Browser &browser_;
     TypeTabs *tabColList_;
     FilterBox *comboFilter_;
+    FindEdit *textFind_;
     TitleListView *listSeries_;
     QLabel *labelFilterCount_;
     bool following_ = false;

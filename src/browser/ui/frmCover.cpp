@@ -29,6 +29,7 @@ frmCover::frmCover(Browser &browser, QWidget *parent) :
     connect(picCover_, &PictureView::Clicked, this, [this] { FlipCover(browser_); });
     connect(&browser_, &Browser::CoverChanged, this, &frmCover::ShowCover);
     connect(&browser_, &Browser::TitleChanged, this, &frmCover::ShowCover);
+    connect(&browser_, &Browser::LanguageChanged, this, &frmCover::ShowCover);
     new WindowPlace(browser_.session, u"CoverWindow"_s, this,
                     {fontMetrics().averageCharWidth() * kDesignLetters, fontMetrics().lineSpacing() * kDesignLines});
 }

@@ -35,24 +35,19 @@ QStringList DropsOf(const QMimeData &data) {
 frmDropBox::frmDropBox(Session &session, QWidget *parent) :
     QWidget(parent, Qt::Tool | Qt::WindowStaysOnTopHint), session_(session) {
     setObjectName(u"frmDropBox"_s);
-    setWindowTitle(Text(u"Image Drop Box"));
     setAcceptDrops(true);
     auto *layout = new QVBoxLayout(this);
     MakeZone();
     layout->addWidget(zone_, 1);
     auto *buttons = new QHBoxLayout;
-    Mnemonics keys;
-    QPushButton *choose =
-        MakeButton(u"cbChooseFile"_s, keys.Mark(Text(u"Choose file...")), Text(u"Choose a picture on the disk"));
-    QPushButton *paste = MakeButton(u"cbPaste"_s, keys.Mark(Text(u"Paste")),
-                                    Text(u"Take the file that the clipboard names") + u" (Ctrl+V)"_s);
-    choose->setAccessibleName(Text(u"Choose file..."));
-    paste->setAccessibleName(Text(u"Paste"));
-    buttons->addWidget(choose);
-    buttons->addWidget(paste);
+    choose_ = MakeButton(u"cbChooseFile"_s);
+    paste_ = MakeButton(u"cbPaste"_s);
+    buttons->addWidget(choose_);
+    buttons->addWidget(paste_);
     layout->addLayout(buttons);
-    connect(choose, &QPushButton::clicked, this, &frmDropBox::Choose);
-    connect(paste, &QPushButton::clicked, this, &frmDropBox::Paste);
+    TranslateTexts();
+    connect(choose_, &QPushButton::clicked, this, &frmDropBox::Choose);
+    connect(paste_, &QPushButton::clicked, this, &frmDropBox::Paste);
     connect(new QShortcut(QKeySequence::Paste, this), &QShortcut::activated, this, &frmDropBox::Paste);
     connect(new QShortcut(QKeySequence(Qt::Key_Escape), this), &QShortcut::activated, this, &QWidget::close);
     new WindowPlace(session_, u"DropBox"_s, this, sizeHint());
@@ -62,34 +57,45 @@ QString frmDropBox::Text(const char16_t *english) {
     return Translate(session_, QString::fromUtf16(english));
 }
 
+void frmDropBox::TranslateTexts() {
+    setWindowTitle(Text(u"Image Drop Box"));
+    zone_->setAccessibleName(Text(u"Drop zone for pictures"));
+    hint_->setText(Text(u"Drop a picture (.jpg) here"));
+    result_->setAccessibleName(Text(u"Picture stored last"));
+    Mnemonics keys;
+    choose_->setText(keys.Mark(Text(u"Choose file...")));
+    choose_->setAccessibleName(Text(u"Choose file..."));
+    choose_->setToolTip(Text(u"Choose a picture on the disk"));
+    paste_->setText(keys.Mark(Text(u"Paste")));
+    paste_->setAccessibleName(Text(u"Paste"));
+    paste_->setToolTip(Text(u"Take the file that the clipboard names") + u" (Ctrl+V)"_s);
+}
+
 void frmDropBox::MakeZone() {
     zone_ = new QFrame(this);
     zone_->setObjectName(u"frameDropZone"_s);
-    zone_->setAccessibleName(Text(u"Drop zone for pictures"));
     zone_->setFrameShape(QFrame::StyledPanel);
     zone_->setAutoFillBackground(true);
     auto *layout = new QVBoxLayout(zone_);
-    auto *hint = new QLabel(Text(u"Drop a picture (.jpg) here"), zone_);
-    hint->setAlignment(Qt::AlignCenter);
-    hint->setWordWrap(true);
+    hint_ = new QLabel(zone_);
+    hint_->setAlignment(Qt::AlignCenter);
+    hint_->setWordWrap(true);
     result_ = new QLabel(zone_);
     result_->setObjectName(u"labelStored"_s);
-    result_->setAccessibleName(Text(u"Picture stored last"));
     result_->setAlignment(Qt::AlignCenter);
     result_->setWordWrap(true);
     result_->setTextFormat(Qt::PlainText);
     layout->addStretch();
-    layout->addWidget(hint);
+    layout->addWidget(hint_);
     layout->addWidget(result_);
     layout->addStretch();
     zone_->setMinimumSize(fontMetrics().averageCharWidth() * 34, fontMetrics().height() * 7);
     Highlight(false);
 }
 
-QPushButton *frmDropBox::MakeButton(const QString &name, const QString &text, const QString &tool_tip) {
-    auto *button = new QPushButton(text, this);
+QPushButton *frmDropBox::MakeButton(const QString &name) {
+    auto *button = new QPushButton(this);
     button->setObjectName(name);
-    button->setToolTip(tool_tip);
     button->setAutoDefault(true); // Enter presses it, though this is no dialog
     return button;
 }

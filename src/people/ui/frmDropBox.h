@@ -21,6 +21,8 @@ public:
 
     ostrand::DropType DropType() const { return drop_type_; }
     void SetDropType(ostrand::DropType type) { drop_type_ = type; }
+    /// Gives the controls their texts in the present language.
+    void TranslateTexts();
 
 Q_SIGNALS:
     /// A picture was kept; the path of its file.
@@ -33,7 +35,7 @@ protected:
 
 private:
     void MakeZone();
-    QPushButton *MakeButton(const QString &name, const QString &text, const QString &tool_tip);
+    QPushButton *MakeButton(const QString &name);
     void Paste();
     void Choose();
     void Store(const QStringList &drops);
@@ -44,7 +46,10 @@ private:
     Session &session_;
     ostrand::DropType drop_type_ = ostrand::DropType::Person;
     QFrame *zone_ = nullptr;
+    QLabel *hint_ = nullptr;
     QLabel *result_ = nullptr;
+    QPushButton *choose_ = nullptr;
+    QPushButton *paste_ = nullptr;
 };
 
 } // namespace ostrand

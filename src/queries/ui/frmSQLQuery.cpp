@@ -5,6 +5,7 @@
 #include "platform_qt/TablePrinter.h"
 #include "queries/ResultText.h"
 #include "shell/Session.h"
+#include "shell/ui/Mnemonics.h"
 #include "shell/ui/WindowPlace.h"
 
 #include <QAction>
@@ -48,6 +49,7 @@ frmSQLQuery::frmSQLQuery(Browser &browser, QWidget *parent) :
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(all);
     AddKeys();
+    connect(&browser_, &Browser::LanguageChanged, this, &frmSQLQuery::TranslateTexts);
     connect(&browser_, &Browser::DatabaseOpened, this, [this] {
         tool_.DatabaseChanged();
         Refresh();
@@ -58,7 +60,7 @@ frmSQLQuery::frmSQLQuery(Browser &browser, QWidget *parent) :
     const QFontMetrics metrics = fontMetrics();
     new WindowPlace(browser_.session, u"SQLQueries"_s, this,
                     {metrics.averageCharWidth() * 130, metrics.lineSpacing() * 40});
-    Refresh();
+    TranslateTexts();
 }
 
 QString frmSQLQuery::Text(const char16_t *english) const {
@@ -73,41 +75,85 @@ void frmSQLQuery::SetFixedFont(QWidget &control) const {
     control.setFont(font);
 }
 
-QPushButton *frmSQLQuery::MakeButton(const char16_t *name, const char16_t *text, const char16_t *tool_tip) {
-    auto *button = new QPushButton(keys_.Mark(Text(text)));
+QPushButton *frmSQLQuery::MakeButton(const char16_t *name) {
+    auto *button = new QPushButton;
     button->setObjectName(QString::fromUtf16(name));
-    button->setAccessibleName(Text(text));
-    button->setToolTip(Text(tool_tip));
     button->setAutoDefault(true); // Enter presses it, though this is no dialog
     return button;
+}
+
+QLabel *frmSQLQuery::MakeLabel(QWidget &buddy) {
+    auto *label = new QLabel;
+    label->setBuddy(&buddy);
+    return label;
+}
+
+void frmSQLQuery::TranslateTexts() {
+    struct ButtonTexts {
+        const char16_t *name, *text, *tool_tip;
+    };
+    const ButtonTexts buttons[] = {
+        {u"cbSendQuery", u"Send Query", u"Runs the statement"},
+        {u"cbListTables", u"List Tables", u"Lists the tables with their fields, and how values are written"},
+        {u"cbCreateFilter", u"Create Filter", u"Begins a statement that can be saved as a filter of the title list"},
+        {u"cbSave", u"Save Query", u"Keeps the statement under a name"},
+        {u"cbSaveResult", u"Save Result", u"Writes the result to a text file"},
+    };
+    Mnemonics keys;
+    labelQuery_->setText(keys.Mark(Text(u"Statement")) + u':');
+    labelQueries_->setText(keys.Mark(Text(u"Saved Queries")) + u':');
+    for (const ButtonTexts &texts : buttons) {
+        auto *button = findChild<QPushButton *>(QString::fromUtf16(texts.name));
+        button->setText(keys.Mark(Text(texts.text)));
+        button->setAccessibleName(Text(texts.text));
+        button->setToolTip(Text(texts.tool_tip) + (texts.name == u"cbSendQuery"_s ? u" (F5)"_s : QString()));
+    }
+    TranslateLists();
+    tool_.TranslateTexts();
+    Refresh();
+}
+
+void frmSQLQuery::TranslateLists() {
+    textQuery_->setAccessibleName(Text(u"Statement"));
+    textError_->setAccessibleName(Text(u"Messages of the database"));
+    labelInfo_->setAccessibleName(Text(u"What the last statement did"));
+    listQueries_->setAccessibleName(Text(u"Saved Queries"));
+    listQueries_->setToolTip(Text(u"Selecting a query shows its statement; Delete removes it"));
+    mDeleteQuery_->setText(Text(u"Delete Query"));
+    listQueryResult_->setAccessibleName(Text(u"Result"));
+    listQueryResult_->setToolTip(Text(u"A click on a row that begins with the key of a profile shows the profile"));
+    const std::pair<const char16_t *, const char16_t *> entries[] = {
+        {u"mCopyToClipboard", u"&Copy to Clipboard"},
+        {u"mCopyXMLtoClipboard", u"Copy &XML to Clipboard"},
+        {u"mPrint", u"&Print..."},
+    };
+    for (const auto &[name, text] : entries) {
+        listQueryResult_->findChild<QAction *>(QString::fromUtf16(name))->setText(Text(text));
+    }
 }
 
 QWidget *frmSQLQuery::MakeStatement() {
     auto *area = new QWidget;
     auto *layout = new QVBoxLayout(area);
     layout->setContentsMargins({});
-    auto *label = new QLabel(keys_.Mark(Text(u"Statement")) + u':');
     textQuery_ = new QPlainTextEdit;
     textQuery_->setObjectName(u"textQuery"_s);
-    textQuery_->setAccessibleName(Text(u"Statement"));
     textQuery_->setTabChangesFocus(true);
     SetFixedFont(*textQuery_);
-    label->setBuddy(textQuery_);
+    labelQuery_ = MakeLabel(*textQuery_);
     auto *buttons = new QHBoxLayout;
-    QPushButton *send = MakeButton(u"cbSendQuery", u"Send Query", u"Runs the statement");
-    send->setToolTip(send->toolTip() + u" (F5)"_s);
-    QPushButton *tables =
-        MakeButton(u"cbListTables", u"List Tables", u"Lists the tables with their fields, and how values are written");
-    QPushButton *filter = MakeButton(u"cbCreateFilter", u"Create Filter",
-                                     u"Begins a statement that can be saved as a filter of the title list");
-    QPushButton *save = MakeButton(u"cbSave", u"Save Query", u"Keeps the statement under a name");
+    QPushButton *send = MakeButton(u"cbSendQuery");
+    QPushButton *tables = MakeButton(u"cbListTables");
+    QPushButton *filter = MakeButton(u"cbCreateFilter");
+    QPushButton *save = MakeButton(u"cbSave");
     for (QPushButton *button : {send, tables, filter, save}) {
         buttons->addWidget(button);
     }
     buttons->addStretch();
-    layout->addWidget(label);
+    layout->addWidget(labelQuery_);
     layout->addWidget(textQuery_, 1);
     layout->addLayout(buttons);
+    connect(textQuery_, &QPlainTextEdit::textChanged, this, [this] { textQuery_->setExtraSelections({}); });
     connect(send, &QPushButton::clicked, this, &frmSQLQuery::SendQuery);
     connect(tables, &QPushButton::clicked, this, [this] {
         Do([this] { tool_.ListTables(); });
@@ -125,25 +171,22 @@ QWidget *frmSQLQuery::MakeQueries() {
     auto *area = new QWidget;
     auto *layout = new QVBoxLayout(area);
     layout->setContentsMargins({});
-    auto *label = new QLabel(keys_.Mark(Text(u"Saved Queries")) + u':');
     listQueries_ = new QListWidget;
     listQueries_->setObjectName(u"listQueries"_s);
-    listQueries_->setAccessibleName(Text(u"Saved Queries"));
-    listQueries_->setToolTip(Text(u"Selecting a query shows its statement; Delete removes it"));
     listQueries_->setContextMenuPolicy(Qt::ActionsContextMenu);
-    label->setBuddy(listQueries_);
-    auto *remove = new QAction(Text(u"Delete Query"), listQueries_);
-    remove->setObjectName(u"mDeleteQuery"_s);
-    remove->setShortcut(QKeySequence::Delete);
-    remove->setShortcutContext(Qt::WidgetShortcut);
-    listQueries_->addAction(remove);
-    layout->addWidget(label);
+    labelQueries_ = MakeLabel(*listQueries_);
+    mDeleteQuery_ = new QAction(listQueries_);
+    mDeleteQuery_->setObjectName(u"mDeleteQuery"_s);
+    mDeleteQuery_->setShortcut(QKeySequence::Delete);
+    mDeleteQuery_->setShortcutContext(Qt::WidgetShortcut);
+    listQueries_->addAction(mDeleteQuery_);
+    layout->addWidget(labelQueries_);
     layout->addWidget(listQueries_, 1);
     connect(listQueries_, &QListWidget::currentRowChanged, this, &frmSQLQuery::LoadSelected);
     // A click on the entry that is current already brings its statement back.
     connect(listQueries_, &QListWidget::itemClicked, this, &frmSQLQuery::LoadSelected);
     connect(listQueries_, &QListWidget::itemActivated, this, &frmSQLQuery::SendQuery);
-    connect(remove, &QAction::triggered, this, &frmSQLQuery::DeleteSelected);
+    connect(mDeleteQuery_, &QAction::triggered, this, &frmSQLQuery::DeleteSelected);
     return area;
 }
 
@@ -152,7 +195,6 @@ QWidget *frmSQLQuery::MakeResult() {
     area->setChildrenCollapsible(false);
     textError_ = new QPlainTextEdit;
     textError_->setObjectName(u"textError"_s);
-    textError_->setAccessibleName(Text(u"Messages of the database"));
     textError_->setReadOnly(true);
     textError_->setTabChangesFocus(true);
     textError_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
@@ -165,9 +207,8 @@ QWidget *frmSQLQuery::MakeResult() {
     BuildResultList();
     labelInfo_ = new QLabel;
     labelInfo_->setObjectName(u"labelInfo"_s);
-    labelInfo_->setAccessibleName(Text(u"What the last statement did"));
     labelInfo_->setTextFormat(Qt::PlainText);
-    QPushButton *save = MakeButton(u"cbSaveResult", u"Save Result", u"Writes the result to a text file");
+    QPushButton *save = MakeButton(u"cbSaveResult");
     auto *bottom = new QHBoxLayout;
     bottom->addWidget(labelInfo_, 1);
     bottom->addWidget(save);
@@ -184,8 +225,6 @@ QWidget *frmSQLQuery::MakeResult() {
 void frmSQLQuery::BuildResultList() {
     listQueryResult_ = new QTableView;
     listQueryResult_->setObjectName(u"listQueryResult"_s);
-    listQueryResult_->setAccessibleName(Text(u"Result"));
-    listQueryResult_->setToolTip(Text(u"A click on a row that begins with the key of a profile shows the profile"));
     listQueryResult_->setModel(&tool_.listQueryResult);
     listQueryResult_->setSelectionBehavior(QAbstractItemView::SelectRows);
     listQueryResult_->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -211,22 +250,22 @@ void frmSQLQuery::BuildResultList() {
 }
 
 void frmSQLQuery::AddResultActions() {
-    const auto add = [this](const char16_t *name, const char16_t *text, auto run) {
-        auto *action = new QAction(Text(text), listQueryResult_);
+    const auto make = [this](const char16_t *name, auto run) {
+        auto *action = new QAction(listQueryResult_);
         action->setObjectName(QString::fromUtf16(name));
         listQueryResult_->addAction(action);
         connect(action, &QAction::triggered, this, run);
         return action;
     };
-    QAction *copy = add(u"mCopyToClipboard", u"&Copy to Clipboard", [this] {
+    QAction *copy = make(u"mCopyToClipboard", [this] {
         browser_.session.services.clipboard.SetText(ResultForClipboard(tool_.listQueryResult, RowsToTake()));
     });
     copy->setShortcut(QKeySequence::Copy);
     copy->setShortcutContext(Qt::WidgetShortcut);
-    add(u"mCopyXMLtoClipboard", u"Copy &XML to Clipboard", [this] {
+    make(u"mCopyXMLtoClipboard", [this] {
         browser_.session.services.clipboard.SetText(QString::fromUtf8(ResultXml(tool_.listQueryResult, RowsToTake())));
     });
-    QAction *paper = add(u"mPrint", u"&Print...", [this] { print(tool_.listQueryResult, RowsToTake()); });
+    QAction *paper = make(u"mPrint", [this] { print(tool_.listQueryResult, RowsToTake()); });
     paper->setShortcut(QKeySequence::Print);
     paper->setShortcutContext(Qt::WidgetShortcut);
     listQueryResult_->setContextMenuPolicy(Qt::ActionsContextMenu);
@@ -259,6 +298,7 @@ void frmSQLQuery::Do(const std::function<void()> &action) {
 }
 
 void frmSQLQuery::SendQuery() {
+    textQuery_->setExtraSelections({});
     Do([this] { tool_.SendQuery(textQuery_->toPlainText(), SelectedColType(browser_)); });
     ResizeListQueryResultColumns();
     ShowFault();
@@ -323,10 +363,22 @@ void frmSQLQuery::ShowFault() {
     if (tool_.error_position < 0) {
         return;
     }
+    const int place = std::min(tool_.error_position, int(textQuery_->toPlainText().size()));
     QTextCursor cursor = textQuery_->textCursor();
-    cursor.setPosition(std::min(tool_.error_position, int(textQuery_->toPlainText().size())));
+    cursor.setPosition(place);
     textQuery_->setTextCursor(cursor);
     textQuery_->setFocus();
+    QTextEdit::ExtraSelection mark;
+    mark.cursor = cursor;
+    mark.cursor.movePosition(QTextCursor::EndOfWord, QTextCursor::KeepAnchor);
+    if (!mark.cursor.hasSelection()) { // at a sign, or behind the last word, which then is what lacks something
+        mark.cursor.movePosition(QTextCursor::NextCharacter, QTextCursor::KeepAnchor);
+    }
+    if (!mark.cursor.hasSelection()) {
+        mark.cursor.movePosition(QTextCursor::PreviousWord, QTextCursor::KeepAnchor);
+    }
+    mark.format.setUnderlineStyle(QTextCharFormat::WaveUnderline);
+    textQuery_->setExtraSelections({mark});
 }
 
 void frmSQLQuery::ResizeListQueryResultColumns() {

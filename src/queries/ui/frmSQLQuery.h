@@ -2,10 +2,10 @@
 #pragma once
 
 #include "queries/QueryTool.h"
-#include "shell/ui/Mnemonics.h"
 
 #include <QWidget>
 
+class QAction;
 class QLabel;
 class QListWidget;
 class QPlainTextEdit;
@@ -33,10 +33,14 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
+    QLabel *MakeLabel(QWidget &buddy);
     QWidget *MakeQueries();
     QWidget *MakeStatement();
     QWidget *MakeResult();
-    QPushButton *MakeButton(const char16_t *name, const char16_t *text, const char16_t *tool_tip);
+    QPushButton *MakeButton(const char16_t *name);
+    /// Gives the controls their texts in the present language.
+    void TranslateTexts();
+    void TranslateLists();
     void BuildResultList();
     void AddResultActions();
     void AddKeys();
@@ -51,6 +55,7 @@ private:
     /// Shows what the tool tells.
     void Refresh();
     void ShowQueries();
+    /// Leads to the place of the fault and underlines what stands there.
     void ShowFault();
     void ResizeListQueryResultColumns();
     QList<int> RowsToTake() const;
@@ -58,12 +63,14 @@ private:
 
     Browser &browser_;
     QueryTool tool_;
-    Mnemonics keys_;
     QListWidget *listQueries_ = nullptr;
     QPlainTextEdit *textQuery_ = nullptr;
     QPlainTextEdit *textError_ = nullptr;
     QTableView *listQueryResult_ = nullptr;
     QLabel *labelInfo_ = nullptr;
+    QLabel *labelQuery_ = nullptr;
+    QLabel *labelQueries_ = nullptr;
+    QAction *mDeleteQuery_ = nullptr;
 };
 
 } // namespace ostrand

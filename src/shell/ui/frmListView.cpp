@@ -37,9 +37,9 @@ frmListView::frmListView(Session &session, ListViewContent content, QWidget *par
     session_(session), content_(std::move(content)), MultiList_(new QTableView(this)) {
     setObjectName(u"frmListView"_s);
     setAttribute(Qt::WA_DeleteOnClose);
-    setWindowTitle(content_.caption);
     BuildList();
     AddActions();
+    ShowContent();
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(MultiList_);
@@ -50,8 +50,6 @@ frmListView::frmListView(Session &session, ListViewContent content, QWidget *par
 
 void frmListView::BuildList() {
     MultiList_->setObjectName(u"MultiList"_s);
-    MultiList_->setAccessibleName(content_.caption);
-    MultiList_->setModel(content_.model.get());
     MultiList_->setSelectionBehavior(QAbstractItemView::SelectRows);
     MultiList_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     MultiList_->setTabKeyNavigation(false);
@@ -63,10 +61,7 @@ void frmListView::BuildList() {
     header->setHighlightSections(false);
     header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     header->setStretchLastSection(true);
-    header->setMaximumSectionSize(fontMetrics().averageCharWidth() * kWidestColumnChars);
     header->setResizeContentsPrecision(kMeasuredRows);
-    MultiList_->resizeColumnsToContents();
-    header->setMaximumSectionSize(-1);
     // The rows keep the order they came in until a header is clicked.
     header->setSortIndicator(-1, Qt::AscendingOrder);
     header->setSortIndicatorShown(true);
@@ -77,28 +72,64 @@ void frmListView::BuildList() {
         }
     });
     connect(MultiList_, &QTableView::activated, this, &frmListView::Choose);
+}
+
+void frmListView::ShowContent() {
+    setWindowTitle(content_.caption);
+    MultiList_->setAccessibleName(content_.caption);
+    MultiList_->setModel(content_.model.get());
+    QHeaderView *header = MultiList_->horizontalHeader();
+    header->setMaximumSectionSize(fontMetrics().averageCharWidth() * kWidestColumnChars);
+    MultiList_->resizeColumnsToContents();
+    header->setMaximumSectionSize(-1);
     if (content_.model->rowCount() > 0) {
         MultiList_->setCurrentIndex(content_.model->index(0, 0));
     }
 }
 
+void frmListView::ShowAgain() {
+    TranslateActions();
+    if (!content_.again) {
+        return;
+    }
+    const QHeaderView *header = MultiList_->horizontalHeader();
+    const int row = MultiList_->currentIndex().row();
+    const int sorted_by = header->sortIndicatorSection();
+    const Qt::SortOrder order = header->sortIndicatorOrder();
+    ListViewContent content = content_.again();
+    std::swap(content_, content); // the old model goes when the view has the new one
+    if (sorted_by >= 0) {
+        content_.model->sort(sorted_by, order);
+    }
+    ShowContent();
+    if (row >= 0 && row < content_.model->rowCount()) {
+        MultiList_->setCurrentIndex(content_.model->index(row, 0));
+    }
+}
+
 void frmListView::AddActions() {
-    auto *copy = new QAction(Translate(session_, u"&Copy"_s), MultiList_);
-    copy->setObjectName(u"mCopyToClipboard"_s);
-    copy->setShortcut(QKeySequence::Copy);
-    copy->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    connect(copy, &QAction::triggered, this, [this] { session_.services.clipboard.SetText(SelectedText()); });
+    copy_ = new QAction(MultiList_);
+    copy_->setObjectName(u"mCopyToClipboard"_s);
+    copy_->setShortcut(QKeySequence::Copy);
+    copy_->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    connect(copy_, &QAction::triggered, this, [this] { session_.services.clipboard.SetText(SelectedText()); });
 
-    auto *grid_lines = new QAction(Translate(session_, u"&Grid Lines"_s), MultiList_);
-    grid_lines->setObjectName(u"mToogleGridlinesMultiList"_s);
-    grid_lines->setCheckable(true);
-    grid_lines->setChecked(ReadIniSetting(session_, u"GridLines", u"MultiList").compare(u"True", Qt::CaseInsensitive) ==
-                           0);
-    MultiList_->setShowGrid(grid_lines->isChecked());
-    connect(grid_lines, &QAction::toggled, this, &frmListView::SetGridLines);
+    grid_lines_ = new QAction(MultiList_);
+    grid_lines_->setObjectName(u"mToogleGridlinesMultiList"_s);
+    grid_lines_->setCheckable(true);
+    grid_lines_->setChecked(
+        ReadIniSetting(session_, u"GridLines", u"MultiList").compare(u"True", Qt::CaseInsensitive) == 0);
+    MultiList_->setShowGrid(grid_lines_->isChecked());
+    connect(grid_lines_, &QAction::toggled, this, &frmListView::SetGridLines);
 
-    MultiList_->addActions({copy, grid_lines});
+    MultiList_->addActions({copy_, grid_lines_});
     MultiList_->setContextMenuPolicy(Qt::ActionsContextMenu);
+    TranslateActions();
+}
+
+void frmListView::TranslateActions() {
+    copy_->setText(Translate(session_, u"&Copy"_s));
+    grid_lines_->setText(Translate(session_, u"&Grid Lines"_s));
 }
 
 void frmListView::SetGridLines(bool on) {

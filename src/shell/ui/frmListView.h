@@ -5,6 +5,7 @@
 
 #include <QDialog>
 
+class QAction;
 class QTableView;
 
 namespace ostrand {
@@ -17,6 +18,8 @@ struct ListViewContent {
     QString caption;
     /// The key and kind of a row; empty when no row leads anywhere.
     std::function<std::pair<QString, ListRowKind>(int row)> target;
+    /// The same in the present language; empty where there is but one.
+    std::function<ListViewContent()> again = {};
 };
 ListViewContent ContentOf(std::unique_ptr<ListTable> table);
 
@@ -32,16 +35,22 @@ public:
     /// The header and the selected rows, or all rows when no more than one is selected, as lines of cells separated by
     /// tabs.
     QString SelectedText() const;
+    /// The language changed. The order of the rows and the one that is current stay.
+    void ShowAgain();
 
 private:
     void BuildList();
+    void ShowContent();
     void AddActions();
+    void TranslateActions();
     void SetGridLines(bool on);
     void Choose(const QModelIndex &index);
 
     Session &session_;
     ListViewContent content_;
     QTableView *MultiList_;
+    QAction *copy_ = nullptr;
+    QAction *grid_lines_ = nullptr;
 };
 
 } // namespace ostrand

@@ -181,7 +181,7 @@ QWidget *frmSettings::MakeFolder(const SettingsEntry &entry, QLineEdit *path) {
 QListWidget *frmSettings::MakeList() {
     auto *list = new QListWidget;
     for (const SettingsForm::IncludedType &type : form_.IncludedTypes()) {
-        auto *item = new QListWidgetItem(type.name, list);
+        auto *item = new QListWidgetItem(Translate(session_, type.name), list);
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
         item->setCheckState(type.checked ? Qt::Checked : Qt::Unchecked);
     }
