@@ -85,8 +85,9 @@ void FollowBrowser(Browser &browser) {
 /// The cover folder may have been settled after the current row was shown.
 void ShowCoverAgain(Browser &browser) {
     const int row = browser.current_row;
-    const ViewState &view = browser.session.view;
-    if (!view.mTVShows && !view.mSkinEnable && row >= 0 && row < browser.listSeries.rowCount()) {
+    const Session &session = browser.session;
+    // Links of a page can lead from the row to an episode.
+    if (!session.view.mTVShows && !session.CurrentIsEpisode && row >= 0 && row < browser.listSeries.rowCount()) {
         ShowCover(browser, browser.listSeries.At(row).key);
     }
 }
@@ -148,7 +149,7 @@ void ShowNoCollection(Browser &browser) {
     ReloadColTypeTabs(browser);
     UpdateFilters(browser);
     ShowFilterCount(browser, 0);
-    ClearAllProfileInfos(browser);
+    ShowNoTitle(browser);
     Q_EMIT browser.TagsChanged(true);
 }
 

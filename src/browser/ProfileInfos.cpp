@@ -46,11 +46,6 @@ void TellProfileWindow(Browser &browser, const QString &id, bool is_episode) {
     }
 }
 
-void ShowNoTitle(Browser &browser) {
-    ClearAllProfileInfos(browser);
-    TellProfileWindow(browser, {}, false);
-}
-
 /// Lets events run once; false when another title became the current one meanwhile.
 bool StaysCurrent(Browser &browser) {
     const QString id = browser.session.CurrentProfileID;
@@ -131,13 +126,11 @@ void UpdateSeriesList(Browser &browser, int row) {
         UpdateSeasons(browser, key);
         return;
     }
-    if (!header && ShowSkin(browser, key, false)) {
-        StaysCurrent(browser);
-        return;
+    if (header || !ShowSkin(browser, key, false)) {
+        GetProfileInfos(browser, key, false, false);
     }
-    GetProfileInfos(browser, key, false, false);
     if (StaysCurrent(browser)) {
-        ShowCover(browser, key);
+        ShowCover(browser, key); // beside a page too: the window of the cover may be open
     }
 }
 
@@ -206,6 +199,11 @@ void ClearAllProfileInfos(Browser &browser) {
         browser.cover_stem.clear();
         Q_EMIT browser.CoverChanged();
     }
+}
+
+void ShowNoTitle(Browser &browser) {
+    ClearAllProfileInfos(browser);
+    TellProfileWindow(browser, {}, false);
 }
 
 QString MakeWindowCaption(const sql::Recordset &record) {

@@ -17,8 +17,10 @@ bool ShowSkin(Browser &browser, const QString &key, bool is_episode);
 /// Makes a title or an episode the current one, and reads what the selected tab of tabMain shows of it. With
 /// `keep_credits` the credits stay as they are.
 void GetProfileInfos(Browser &browser, const QString &id, bool is_episode, bool keep_credits);
-/// Shows no title.
+/// The panels show no title.
 void ClearAllProfileInfos(Browser &browser);
+/// The same, and the profile window follows.
+void ShowNoTitle(Browser &browser);
 /// Reads the panels anew after their language changed.
 void RefreshProfileInfos(Browser &browser);
 /// What the window's caption tells of a record of `Profiles`, or of one with columns named like those; a column that

@@ -94,11 +94,11 @@ bool ProfileSheet::SelectTab(SheetTab tab) {
 }
 
 void ProfileSheet::ReadTab(SheetTab tab) {
-    const bool empty = title_.id.isEmpty();
+    const bool empty = !HasTitle();
     switch (tab) {
     case SheetTab::Main:
         ReadLocks();
-        prices = ReadPrices(session_, title_);
+        prices = ReadPrices(session_, empty ? SheetTitle() : title_);
         listDiscs.Assign(empty ? std::vector<ListTableRow>() : ReadDiscs(session_, title_));
         empty ? tags.ClearTags() : tags.ReadTags(title_);
         break;
@@ -119,7 +119,7 @@ void ProfileSheet::ReadTab(SheetTab tab) {
 
 void ProfileSheet::ReadLocks() {
     QSet<QString> names;
-    if (!title_.id.isEmpty()) {
+    if (HasTitle()) {
         for (sql::Recordset rows = session_.Database->OpenRecordset(RowsOf(u"Locks", title_)); !rows.Eof();
              rows.MoveNext()) {
             names.insert(rows.Text(u"LockName").toCaseFolded());
@@ -137,7 +137,7 @@ void ProfileSheet::ReadLocks() {
 void ProfileSheet::ReadInfos() {
     infos_.clear();
     std::vector<ListTableRow> rows;
-    if (!title_.id.isEmpty()) {
+    if (HasTitle()) {
         for (sql::Recordset found =
                  session_.Database->OpenRecordset(RowsOf(u"AdditionalInfo", title_) + u" ORDER BY InfoName"_s);
              !found.Eof(); found.MoveNext()) {
@@ -190,12 +190,17 @@ QString ProfileSheet::PageName(SheetTab tab) {
     }
 }
 
+/// A database that could not be opened takes the place of the one that the title is from.
+bool ProfileSheet::HasTitle() const {
+    return session_.Database && !title_.id.isEmpty();
+}
+
 bool ProfileSheet::IsThere(const SheetTitle &title) const {
     return !session_.Database->OpenRecordset(FindTitle(title)).Eof();
 }
 
 void ProfileSheet::Write(const std::function<void()> &change) {
-    if (!session_.Database || title_.id.isEmpty()) {
+    if (!HasTitle()) {
         return;
     }
     if (!IsThere(title_)) {

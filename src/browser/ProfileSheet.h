@@ -84,6 +84,7 @@ private:
     /// Runs a change of the title, and tells of the tab that it belongs to.
     void Write(const std::function<void()> &change);
     bool IsThere(const SheetTitle &title) const;
+    bool HasTitle() const;
 
     Session &session_;
     SheetTitle title_;

@@ -48,10 +48,7 @@ void EnterView(Browser &browser, bool movies, int tab) {
     browser.commands.FollowView(movies);
     ForgetTitle(browser); // so that who hears of the mode finds no row of the other one
     Q_EMIT browser.ModeChanged();
-    ClearAllProfileInfos(browser);
-    if (browser.hooks.ShowProfile) {
-        browser.hooks.ShowProfile({}, false);
-    }
+    ShowNoTitle(browser);
     browser.history.Clear();
     Q_EMIT browser.HistoryChanged();
     if (movies && view.LastTab != 1) {
@@ -115,7 +112,7 @@ void ReloadList(Browser &browser) {
     } catch (const sql::SqlError &error) {
         Trace(session, u"ReloadList: "_s + error.Text(), kTraceError);
         ForgetTitle(browser);
-        ClearAllProfileInfos(browser);
+        ShowNoTitle(browser);
         ShowFilterCount(browser, 0);
     }
 }

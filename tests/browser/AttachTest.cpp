@@ -242,5 +242,15 @@ TEST_F(AttachTest, AnotherDatabaseTakesTheListsOver) {
     EXPECT_EQ(browser.labelFilterCount, u"Filtered: 0"_s);
 }
 
+TEST_F(AttachTest, WithoutACollectionTheProfileWindowIsEmptyToo) {
+    ASSERT_TRUE(Reopen());
+    QStringList told;
+    browser.hooks.ShowProfile = [&](const QString &key, bool) { told += key; };
+    session.Database.reset();
+    ShowNoCollection(browser);
+    EXPECT_EQ(told, QStringList{QString()});
+    EXPECT_EQ(browser.caption, browser.base_caption);
+}
+
 } // namespace
 } // namespace ostrand

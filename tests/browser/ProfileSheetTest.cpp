@@ -252,6 +252,21 @@ TEST_F(ProfileSheetTest, WithoutADatabaseTheViewIsEmpty) {
     EXPECT_EQ(sheet.tags.Checked(), QStringList());
 }
 
+TEST_F(ProfileSheetTest, ADatabaseThatWentTakesItsTitleAlong) {
+    Run(u"INSERT INTO Locks (ProfileID, LockName) VALUES ('A1', 'Cast')");
+    ProfileSheet sheet(session);
+    sheet.EnableTab(SheetTab::Skins);
+    sheet.GetProfileInfo(u"A1"_s);
+    session.Database.reset();
+    for (int tab = 1; tab <= kSheetTabs; ++tab) { // nobody told the sheet
+        sheet.EnableTab(SheetTab(tab));
+    }
+    EXPECT_EQ(sheet.listLocks.Checked(), QStringList());
+    EXPECT_EQ(sheet.listInfos.rowCount(), 0);
+    sheet.Restart();
+    EXPECT_EQ(sheet.Title(), SheetTitle());
+}
+
 TEST_F(ProfileSheetTest, AdditionalInfos) {
     Run(u"INSERT INTO AdditionalInfo (ProfileID, InfoName, InfoValue) VALUES ('A1', 'Shop', 'Corner')");
     Run(u"INSERT INTO AdditionalInfo (ProfileID, InfoName, InfoValue) VALUES ('A1', 'IMDb', '0123')");

@@ -108,7 +108,7 @@ TEST_F(SkinViewTest, ATitleIsShownAsAPage) {
     EXPECT_EQ(browser.caption, u"Birch/Bouleau"_s);
     EXPECT_EQ(session.CurrentProfileID, u"B1"_s);
     EXPECT_FALSE(session.CurrentIsEpisode);
-    EXPECT_EQ(browser.cover_stem, QString()) << "the cover of another title is none of this one";
+    EXPECT_EQ(browser.cover_stem, session.CoverPath + u"B1"_s) << "its own window may be open";
     EXPECT_EQ(browser.listEpisodes.rowCount(), 0);
     EXPECT_FALSE(browser.commands.IsEnabled(u"mEditTVEpisode"_s));
 }
@@ -204,7 +204,7 @@ TEST_F(SkinViewTest, WithoutASelectedSkinTheUserIsAsked) {
     EXPECT_EQ(Page(), "[Birch]");
     EXPECT_TRUE(session.view.mSkinEnable);
     EXPECT_EQ(told.count(u"panels"_s), 0) << "the page came with the choice";
-    EXPECT_EQ(browser.cover_stem, QString());
+    EXPECT_EQ(browser.cover_stem, session.CoverPath + u"B1"_s);
     session.CurrentSkin.clear();
     services.dialogs.ExpectInput({}, std::nullopt, u"Select Skin"_s);
     Select(u"A1"_s);
@@ -248,7 +248,7 @@ TEST_F(SkinViewTest, AnOpenedDatabaseBringsItsSkin) {
     ASSERT_TRUE(OpenCollectionDatabase(session, Path(u"Shelf.mdb"_s)));
     EXPECT_TRUE(html.visible);
     EXPECT_EQ(Page(), "[Cedar]");
-    EXPECT_EQ(browser.cover_stem, QString());
+    EXPECT_EQ(browser.cover_stem, session.CoverPath + u"C1"_s);
 }
 
 TEST_F(SkinViewTest, SettingsShowThePageAnew) {

@@ -2,6 +2,7 @@
 #include "browser/ui/frmProfile.h"
 
 #include "MainWindowFixture.h"
+#include "browser/Attach.h"
 #include "browser/Views.h"
 #include "browser/ui/ReviewBar.h"
 #include "shell/ui/Twips.h"
@@ -15,6 +16,7 @@
 #include <QPushButton>
 #include <QTabBar>
 #include <QTreeView>
+#include <QWindow>
 
 namespace ostrand::test {
 namespace {
@@ -123,6 +125,10 @@ TEST_F(ProfileWindow, ShowsTheEpisodeInTvView) {
     EXPECT_TRUE(window->isVisible());
     EXPECT_EQ(window->windowTitle(), u"Profile Information: Dust"_s);
     EXPECT_TRUE(Find<QTreeView>("listDiscs")->isHidden()) << "an episode has none";
+    QCoreApplication::processEvents();
+    const auto *locks = Find<QListView>("listLocks");
+    EXPECT_LT(locks->parentWidget()->height() - locks->geometry().bottom(), locks->fontMetrics().height() * 3)
+        << "the room is not left empty";
     EXPECT_EQ(Find<QListView>("listLocks")->model()->rowCount(), 24);
     Trigger("mMovies");
     EXPECT_FALSE(Find<QTreeView>("listDiscs")->isHidden());
@@ -184,6 +190,20 @@ TEST_F(ProfileWindow, EscClosesItAndItsPlaceIsKept) {
     Trigger("mProfileInformation");
     EXPECT_EQ(window->size(), QSize(700, 500));
     EXPECT_EQ(window->windowTitle(), Caption());
+}
+
+TEST_F(ProfileWindow, StaysWhereItWasPut) {
+    Open();
+    const QPoint place(123, 87);
+    window->windowHandle()->setPosition(place); // as a desktop moves it
+    QCoreApplication::processEvents();
+    ASSERT_EQ(window->geometry().topLeft(), place);
+    for (int i = 0; i < 3; ++i) {
+        QTest::keyClick(window, Qt::Key_Escape);
+        Trigger("mProfileInformation");
+        QCoreApplication::processEvents();
+        EXPECT_EQ(window->geometry().topLeft(), place) << i;
+    }
 }
 
 TEST_F(ProfileWindow, OnlyTheTabThatIsShownLoadsAPage) {
@@ -307,6 +327,20 @@ TEST_F(ProfileWindow, AnEventIsAddedChangedAndDeleted) {
     EXPECT_FALSE(remove->isEnabled());
 }
 
+TEST_F(ProfileWindow, ATimeThatNobodySetGoesOn) {
+    Open({u"DELETE FROM Events"_s});
+    SelectTab(SheetTab::Events);
+    auto *users = Find<QListView>("listUsers");
+    Tick(users, users->model()->index(0, 0));
+    services.clock.now += 1.0 / 24;
+    QTest::mouseClick(Find<QPushButton>("cbAddEvent"), Qt::LeftButton);
+    services.clock.now += 1.0 / 24;
+    Find<QDateTimeEdit>("textEventTime")->setDateTime({{2024, 1, 2}, {3, 4, 5}});
+    QTest::mouseClick(Find<QPushButton>("cbAddEvent"), Qt::LeftButton);
+    EXPECT_EQ(Rows(u"SELECT EventTimeStamp FROM Events ORDER BY EventTimeStamp"_s),
+              (QStringList{u"2024-01-02 03:04:05"_s, u"2024-05-17 11:20:30"_s}));
+}
+
 TEST_F(ProfileWindow, WhatIsTypedStaysWhileTheTitleDoes) {
     Open();
     SelectTab(SheetTab::Events);
@@ -427,6 +461,18 @@ TEST_F(ProfileWindow, AnotherDatabaseWhileItIsOpen) {
     ASSERT_TRUE(OpenCollectionDatabase(session, other));
     EXPECT_EQ(window->windowTitle(), Caption());
     EXPECT_TRUE(Find<QTreeView>("listEvents") != nullptr);
+}
+
+TEST_F(ProfileWindow, WithoutADatabaseItsTabsAreEmpty) {
+    Open();
+    session.Database.reset();
+    ShowNoCollection(browser);
+    EXPECT_EQ(window->windowTitle(), u"Profile Information"_s);
+    for (int tab = kSheetTabs; tab >= 1; --tab) {
+        SelectTab(SheetTab(tab));
+    }
+    EXPECT_FALSE(Find<QListView>("listLocks")->isEnabled());
+    EXPECT_FALSE(Find<QTreeView>("listEvents")->isEnabled());
 }
 
 TEST_F(ProfileWindow, EveryControlHasANameAndAKey) {

@@ -1,6 +1,8 @@
 // Pages of skins in the main window, with an engine that only takes notes.
 #include "MainWindowFixture.h"
 #include "browser/SkinView.h"
+#include "browser/ui/PictureView.h"
+#include "browser/ui/frmCover.h"
 #include "platform_qt/LazyHtmlView.h"
 #include "shell/ui/SplitPanel.h"
 #include "shell/ui/frmListView.h"
@@ -98,6 +100,20 @@ TEST_F(SkinWindow, FollowsTheList) {
     ClickRow(3);
     EXPECT_EQ(session.CurrentProfileID, browser.listSeries.At(3).key);
     EXPECT_TRUE(main->windowTitle().startsWith(QString::fromUtf8(Page().mid(1, Page().size() - 2))));
+}
+
+TEST_F(SkinWindow, TheCoverWindowFollowsThePages) {
+    Open();
+    Trigger("mShowCover");
+    Trigger("mSkinEnable");
+    const auto *cover = main->findChild<frmCover *>()->findChild<PictureView *>(u"picCover"_s);
+    for (const int row : {3, 1}) {
+        ClickRow(row);
+        EXPECT_TRUE(cover->HasPicture());
+        EXPECT_TRUE(cover->File().endsWith(ProfileOfKey(browser.listSeries.At(row).key).remove(u"Key_"_s) + u"f.jpg"_s))
+            << qPrintable(cover->File());
+        EXPECT_EQ(main->findChild<frmCover *>()->windowTitle(), u"Cover: "_s + browser.caption);
+    }
 }
 
 TEST_F(SkinWindow, ComesWithItsDatabase) {

@@ -155,8 +155,10 @@ void ProfileEventsTab::ConnectFields() {
 }
 
 EventInput ProfileEventsTab::Input() const {
+    // The window may stand open for long: a time that nobody has set goes on.
+    const bool untouched = textEventTime_->dateTime() == present_;
     return {.type = comboEventType_->currentText(),
-            .stamp = textEventTime_->dateTime().toString(u"yyyy-MM-dd HH:mm:ss"_s),
+            .stamp = untouched ? sheet_.Now() : textEventTime_->dateTime().toString(u"yyyy-MM-dd HH:mm:ss"_s),
             .comment = textEventComment_->text()};
 }
 
@@ -167,12 +169,14 @@ QString ProfileEventsTab::SelectedEvent() const {
 
 void ProfileEventsTab::ShowEvent() {
     const TitleEvent *event = sheet_.events.Find(SelectedEvent());
-    const QString stamp = event && !event->stamp.isEmpty() ? event->stamp : sheet_.Now();
+    const bool has_time = event && !event->stamp.isEmpty();
+    const QString stamp = has_time ? event->stamp : sheet_.Now();
     QDateTime time = QDateTime::fromString(stamp, u"yyyy-MM-dd HH:mm:ss"_s);
     if (!time.isValid()) {
         time = QDate::fromString(stamp.left(10), Qt::ISODate).startOfDay();
     }
     textEventTime_->setDateTime(time);
+    present_ = has_time ? QDateTime() : time;
     textEventComment_->setText(event ? event->comment : QString());
     if (event) {
         comboEventType_->setCurrentText(Text(event->type));

@@ -5,6 +5,8 @@
 #include "browser/ProfileReview.h"
 #include "browser/ui/SheetPage.h"
 
+#include <QDateTime>
+
 class QComboBox;
 class QDateTimeEdit;
 class QGridLayout;
@@ -52,6 +54,7 @@ private:
     QListView *listUsers_;
     QComboBox *comboEventType_;
     QDateTimeEdit *textEventTime_;
+    QDateTime present_; ///< what the field shows of the present time; invalid where it shows that of an event
     QLineEdit *textEventComment_;
     QPushButton *cbAddEvent_ = nullptr;
     QPushButton *cbChangeEvent_ = nullptr;

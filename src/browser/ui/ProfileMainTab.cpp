@@ -17,6 +17,8 @@ using namespace Qt::StringLiterals;
 
 constexpr const char *kPriceTexts[] = {"textSRP", "textPurchasePlace", "textPurchaseDate", "textPurchasePrice"};
 constexpr int kLeastRows = 4;
+constexpr int kDiscsRow = 3;
+constexpr int kDiscsStretch = 2;
 
 } // namespace
 
@@ -29,7 +31,7 @@ ProfileMainTab::ProfileMainTab(Browser &browser, ProfileSheet &sheet, QWidget *p
     AddDiscs(*layout);
     AddPrices(*layout);
     layout->setRowStretch(1, 5);
-    layout->setRowStretch(3, 2);
+    layout->setRowStretch(kDiscsRow, kDiscsStretch);
     layout->setColumnStretch(0, 1);
     layout->setColumnStretch(1, 1);
     ShowTitle();
@@ -64,7 +66,7 @@ void ProfileMainTab::AddLocks(QGridLayout &layout) {
 void ProfileMainTab::AddDiscs(QGridLayout &layout) {
     discs_label_ = LabelFor(*listDiscs_, "listDiscs", Text(u"Discs"_s));
     layout.addWidget(discs_label_, 2, 0, 1, 2);
-    layout.addWidget(listDiscs_, 3, 0, 1, 2);
+    layout.addWidget(listDiscs_, kDiscsRow, 0, 1, 2);
     listDiscs_->setMinimumHeight(fontMetrics().lineSpacing() * 3 / 2 * kLeastRows);
 }
 
@@ -97,6 +99,8 @@ void ProfileMainTab::ShowTitle() {
     const bool has_second_side =
         std::any_of(discs.begin(), discs.end(), [](const ListTableRow &disc) { return !disc.texts[1].isEmpty(); });
     listDiscs_->Stretch(has_second_side ? QList<int>{0, 1} : QList<int>{0});
+    // An episode has none: its tags and locks take the room.
+    static_cast<QGridLayout *>(layout())->setRowStretch(kDiscsRow, of_profile ? kDiscsStretch : 0);
     discs_label_->setVisible(of_profile);
     listDiscs_->setVisible(of_profile);
     for (qsizetype i = 0; i < price_texts_.size() && i < sheet_.prices.size(); ++i) {

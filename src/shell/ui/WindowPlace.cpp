@@ -8,6 +8,7 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <QWidget>
+#include <QWindow>
 
 namespace ostrand {
 
@@ -40,6 +41,15 @@ QList<QRect> Screens() {
         screens += screen->availableGeometry();
     }
     return screens;
+}
+
+/// The window stands where it was put: showing it again, or a page in it for which the system's window is made anew,
+/// must not let the desktop find it a place.
+void Settle(QWidget &window) {
+    window.setAttribute(Qt::WA_Moved);
+    if (QWindow *handle = window.windowHandle()) {
+        handle->setPosition(handle->position());
+    }
 }
 
 } // namespace
@@ -114,6 +124,9 @@ bool WindowPlace::eventFilter(QObject *watched, QEvent *event) {
     // Closing hides the window, by whatever way it comes about; the system's own hiding is minimising.
     if (event->type() == QEvent::Hide && !event->spontaneous()) {
         WriteWindowPlace(session_, section_, *window_);
+    }
+    if (event->type() == QEvent::Move && window_->isVisible() && window_->windowState() == Qt::WindowNoState) {
+        Settle(*window_);
     }
     return QObject::eventFilter(watched, event);
 }
