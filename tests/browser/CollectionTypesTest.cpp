@@ -70,12 +70,16 @@ TEST_F(CollectionTypes, RenamingToAnotherTypeJoinsThem) {
 
 TEST_F(CollectionTypes, AFaultOfRenamingLeavesTheTab) {
     Select(u"Lent out"_s);
-    Run(u"DELETE FROM Profiles WHERE ColType NOT IN ('Lent out', 'Archive')");
-    Run(u"CREATE UNIQUE INDEX OneOfAKind ON Profiles (ColType)");
     const QStringList types = Types();
     const QStringList tabs = browser.tabColList;
     ExpectNewName(u"Archive"_s);
+    session.Database->SetObserver([](QStringView statement) {
+        if (statement.startsWith(u"UPDATE")) {
+            throw sql::SqlError(sql::ErrorCode::CannotOpenDatabase, u"The disk is full."_s);
+        }
+    });
     EXPECT_THROW(RenameCollectionType(browser), sql::SqlError);
+    session.Database->SetObserver({});
     EXPECT_EQ(Types(), types);
     EXPECT_EQ(browser.tabColList, tabs);
     EXPECT_EQ(SelectedColType(browser), u"Lent out"_s);

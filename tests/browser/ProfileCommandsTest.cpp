@@ -101,7 +101,7 @@ TEST_F(ProfileCommands, AListByTagsStaysSo) {
     AddProfiles({u"A"_s, u"B"_s, u"C"_s, u"D"_s});
     for (const char16_t *id : {u"A", u"B", u"C"}) {
         Run(u"INSERT INTO Tags (ProfileID, TagName, FullyQualifiedName) VALUES ('"_s + QString::fromUtf16(id) +
-            u"', 'Dark', 'Dark')");
+            u"', 'Dark', 'Dark')"_s);
     }
     QList<bool> told;
     QObject::connect(&browser, &Browser::TagsChanged, [&](bool other_collection) { told << other_collection; });
