@@ -293,7 +293,6 @@ TEST_F(FilterTagsWindow, TheTagsOfARemovedProfileGo) {
     ToggleCheck(u"Mood/Dark"_s);
     ASSERT_EQ(Selected(), first);
     services.dialogs.ExpectMessage({}, MessageAnswer::Yes);
-    services.dialogs.ExpectMessage({}, MessageAnswer::No); // its covers stay
     Trigger("mRemoveProfile");
     EXPECT_FALSE(Node(u"Shelf"_s).isValid());
     EXPECT_EQ(Checked(), QStringList{u"Mood/Dark"_s});

@@ -25,7 +25,7 @@ using namespace Qt::StringLiterals;
 
 constexpr int kDesignLetters = 46;
 constexpr int kDesignLines = 28;
-constexpr int kLookEvery = 1000; // milliseconds between looks at tags that no routine told of
+constexpr int kTagsLookEvery = 1000; // milliseconds between looks at tags that no routine told of
 
 void ForEachNode(const QAbstractItemModel &tree, const QModelIndex &above,
                  const std::function<void(const QModelIndex &)> &visit) {
@@ -96,7 +96,7 @@ void frmFilterTags::ConnectControls() {
     connect(&browser_, &Browser::TagsChanged, this, &frmFilterTags::LoadTags);
     auto *look = new QTimer(this);
     connect(look, &QTimer::timeout, this, [this] { LoadTags(false); });
-    look->start(kLookEvery);
+    look->start(kTagsLookEvery);
     connect(&browser_, &Browser::ModeChanged, this, &frmFilterTags::Refresh);
     // Told after each change of the language.
     connect(&browser_, &Browser::FilterChanged, this, &frmFilterTags::Refresh);
