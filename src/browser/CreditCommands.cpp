@@ -88,19 +88,6 @@ void Replace(Browser &browser, CreditKind kind, pugi::xml_node credits) {
     }
 }
 
-/// The credits of before stand again after a fault.
-void ReplaceOrNothing(Browser &browser, CreditKind kind, pugi::xml_node credits) {
-    sql::Database &database = *browser.session.Database;
-    database.Flush();
-    sql::Database::Bracket bracket(database);
-    try {
-        Replace(browser, kind, credits);
-    } catch (...) {
-        bracket.Abandon();
-        throw;
-    }
-}
-
 void AddLines(const QAbstractItemModel &tree, const QModelIndex &parent, qsizetype level, QString &text) {
     for (int row = 0; row < tree.rowCount(parent); ++row) {
         const QModelIndex node = tree.index(row, 0, parent);
@@ -188,7 +175,7 @@ void PasteCredits(Browser &browser, CreditKind kind) {
         TellInvalid(session, kind);
         return;
     }
-    ReplaceOrNothing(browser, kind, *credits);
+    WriteTogether(session, [&] { Replace(browser, kind, *credits); });
     RefillCredits(browser);
     TellImported(session, kind);
 }

@@ -19,8 +19,6 @@ namespace ostrand {
 
 namespace {
 
-constexpr QLatin1String kProfileID("ProfileID");
-
 /// Feature elements and the features that they stand for.
 constexpr auto kFeatures = std::to_array<std::pair<std::string_view, const char *>>({
     {"FeatureSceneAccess", "Scene Access"},
@@ -86,7 +84,7 @@ QString CurrentChannels(const QString &channels) {
     return channels == u"2-Channel Stereo"_s ? u"2.0 Stereo"_s : channels;
 }
 
-bool ReadFlag(pugi::xml_node node, const char *child) {
+bool ReadSectionFlag(pugi::xml_node node, const char *child) {
     return ReadBoolean(XmlChildText(node, child, u"False"_s));
 }
 
@@ -119,10 +117,10 @@ void ImportDiscs(const ImportProfile &profile) {
                    {QLatin1String("LabelSideA"), text("LabelSideA")},
                    {QLatin1String("DiscIDSideB"), text("DiscIDSideB")},
                    {QLatin1String("LabelSideB"), text("LabelSideB")},
-                   {QLatin1String("DualSided"), ReadFlag(disc, "DualSided")},
-                   {QLatin1String("DualLayered"), ReadFlag(disc, is_new ? "DualLayeredSideA" : "DualLayered")},
-                   {QLatin1String("DualLayeredSideB"), is_new && ReadFlag(disc, "DualLayeredSideB")},
-                   {QLatin1String("Flipper"), !is_new && ReadFlag(disc, "Flipper")},
+                   {QLatin1String("DualSided"), ReadSectionFlag(disc, "DualSided")},
+                   {QLatin1String("DualLayered"), ReadSectionFlag(disc, is_new ? "DualLayeredSideA" : "DualLayered")},
+                   {QLatin1String("DualLayeredSideB"), is_new && ReadSectionFlag(disc, "DualLayeredSideB")},
+                   {QLatin1String("Flipper"), !is_new && ReadSectionFlag(disc, "Flipper")},
                    {QLatin1String("Location"), text("Location")},
                    {QLatin1String("Slot"), text("Slot")}});
     }
@@ -153,10 +151,10 @@ void ImportVideoFormat(const ImportProfile &profile) {
     if (profile.medium == u"DVD"_s) {
         row.Set(u"VideoStandard", XmlChildText(format, "FormatVideoStandard"));
     }
-    row.Set(u"LetterBox", ReadFlag(format, "FormatLetterBox"));
-    row.Set(u"PanAndScan", ReadFlag(format, "FormatPanAndScan"));
-    row.Set(u"FullFrame", ReadFlag(format, "FormatFullFrame"));
-    row.Set(u"F16X9", ReadFlag(format, "Format16X9"));
+    row.Set(u"LetterBox", ReadSectionFlag(format, "FormatLetterBox"));
+    row.Set(u"PanAndScan", ReadSectionFlag(format, "FormatPanAndScan"));
+    row.Set(u"FullFrame", ReadSectionFlag(format, "FormatFullFrame"));
+    row.Set(u"F16X9", ReadSectionFlag(format, "Format16X9"));
     row.Update();
 }
 

@@ -5,6 +5,7 @@
 #include "collection_files/SectionReaders.h"
 #include "shell/Session.h"
 
+#include <algorithm>
 #include <array>
 
 using namespace Qt::StringLiterals;
@@ -29,6 +30,7 @@ struct Section {
     const char *lock; ///< null for a section that no lock keeps
     const char *word; ///< null for a section that is not told
     void (*import)(const ImportProfile &profile);
+    const char *set_by_hand = nullptr; ///< the name under which the user sets that lock, where it is another one
 };
 
 constexpr auto kSections = std::to_array<Section>({
@@ -42,7 +44,7 @@ constexpr auto kSections = std::to_array<Section>({
     {"Studios", "Studios", ImportStudios},
     {"Genres", "Genres", ImportGenres},
     {"Subtitles", "Subtitles", ImportSubtitles},
-    {"AudioFormats", "Audio Tracks", ImportAudioFormats},
+    {"AudioFormats", "Audio Tracks", ImportAudioFormats, "AudioTracks"},
     {"SRPInfo", "SRP Info", ImportSrpInfo},
     {"Reviews", "Review", ImportReviews},
     {nullptr, "Meta Info", ImportMetaInfo},
@@ -50,8 +52,15 @@ constexpr auto kSections = std::to_array<Section>({
     {"Events", "Events", ImportEvents},
     {"LoanInfo", "Loan Info", ImportLoanInfo},
     {"Tags", "Tags", ImportTags},
-    {"AdditionalInfos", nullptr, ImportAdditionalInfoElements},
+    {"AdditionalInfos", nullptr, ImportAdditionalInfoElements, "AdditionalInfo"},
 });
+
+bool IsLocked(const LockSet &locks, const Section &section) {
+    const std::array names = {section.lock, section.set_by_hand};
+    return std::any_of(names.begin(), names.end(), [&locks](const char *name) {
+        return name != nullptr && locks.IsLocked(QString::fromLatin1(name));
+    });
+}
 
 /// Without the long form of details the sections are told as two groups.
 const char *GroupBefore(std::size_t section) {
@@ -77,7 +86,7 @@ void ImportSections(const ImportProfile &profile) {
         if (const char *word = all_words ? section.word : GroupBefore(i)) {
             ShowImportDetail(profile.run, QString::fromLatin1(word));
         }
-        if (section.lock == nullptr || !profile.locks.IsLocked(QString::fromLatin1(section.lock))) {
+        if (!IsLocked(profile.locks, section)) {
             section.import(profile);
         }
     }

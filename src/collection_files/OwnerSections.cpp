@@ -15,8 +15,6 @@ namespace ostrand {
 
 namespace {
 
-constexpr QLatin1String kProfileID("ProfileID");
-
 // What the rows of prices hold of a currency's identifier; a longer one would not be found among the currencies.
 constexpr int kLongestCurrency = 5;
 

@@ -11,6 +11,9 @@ namespace ostrand {
 struct ImportProfile;
 struct Session;
 
+/// The column that joins every table to its profile.
+inline constexpr QLatin1String kProfileID("ProfileID");
+
 /// A value as it stands in a statement: texts and numbers in quotes, truth values bare.
 class RowValue {
 public:

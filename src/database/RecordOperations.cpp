@@ -135,7 +135,7 @@ void WriteTogether(Session &session, const std::function<void()> &changes) {
     sql::Database::Bracket bracket(*session.Database);
     try {
         changes();
-    } catch (const sql::SqlError &) {
+    } catch (...) {
         bracket.Abandon();
         throw;
     }

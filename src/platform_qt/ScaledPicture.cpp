@@ -1,5 +1,7 @@
 #include "platform_qt/ScaledPicture.h"
 
+#include "platform_qt/JpegMemory.h"
+
 #include <QImageReader>
 
 namespace ostrand {
@@ -51,6 +53,10 @@ QImage ScaledImage(const QString &path, QSize place, qreal pixel_ratio, PictureG
     if (device_place.isEmpty() || stored.isEmpty()) {
         return {};
     }
+    constexpr qint64 kMegabyte = 1024 * 1024;
+    if (reader.format() == "jpeg" && JpegMemory(path) > QImageReader::allocationLimit() * kMegabyte) {
+        return {};
+    }
     // The size to read is that of the stored picture, before it is turned.
     const bool turned = IsTurned(reader);
     const QSize target = SizeInPlace(turned ? stored.transposed() : stored, device_place, pixel_ratio, growth);
@@ -58,10 +64,6 @@ QImage ScaledImage(const QString &path, QSize place, qreal pixel_ratio, PictureG
     QImage image = reader.read();
     image.setDevicePixelRatio(pixel_ratio);
     return image;
-}
-
-QPixmap ScaledPicture(const QString &path, QSize place, qreal pixel_ratio, PictureGrowth growth) {
-    return QPixmap::fromImage(ScaledImage(path, place, pixel_ratio, growth));
 }
 
 } // namespace ostrand

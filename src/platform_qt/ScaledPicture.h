@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QImage>
-#include <QPixmap>
 #include <QSize>
 #include <QString>
 
@@ -14,11 +13,9 @@ enum class PictureGrowth { Fit, Never };
 /// The size of a picture as it is shown, read from its file's head; empty for a broken or missing file.
 QSize PictureSize(const QString &path);
 
-/// The image that ScaledPicture shows. May be called on any thread.
-QImage ScaledImage(const QString &path, QSize place, qreal pixel_ratio, PictureGrowth growth = PictureGrowth::Fit);
-
 /// Loads an image file scaled to fit `place` (in device-independent pixels) keeping its ratio, with `pixel_ratio`
-/// device pixels each, as ScaledImage does.
-QPixmap ScaledPicture(const QString &path, QSize place, qreal pixel_ratio, PictureGrowth growth = PictureGrowth::Fit);
+/// device pixels each. Null for a broken file, and for one whose decoding takes more memory than
+/// QImageReader::allocationLimit(). May be called on any thread.
+QImage ScaledImage(const QString &path, QSize place, qreal pixel_ratio, PictureGrowth growth = PictureGrowth::Fit);
 
 } // namespace ostrand

@@ -10,7 +10,7 @@ namespace ostrand {
 
 namespace {
 
-constexpr int kPoll = 20;                          // milliseconds
+constexpr int kReplyPoll = 20;                     // milliseconds
 constexpr int kSilence = 30'000;                   // milliseconds
 constexpr qint64 kLargestFile = qint64(512) << 20; // bytes
 
@@ -33,7 +33,7 @@ void WaitForEnd(QNetworkReply &reply, EventPump &pump) {
         if (!reply.isFinished()) {
             QEventLoop loop;
             QObject::connect(&reply, &QNetworkReply::finished, &loop, &QEventLoop::quit);
-            QTimer::singleShot(kPoll, &loop, &QEventLoop::quit);
+            QTimer::singleShot(kReplyPoll, &loop, &QEventLoop::quit);
             loop.exec(QEventLoop::ExcludeUserInputEvents);
         }
     }

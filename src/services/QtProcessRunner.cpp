@@ -11,8 +11,8 @@ namespace ostrand {
 
 namespace {
 
-constexpr int kPoll = 20;    // milliseconds
-constexpr int kGrace = 2000; // milliseconds for a program that was asked to end
+constexpr int kProcessPoll = 20; // milliseconds
+constexpr int kGrace = 2000;     // milliseconds for a program that was asked to end
 constexpr int kSignalled = 128;
 
 #ifdef Q_OS_UNIX
@@ -48,7 +48,7 @@ void WaitForEnd(QProcess &process, EventPump *pump) {
         if (pump != nullptr && pump->Stopping())
             End(process);
         if (process.state() != QProcess::NotRunning)
-            process.waitForFinished(pump != nullptr ? kPoll : -1);
+            process.waitForFinished(pump != nullptr ? kProcessPoll : -1);
     }
 }
 

@@ -129,4 +129,8 @@ void SaveDatabaseSettings(Session &session) {
     Trace(session, QStringLiteral("SaveDatabaseSettings()"), kTraceExit);
 }
 
+QString TruthText(bool value) {
+    return value ? QStringLiteral("True") : QStringLiteral("False");
+}
+
 } // namespace ostrand

@@ -21,4 +21,7 @@ QString LanguageOfSystem(const QString &system_language);
 /// A remembered tab: 1 where it is 0 or beyond the count.
 int ClampTab(int tab, int count);
 
+/// "True" or "False": how settings store a switch.
+QString TruthText(bool value);
+
 } // namespace ostrand

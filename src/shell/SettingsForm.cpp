@@ -79,10 +79,6 @@ const DbSetting &SettingOf(const SettingsEntry &entry) {
     return *setting;
 }
 
-QString TruthText(bool value) {
-    return value ? u"True"_s : u"False"_s;
-}
-
 QString WithDecimalMark(const Session &session, QString text) {
     return session.DecimalSeparator.isEmpty() ? text : text.replace(u'.', session.DecimalSeparator);
 }

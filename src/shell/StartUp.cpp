@@ -23,10 +23,6 @@ QString Below(const QString &folder, const char16_t *name) {
     return folder + QDir::separator() + QString::fromUtf16(name);
 }
 
-QString TruthText(bool value) {
-    return value ? QStringLiteral("True") : QStringLiteral("False");
-}
-
 bool ReadTruth(const Session &session, const char16_t *section, const char16_t *key, bool preset) {
     const QString text = ReadIniSetting(session, section, key).trimmed();
     const auto is = [&](const char *word) { return text.compare(QLatin1String(word), Qt::CaseInsensitive) == 0; };

@@ -15,7 +15,7 @@ QString Quoted(const sql::Recordset &row, QStringView column) {
     return ScriptString(row.Text(column));
 }
 
-QString CastEntry(const ScriptCredit &credit) {
+QString OsvCastEntry(const ScriptCredit &credit) {
     // The caption stands as the name and as the credited name.
     const QString name = ScriptString(credit.is_divider ? credit.credited_name : credit.common_name);
     const QString role = ScriptString(credit.is_divider ? QString() : credit.role);
@@ -24,7 +24,7 @@ QString CastEntry(const ScriptCredit &credit) {
                                           ScriptFlag(credit.has_image), QString::number(credit.birth_year)});
 }
 
-QString CrewEntry(const ScriptCredit &credit) {
+QString OsvCrewEntry(const ScriptCredit &credit) {
     const QString name = ScriptString(credit.is_divider ? credit.credited_name : credit.common_name);
     const QString known_type = CrewRoleMaps::CreditType(credit.role);
     const QString type = credit.is_divider ? QString() : known_type.isEmpty() ? u"Other"_s : known_type;
@@ -39,7 +39,7 @@ QString CrewEntry(const ScriptCredit &credit) {
 QStringList OsvCast(const TagCall &call) {
     QStringList entries;
     for (const ScriptCredit &credit : ReadScriptCredits(call, true)) {
-        entries.append(CastEntry(credit));
+        entries.append(OsvCastEntry(credit));
     }
     return entries;
 }
@@ -47,7 +47,7 @@ QStringList OsvCast(const TagCall &call) {
 QStringList OsvCrew(const TagCall &call) {
     QStringList entries;
     for (const ScriptCredit &credit : ReadScriptCredits(call, false)) {
-        entries.append(CrewEntry(credit));
+        entries.append(OsvCrewEntry(credit));
     }
     return entries;
 }

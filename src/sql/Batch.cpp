@@ -6,7 +6,7 @@ namespace ostrand::sql {
 
 namespace {
 
-constexpr int kMostStatements = 500;
+constexpr int kMostUnkeptStatements = 500;
 constexpr qint64 kMostMilliseconds = 300;
 
 void RunOnce(Statement &statement) {
@@ -25,7 +25,7 @@ bool Batch::IsLost() const {
 }
 
 bool Batch::IsOverdue() const {
-    return statements_ > kMostStatements || clock_() - started_ > kMostMilliseconds;
+    return statements_ > kMostUnkeptStatements || clock_() - started_ > kMostMilliseconds;
 }
 
 void Batch::RequireSound() {

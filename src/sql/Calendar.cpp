@@ -13,11 +13,6 @@ constexpr std::array<const char *, 12> kMonths = {"January",   "February", "Marc
 constexpr std::array<const char *, 7> kWeekdays = {"Sunday",   "Monday", "Tuesday", "Wednesday",
                                                    "Thursday", "Friday", "Saturday"};
 
-qint64 FloorDivide(qint64 number, qint64 divisor) {
-    const qint64 quotient = number / divisor;
-    return number % divisor < 0 ? quotient - 1 : quotient;
-}
-
 // Years counted from March, so that the leap day ends a year; day 0 is 0000-03-01.
 constexpr qint64 kDaysPerEra = 146097;
 constexpr qint64 kMarchOfYearZero = -693899;

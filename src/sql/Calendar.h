@@ -49,4 +49,10 @@ int WeekdayOf(qint64 day_number, int first_day);
 enum class FirstWeek { WithJanuaryFirst = 1, FourDays = 2, FullWeek = 3 };
 int WeekOfYear(qint64 day_number, int first_day, FirstWeek first_week);
 
+/// The quotient rounded down, for a positive divisor.
+constexpr qint64 FloorDivide(qint64 number, qint64 divisor) {
+    const qint64 quotient = number / divisor;
+    return number % divisor < 0 ? quotient - 1 : quotient;
+}
+
 } // namespace ostrand::sql

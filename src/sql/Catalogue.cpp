@@ -18,10 +18,6 @@ QString Fold(QStringView name) {
     return name.toString().toCaseFolded();
 }
 
-bool SameName(QStringView left, QStringView right) {
-    return left.compare(right, Qt::CaseInsensitive) == 0;
-}
-
 /// Kind and length behind a type that SQLite keeps; types that we never write are read by SQLite's own rules.
 void ReadType(const QString &type, ColumnInfo &column) {
     if (type.startsWith(u"VARTEXT(")) {

@@ -80,4 +80,9 @@ QString QuoteName(QStringView name);
 /// A text as SQLite's literal; SQLite's SQL cannot hold the character 0, which is left out.
 QString QuoteText(QStringView text);
 
+/// Names of tables, columns and indexes ignore case.
+inline bool SameName(QStringView left, QStringView right) {
+    return left.compare(right, Qt::CaseInsensitive) == 0;
+}
+
 } // namespace ostrand::sql

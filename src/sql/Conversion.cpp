@@ -15,10 +15,6 @@ namespace {
 constexpr int kMaxDigits = 15;
 constexpr int kMaxHexDigits = 8;
 
-bool IsDigit(QChar character) {
-    return character >= u'0' && character <= u'9';
-}
-
 /// &H and &O: the 32 bits of a signed number.
 std::optional<double> RadixToNumber(QStringView text) {
     const QChar mark = text[1].toLower();

@@ -11,6 +11,11 @@
 
 namespace ostrand::sql {
 
+/// 0 to 9, and no digit of another script.
+constexpr bool IsDigit(QChar character) {
+    return character >= u'0' && character <= u'9';
+}
+
 /// A number in a text, with blanks around it, a sign, the decimal mark of the locale, grouping marks, an exponent, or
 /// &H hexadecimal. Nothing else may stand beside it.
 std::optional<double> TextToNumber(QStringView text, QChar decimal_mark);

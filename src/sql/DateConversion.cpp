@@ -25,10 +25,6 @@ struct Token {
     bool IsWord(QLatin1String word) const { return kind == Kind::Word && text.compare(word, Qt::CaseInsensitive) == 0; }
 };
 
-bool IsDigit(QChar character) {
-    return character >= u'0' && character <= u'9';
-}
-
 /// Splits a text into numbers, words and marks; false where a part can belong to no date.
 bool Split(QStringView text, std::vector<Token> &tokens) {
     bool is_spaced = false;

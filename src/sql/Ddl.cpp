@@ -13,10 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-bool SameName(QStringView left, QStringView right) {
-    return left.compare(right, Qt::CaseInsensitive) == 0;
-}
-
 bool SameSet(const QStringList &left, const QStringList &right) {
     return left.size() == right.size() && std::all_of(left.begin(), left.end(), [&](const QString &name) {
                return right.contains(name, Qt::CaseInsensitive);

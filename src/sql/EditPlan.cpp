@@ -4,7 +4,7 @@ namespace ostrand::sql {
 
 namespace {
 
-constexpr size_t kMostStatements = 16; // sets of fields; a program writes few different ones
+constexpr size_t kMostKeptStatements = 16; // sets of fields; a program writes few different ones
 
 bool SameFields(const std::vector<bool> &fields, const std::vector<std::optional<Value>> &values) {
     for (size_t i = 0; i < values.size(); ++i) {
@@ -64,7 +64,7 @@ std::shared_ptr<Statement> EditPlan::StatementFor(const Connection &connection, 
         made.fields.push_back(value.has_value());
     }
     made.statement = std::make_shared<Statement>(connection.Prepare(Sql(is_new, made.fields)));
-    if (kept_.size() == kMostStatements) {
+    if (kept_.size() == kMostKeptStatements) {
         kept_.erase(kept_.begin());
     }
     kept_.push_back(std::move(made));

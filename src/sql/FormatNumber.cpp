@@ -15,7 +15,7 @@ namespace {
 // More places than any number has digits.
 constexpr int kMostPlaces = 400;
 
-struct Piece {
+struct NumberPiece {
     enum class Kind { Literal, Digit, Point, Exponent };
     Kind kind;
     QString text;         ///< of a literal
@@ -25,7 +25,7 @@ struct Piece {
 };
 
 struct Section {
-    std::vector<Piece> pieces;
+    std::vector<NumberPiece> pieces;
     int integer_places = 0;
     int fraction_places = 0;
     int first_zero = -1; ///< the place of the first 0 in front of the decimal mark
@@ -55,7 +55,7 @@ private:
         } else if (unit == u'.' && !section_.has_point) {
             EndCommas();
             section_.has_point = true;
-            section_.pieces.push_back({Piece::Kind::Point, {}});
+            section_.pieces.push_back({NumberPiece::Kind::Point, {}});
         } else if (unit == u',') {
             ++commas_;
         } else if (unit == u'%') {
@@ -89,7 +89,7 @@ private:
             }
             commas_ = 0;
             ++places;
-            section_.pieces.push_back({Piece::Kind::Digit, {}, is_zero});
+            section_.pieces.push_back({NumberPiece::Kind::Digit, {}, is_zero});
         }
     }
 
@@ -109,7 +109,7 @@ private:
 
     void ReadExponent() {
         EndCommas();
-        Piece piece{Piece::Kind::Exponent, text_.sliced(next_, 1).toString()};
+        NumberPiece piece{NumberPiece::Kind::Exponent, text_.sliced(next_, 1).toString()};
         piece.has_plus = text_[next_ + 1] == u'+';
         next_ += 2;
         for (; next_ < text_.size() && (text_[next_] == u'0' || text_[next_] == u'#'); ++next_) {
@@ -119,7 +119,7 @@ private:
         section_.pieces.push_back(piece);
     }
 
-    void AddLiteral(QStringView text) { section_.pieces.push_back({Piece::Kind::Literal, text.toString()}); }
+    void AddLiteral(QStringView text) { section_.pieces.push_back({NumberPiece::Kind::Literal, text.toString()}); }
 
     QStringView text_;
     qsizetype next_ = 0;
@@ -138,25 +138,25 @@ public:
         fraction_ = number_.FractionDigits(section_.fraction_places);
         bool is_fraction = false;
         int place = 0;
-        for (const Piece &piece : section_.pieces) {
+        for (const NumberPiece &piece : section_.pieces) {
             switch (piece.kind) {
-            case Piece::Kind::Literal:
+            case NumberPiece::Kind::Literal:
                 result_.append(piece.text);
                 break;
-            case Piece::Kind::Point:
+            case NumberPiece::Kind::Point:
                 WriteLeadingDigits();
                 result_.append(decimal_mark_);
                 is_fraction = true;
                 place = 0;
                 break;
-            case Piece::Kind::Digit:
+            case NumberPiece::Kind::Digit:
                 if (is_fraction) {
                     WriteFractionDigit(place++, piece.is_zero);
                 } else {
                     WriteIntegerDigit(place++);
                 }
                 break;
-            case Piece::Kind::Exponent:
+            case NumberPiece::Kind::Exponent:
                 WriteExponent(piece);
                 break;
             }
@@ -223,7 +223,7 @@ private:
         }
     }
 
-    void WriteExponent(const Piece &piece) {
+    void WriteExponent(const NumberPiece &piece) {
         result_.append(piece.text);
         if (exponent_ < 0) {
             result_.append(u'-');

@@ -8,14 +8,14 @@
 namespace ostrand::sql {
 namespace {
 
-struct Piece {
+struct TextPiece {
     bool is_place = false; ///< @ or &, else a literal
     bool is_blank_filled = false;
     QString literal;
 };
 
 struct TextPattern {
-    std::vector<Piece> pieces;
+    std::vector<TextPiece> pieces;
     qsizetype places = 0;
     bool is_small = false;
     bool is_capital = false;
@@ -59,7 +59,7 @@ QString Fill(const TextPattern &pattern, const QString &text) {
     QString result;
     qsizetype next = 0;
     qsizetype place = 0;
-    for (const Piece &piece : pattern.pieces) {
+    for (const TextPiece &piece : pattern.pieces) {
         if (!piece.is_place) {
             result.append(piece.literal);
             continue;

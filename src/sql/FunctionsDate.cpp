@@ -109,11 +109,6 @@ void DateAdd(Call &call) {
     }
 }
 
-qint64 FloorDivide(qint64 number, qint64 divisor) {
-    const qint64 quotient = number / divisor;
-    return number % divisor < 0 ? quotient - 1 : quotient;
-}
-
 /// The number of the week in which a day lies, counted from some fixed week.
 qint64 WeekNumber(qint64 day, int first_day) {
     return FloorDivide(day - (WeekdayOf(day, first_day) - 1), 7);
@@ -285,7 +280,7 @@ void Timer(Call &call) {
     call.Return((now - std::floor(now)) * double(kSecondsPerDay));
 }
 
-constexpr Function kFunctions[] = {
+constexpr Function kDateFunctions[] = {
     {{"now", 0, 0, ResultRule::Date, false, false}, Now},
     {{"date", 0, 0, ResultRule::Date, false, false}, Today},
     {{"time", 0, 0, ResultRule::Date, false, false}, TimeOfDay},
@@ -314,7 +309,7 @@ constexpr Function kFunctions[] = {
 } // namespace
 
 std::span<const Function> DateFunctions() {
-    return kFunctions;
+    return kDateFunctions;
 }
 
 } // namespace ostrand::sql

@@ -104,7 +104,7 @@ void Add(Call &call) {
     call.Return(Finite(call.Number(0) + call.Number(1)));
 }
 
-constexpr Function kFunctions[] = {
+constexpr Function kEmittedFunctions[] = {
     {{"_like", 2, 2, ResultRule::Boolean}, Like},
     {{"_text", 2, 2, ResultRule::Text}, AsText},
     {{"_cut", 2, 2, ResultRule::Text}, Cut},
@@ -122,7 +122,7 @@ constexpr Function kFunctions[] = {
 } // namespace
 
 std::span<const Function> EmitterFunctions() {
-    return kFunctions;
+    return kEmittedFunctions;
 }
 
 } // namespace ostrand::sql

@@ -122,7 +122,7 @@ void FormatPercent(Call &call) {
     call.Return(FormatStyled(call.Number(0) * 100, style, call.DecimalMark()));
 }
 
-constexpr Function kFunctions[] = {
+constexpr Function kFormatFunctions[] = {
     {{"format", 1, 4, ResultRule::Text}, Format, OnNull::IsPassedOn},
     {{"formatdatetime", 1, 2, ResultRule::Text}, FormatDateTime},
     {{"formatnumber", 1, 5, ResultRule::Text}, FormatNumberOf},
@@ -133,7 +133,7 @@ constexpr Function kFunctions[] = {
 } // namespace
 
 std::span<const Function> FormatFunctions() {
-    return kFunctions;
+    return kFormatFunctions;
 }
 
 } // namespace ostrand::sql

@@ -159,7 +159,7 @@ void IsNumeric(Call &call) {
     call.ReturnTruth(is_readable || (!call.IsText(0) && !call.IsNull(0)));
 }
 
-constexpr Function kFunctions[] = {
+constexpr Function kNumberFunctions[] = {
     {{"abs", 1, 1, ResultRule::FirstArgument}, Abs},
     {{"int", 1, 1, ResultRule::FirstArgument}, Int},
     {{"fix", 1, 1, ResultRule::FirstArgument}, Fix},
@@ -187,7 +187,7 @@ constexpr Function kFunctions[] = {
 } // namespace
 
 std::span<const Function> NumberFunctions() {
-    return kFunctions;
+    return kNumberFunctions;
 }
 
 } // namespace ostrand::sql

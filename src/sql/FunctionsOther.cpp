@@ -57,7 +57,7 @@ void TypeName(Call &call) {
                                     : u"Double"_s);
 }
 
-constexpr Function kFunctions[] = {
+constexpr Function kOtherFunctions[] = {
     {{"isnull", 1, 1, ResultRule::Special}, nullptr},
     {{"nz", 1, 2, ResultRule::Special}, nullptr},
     {{"iif", 3, 3, ResultRule::Special}, nullptr},
@@ -75,7 +75,7 @@ constexpr Function kFunctions[] = {
 } // namespace
 
 std::span<const Function> OtherFunctions() {
-    return kFunctions;
+    return kOtherFunctions;
 }
 
 } // namespace ostrand::sql

@@ -378,7 +378,7 @@ void Val(Call &call) {
     call.Return(has_radix ? ValueOfRadix(text) : ValueOfDecimal(text));
 }
 
-constexpr Function kFunctions[] = {
+constexpr Function kTextFunctions[] = {
     {{"left", 2, 2, ResultRule::Text}, Left},       {{"right", 2, 2, ResultRule::Text}, Right},
     {{"mid", 2, 3, ResultRule::Text}, Mid},         {{"len", 1, 1, ResultRule::Integer}, Len},
     {{"instr", 2, 4, ResultRule::Integer}, InStr},  {{"instrrev", 2, 4, ResultRule::Integer}, InStrRev},
@@ -397,7 +397,7 @@ constexpr Function kFunctions[] = {
 } // namespace
 
 std::span<const Function> TextFunctions() {
-    return kFunctions;
+    return kTextFunctions;
 }
 
 } // namespace ostrand::sql

@@ -319,6 +319,7 @@ TEST_F(Sections, EachLockKeepsItsSection) {
         {"Genres", "SELECT Genre FROM Genres"},
         {"Subtitles", "SELECT Subtitle FROM Subtitles"},
         {"AudioFormats", "SELECT Language FROM AudioFormats"},
+        {"AudioTracks", "SELECT Language FROM AudioFormats"},
         {"SRPInfo", "SELECT SRPValue FROM SRPInfo"},
         {"Reviews", "SELECT Film FROM Reviews"},
         {"PurchaseInfo", "SELECT PurchasePlace FROM PurchaseInfo"},
@@ -326,6 +327,7 @@ TEST_F(Sections, EachLockKeepsItsSection) {
         {"LoanInfo", "SELECT UserID FROM LoanInfo"},
         {"Tags", "SELECT TagName FROM Tags"},
         {"AdditionalInfos", "SELECT InfoValue FROM AdditionalInfo"},
+        {"AdditionalInfo", "SELECT InfoValue FROM AdditionalInfo"},
     };
     for (const Case &locked : cases) {
         SCOPED_TRACE(locked.lock);

@@ -207,6 +207,18 @@ TEST_F(RecordOperations, AFaultLeavesTheEpisodeWhole) {
     EXPECT_EQ(Rows(u"SELECT EpisodeID FROM Profile2Episodes"), QStringList{u"O1"_s});
 }
 
+TEST_F(RecordOperations, AnyFaultTakesBackWhatBelongsTogether) {
+    AddTitle(u"O1"_s, false);
+    const auto fail = [&] {
+        Run(u"DELETE FROM Genres WHERE ProfileID = 'O1'");
+        throw std::runtime_error("out of order");
+    };
+    EXPECT_THROW(WriteTogether(session, fail), std::runtime_error);
+    EXPECT_EQ(RowsOf(u"O1"_s).size(), 20);
+    WriteTogether(session, [&] { Run(u"DELETE FROM Genres WHERE ProfileID = 'O1'"); });
+    EXPECT_EQ(RowsOf(u"O1"_s).size(), 19);
+}
+
 TEST_F(RecordOperations, AnEditShowsInTheProfile) {
     Run(u"INSERT INTO Profiles (ProfileID, Title, MD5) VALUES ('O''1', 'Amber', 'abc')");
     Run(u"INSERT INTO Profiles (ProfileID, Title, MD5) VALUES ('O2', 'Birch', 'def')");

@@ -11,7 +11,9 @@
 #include <QLabel>
 #include <QMenu>
 #include <QStackedLayout>
+#include <QTabBar>
 #include <QTimer>
+#include <QToolButton>
 
 namespace ostrand {
 namespace {
@@ -156,11 +158,13 @@ TEST_F(CreditsWindow, HeadersSortAndMove) {
     StartWith({u"DELETE FROM DbInfo WHERE InfoName = 'CastOrderColumns'"_s,
                u"INSERT INTO DbInfo (InfoName, InfoValue) VALUES ('CastOrderColumns', '3,1,2')"_s});
     QHeaderView *header = View("ListCast")->header();
+    EXPECT_FALSE(header->isSortIndicatorShown()) << "the order they come in";
     EXPECT_EQ(header->visualIndex(0), 2) << "the stored places";
     EXPECT_EQ(header->visualIndex(2), 1);
     header->moveSection(2, 0);
     EXPECT_EQ(session.view.CastOrderColumns, (QList<int>{1, 2, 3}));
     ClickHeader("ListCast", 0);
+    EXPECT_TRUE(header->isSortIndicatorShown());
     EXPECT_EQ(header->sortIndicatorSection(), 0);
     EXPECT_EQ(Column("ListCast").first(), u"Wanda Quill"_s);
     ClickHeader("ListCast", 0);
@@ -172,6 +176,31 @@ TEST_F(CreditsWindow, HeadersSortAndMove) {
     EXPECT_EQ(Column("listAppearences"), (QStringList{u"Aab Other"_s, u"Aaa Test"_s}));
     View("listAppearences")->header()->moveSection(3, 0);
     EXPECT_EQ(session.view.AppearancesOrderColumns, (QList<int>{2, 3, 4, 1}));
+}
+
+TEST_F(CreditsWindow, AllTabsAreInSight) {
+    StartWith();
+    auto *tabs = Control<QTabBar>("tabMain");
+    main->resize(1280, 800);
+    const struct {
+        QStringList texts;
+        bool whole;
+    } cases[] = {{{u"Besetzung/Stab"_s, u"Details"_s, u"Ton/Bild"_s}, true},
+                 {{u"Distribution et \u00e9quipe technique"_s, u"D\u00e9tails"_s, u"Audio/Vid\u00e9o"_s}, false}};
+    for (const auto &c : cases) {
+        for (int i = 0; i < tabs->count(); ++i) {
+            tabs->setTabText(i, c.texts[i]);
+        }
+        QCoreApplication::processEvents();
+        const QRect last = tabs->tabRect(2);
+        EXPECT_EQ(tabs->tabRect(0).left(), 0);
+        EXPECT_LE(last.right(), tabs->width()) << qPrintable(c.texts[0]);
+        EXPECT_EQ(last.right() + 1 >= tabs->sizeHint().width(), c.whole) << qPrintable(c.texts[0]);
+        for (const QToolButton *scroll : tabs->findChildren<QToolButton *>()) {
+            EXPECT_FALSE(scroll->isVisible());
+        }
+    }
+    EXPECT_EQ(tabs->tabToolTip(1), u"Details"_s);
 }
 
 TEST_F(CreditsWindow, AppearancesLeadToTheirTitles) {
@@ -386,6 +415,68 @@ TEST_F(CreditsWindow, ABrokenHeadshotLeavesThePlaceEmpty) {
     EXPECT_EQ(services.dialogs.messages.size(), 0u);
 }
 
+TEST_F(CreditsWindow, ThePortraitComesBesideTheWorkOfTheWindow) {
+    const auto draw = [this](const QString &name, const QColor &colour) {
+        QImage image(600, 900, QImage::Format_RGB32);
+        image.fill(colour);
+        ASSERT_TRUE(image.save(headshots + name));
+    };
+    draw(u"Wanda Quill.jpg"_s, Qt::black);
+    draw(u"Wanda Quill_1.jpg"_s, Qt::white);
+    StartWith();
+    Click("ListCast", 0);
+    QCoreApplication::processEvents();
+    auto *picture = Control<ActorView>("picActor");
+    const auto shown = [&] {
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !picture->IsLoading(); }));
+        QCoreApplication::processEvents();
+        const QImage image = picture->Picture().toImage();
+        return image.isNull() ? QColor() : image.pixelColor(image.rect().center());
+    };
+    EXPECT_EQ(picture->HeightAt(200), 300) << "known from the head of the file";
+    EXPECT_EQ(shown(), QColor(Qt::black));
+    browser.credits.picActor.AlternateHeadshot();
+    EXPECT_EQ(picture->Picture().toImage().pixelColor(5, 5), QColor(Qt::black)) << "the window does not wait";
+    EXPECT_EQ(shown(), QColor(Qt::white));
+    for (int i = 0; i < 9; ++i) {
+        QTest::mouseClick(picture, Qt::LeftButton);
+    }
+    EXPECT_EQ(shown(), QColor(Qt::black)) << "the last one asked for";
+    QTest::mouseClick(picture, Qt::LeftButton);
+    browser.credits.picActor.SetHeadshotAsPrimary();
+    EXPECT_EQ(shown(), QColor(Qt::white)) << "the files changed places";
+    Click("ListCast", 3);
+    EXPECT_TRUE(picture->File().isEmpty());
+    EXPECT_EQ(shown(), QColor());
+}
+
+TEST_F(CreditsWindow, AHeadshotThatBreaksOffLeavesThePlaceEmpty) {
+    QFile file(headshots + u"Wanda Quill.jpg"_s);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("P6\n400 600\n255\n");
+    file.close();
+    Draw(u"Wanda Quill_1.jpg"_s);
+    StartWith();
+    Click("ListCast", 0);
+    auto *picture = Control<ActorView>("picActor");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !picture->IsLoading() && !picture->HasPicture(); }));
+    EXPECT_LT(picture->HeightAt(300), 200);
+    EXPECT_TRUE(picture->isVisible());
+    QTest::keyClick(picture, Qt::Key_Enter);
+    EXPECT_TRUE(picture->File().endsWith(u"Wanda Quill_1.jpg"_s)) << "the other one can be reached";
+    EXPECT_TRUE(picture->HasPicture());
+}
+
+TEST_F(CreditsWindow, APortraitAsThinAsALineFitsIn) {
+    ASSERT_TRUE(QImage(1, 60000, QImage::Format_RGB32).save(headshots + u"Wanda Quill.jpg"_s));
+    StartWith();
+    Click("ListCast", 0);
+    QCoreApplication::processEvents();
+    auto *picture = Control<ActorView>("picActor");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !picture->Picture().isNull(); }));
+    EXPECT_LE(picture->height(), main->height());
+}
+
 TEST_F(CreditsWindow, AnAwardLeadsToItsFilm) {
     StartWith();
     Click("ListCast", 0);
@@ -408,7 +499,10 @@ TEST_F(CreditsWindow, ColumnsKeepTheirParts) {
     StartWith();
     QTreeView *cast = View("ListCast");
     const auto share = [cast](int column) { return double(cast->columnWidth(column)) / cast->viewport()->width(); };
+    main->resize(1280, 800);
+    QCoreApplication::processEvents();
     EXPECT_NEAR(share(0), 0.46, 0.02);
+    EXPECT_GE(cast->columnWidth(2), cast->header()->fontMetrics().horizontalAdvance(u"Position"_s)) << "a whole header";
     cast->header()->resizeSection(0, cast->viewport()->width() / 4);
     main->resize(main->width() + 300, main->height());
     QCoreApplication::processEvents();

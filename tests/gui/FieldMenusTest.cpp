@@ -217,6 +217,53 @@ TEST_F(FieldMenus, TheKeyboardReachesEachField) {
                            u"textRating"_s, u"textCaseType"_s, u"textRegions"_s, u"textLocality"_s}));
 }
 
+TEST_F(FieldMenus, TheKeyboardReachesTheMedium) {
+    Open(2);
+    main->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(main.get()));
+    auto *medium = Control<QWidget>("picMedium");
+    List()->setFocus();
+    QTest::keyClick(List(), Qt::Key_Tab);
+    ASSERT_EQ(QApplication::focusWidget(), medium);
+    QTest::keyClick(medium, Qt::Key_F10, Qt::ShiftModifier);
+    auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+    ASSERT_TRUE(menu);
+    EXPECT_EQ(menu->objectName(), u"mLockTools"_s);
+    Entry(*menu, u"mLockField"_s)->trigger();
+    menu->close();
+    EXPECT_EQ(Locks(), QStringList{u"Key_77:Medium"_s});
+    AnswerInput(u"Medium"_s, u"Blu-ray"_s);
+    QTest::keyClick(medium, Qt::Key_F2);
+    EXPECT_EQ(Value(u"Medium"_s), u"Blu-ray"_s);
+    AnswerInput(u"Medium"_s, u"VHS"_s);
+    QTest::mouseDClick(medium, Qt::LeftButton);
+    EXPECT_EQ(Value(u"Medium"_s), u"VHS"_s);
+    const QImage focused = medium->grab().toImage();
+    List()->setFocus();
+    EXPECT_NE(focused, medium->grab().toImage()) << "the focus shows";
+    Trigger("mTVShows");
+    EXPECT_EQ(medium->focusPolicy(), Qt::NoFocus);
+}
+
+TEST_F(FieldMenus, ShiftF10OpensTheMenuOfTheControlWithTheFocus) {
+    Open(2);
+    main->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(main.get()));
+    const struct {
+        const char *control;
+        QString menu;
+    } cases[] = {{"textRating", u"mLockTools"_s}, {"listSeries", u"mProfileTools"_s}};
+    for (const auto &c : cases) {
+        auto *control = Control<QWidget>(c.control);
+        control->setFocus();
+        QTest::keyClick(control, Qt::Key_F10, Qt::ShiftModifier);
+        auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+        ASSERT_TRUE(menu) << c.control;
+        EXPECT_EQ(menu->objectName(), c.menu);
+        menu->close();
+    }
+}
+
 TEST_F(FieldMenus, TheMenusOfTheListsLockTheWholeTitle) {
     Open(1);
     WithMenu(List()->viewport(), [](QMenu &menu) {

@@ -359,7 +359,7 @@ TEST_F(MainMenu, TheTabKeyWalksFromLeftToRight) {
         } while (at != List());
         const qsizetype first_bar = stops.indexOf(u"SplitBar"_s);
         const QStringList lists = movies
-                                      ? QStringList{u"listSeries"_s, u"picCover"_s, u"tabMain"_s}
+                                      ? QStringList{u"listSeries"_s, u"picMedium"_s, u"picCover"_s, u"tabMain"_s}
                                       : QStringList{u"listSeries"_s, u"listSeasons"_s, u"listEpisodes"_s, u"tabMain"_s};
         EXPECT_EQ(stops.first(lists.size()).join(u' ').toStdString(), lists.join(u' ').toStdString())
             << qPrintable(stops.join(u' '));

@@ -85,6 +85,41 @@ TEST_F(PictureViewTest, AChangedFileIsReadAgain) {
     EXPECT_EQ(Colour(), QColor(Qt::green));
 }
 
+TEST_F(PictureViewTest, FilesThatChangePlacesAreReadAgain) {
+    const QString red = Picture(u"a.bmp"_s, {400, 200}, Qt::red);
+    const QString blue = Picture(u"b.bmp"_s, {400, 200}, Qt::blue);
+    for (const QString &path : {red, blue}) {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+        ASSERT_TRUE(file.setFileTime(QDateTime::fromSecsSinceEpoch(1'000'000'000), QFileDevice::FileModificationTime));
+    }
+    view.ShowFile(red);
+    Wait();
+    ASSERT_EQ(Colour(), QColor(Qt::red));
+    ASSERT_TRUE(QFile::rename(red, dir / u"c.bmp"_s));
+    ASSERT_TRUE(QFile::rename(blue, red));
+    view.ShowFile(red);
+    Wait();
+    EXPECT_EQ(Colour(), QColor(Qt::blue));
+}
+
+TEST_F(PictureViewTest, ASmallPictureGrowsOnlyWhereItMay) {
+    view.ShowFile(Picture(u"a.png"_s, {40, 20}, Qt::red));
+    const auto red = [this](QPoint place) { return view.grab().toImage().pixelColor(place) == QColor(Qt::red); };
+    for (const PictureGrowth growth : {PictureGrowth::Fit, PictureGrowth::Never, PictureGrowth::Fit}) {
+        const bool grows = growth == PictureGrowth::Fit;
+        view.SetGrowth(growth);
+        Wait();
+        EXPECT_EQ(view.Picture().deviceIndependentSize(), grows ? QSizeF(100, 50) : QSizeF(40, 20));
+        EXPECT_TRUE(red({50, 10}));
+        EXPECT_EQ(red({10, 40}), grows);
+    }
+    view.SetGrowth(PictureGrowth::Never);
+    view.ShowFile(Picture(u"b.png"_s, {400, 200}, Qt::red));
+    Wait();
+    EXPECT_EQ(view.Picture().deviceIndependentSize(), QSizeF(100, 50)) << "a large one shrinks all the same";
+}
+
 TEST_F(PictureViewTest, WhatIsNoPictureShowsNothing) {
     const QString whole = Picture(u"a.png"_s, {400, 200}, Qt::red);
     const struct {

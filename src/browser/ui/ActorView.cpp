@@ -4,9 +4,6 @@
 #include "browser/ui/Guarded.h"
 
 #include <QContextMenuEvent>
-#include <QPainter>
-#include <QStyle>
-#include <QStyleOptionFocusRect>
 
 namespace ostrand {
 
@@ -16,11 +13,12 @@ constexpr int kEmptyLines = 4;
 
 } // namespace
 
-ActorView::ActorView(Browser &browser, QWidget *parent) : QWidget(parent), browser_(browser) {
+ActorView::ActorView(Browser &browser, QWidget *parent) : PictureView(parent), browser_(browser) {
     setObjectName(QStringLiteral("picActor"));
-    setFocusPolicy(Qt::StrongFocus);
     connect(&browser_.credits.picActor, &HeadshotViewer::PictureChanged, this, &ActorView::ShowPicture);
-    connect(&browser_, &Browser::SettingsChanged, this, &ActorView::Load);
+    connect(&browser_, &Browser::SettingsChanged, this, &ActorView::ApplySettings);
+    connect(this, &PictureView::Clicked, this, &ActorView::ShowNext);
+    connect(this, &PictureView::PictureFailed, this, &ActorView::PictureShown);
     TranslateNames();
     ShowPicture();
 }
@@ -31,26 +29,21 @@ void ActorView::TranslateNames() {
 }
 
 void ActorView::ShowPicture() {
-    path_ = browser_.credits.picActor.Picture();
+    ApplySettings();
+    ShowFile(browser_.credits.picActor.Picture());
+    setFocusPolicy(Qt::StrongFocus); // an alternate may be there without a primary picture
     setVisible(browser_.credits.picActor.HasPictures());
     setAccessibleDescription(browser_.credits.selected_name);
-    Load();
     Q_EMIT PictureShown();
 }
 
-PictureGrowth ActorView::Growth() const {
-    return browser_.session.view.DoNotResizeHeadshots ? PictureGrowth::Never : PictureGrowth::Fit;
-}
-
-void ActorView::Load() {
-    picture_ = path_.isEmpty() ? QPixmap() : ScaledPicture(path_, size(), devicePixelRatioF(), Growth());
-    update();
+void ActorView::ApplySettings() {
+    SetGrowth(browser_.session.view.DoNotResizeHeadshots ? PictureGrowth::Never : PictureGrowth::Fit);
 }
 
 int ActorView::HeightAt(int width) const {
-    const QSize natural = PictureSize(path_);
-    const bool broken = picture_.isNull() && !size().isEmpty();
-    if (natural.isEmpty() || broken) {
+    const QSize natural = NaturalSize();
+    if (natural.isEmpty()) {
         return fontMetrics().height() * kEmptyLines; // to be clicked for an alternate
     }
     const int shown_width = Growth() == PictureGrowth::Never ? std::min(width, natural.width()) : width;
@@ -59,38 +52,6 @@ int ActorView::HeightAt(int width) const {
 
 void ActorView::ShowNext() {
     Guarded(browser_.session, [this] { browser_.credits.picActor.AlternateHeadshot(); });
-}
-
-void ActorView::paintEvent(QPaintEvent *) {
-    QPainter painter(this);
-    if (!picture_.isNull()) {
-        const QSizeF extent = picture_.deviceIndependentSize();
-        painter.drawPixmap(QPointF((width() - extent.width()) / 2, 0), picture_);
-    }
-    if (hasFocus()) {
-        QStyleOptionFocusRect option;
-        option.initFrom(this);
-        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
-    }
-}
-
-void ActorView::resizeEvent(QResizeEvent *event) {
-    QWidget::resizeEvent(event);
-    Load();
-}
-
-void ActorView::mouseReleaseEvent(QMouseEvent *event) {
-    if (event->button() == Qt::LeftButton && rect().contains(event->pos())) {
-        ShowNext();
-    }
-}
-
-void ActorView::keyPressEvent(QKeyEvent *event) {
-    if (event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-        ShowNext();
-    } else {
-        QWidget::keyPressEvent(event);
-    }
 }
 
 void ActorView::contextMenuEvent(QContextMenuEvent *event) {

@@ -50,9 +50,9 @@ CoverPanel::CoverPanel(Browser &browser, QWidget *parent) :
     picCover_->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(picCover_, &QWidget::customContextMenuRequested, this,
             [this](const QPoint &place) { Q_EMIT CoverMenuWanted(picCover_->mapToGlobal(place)); });
-    picMedium_->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(picMedium_, &QWidget::customContextMenuRequested, this,
             [this](const QPoint &place) { Q_EMIT FieldMenuWanted(u"picMedium"_s, picMedium_->mapToGlobal(place)); });
+    connect(picMedium_, &MediumIcon::ChangeWanted, this, [this] { Q_EMIT FieldChangeWanted(u"picMedium"_s); });
     for (const auto signal : {&Browser::TitleChanged, &Browser::PageShown, &Browser::SkinChanged, &Browser::ModeChanged,
                               &Browser::SettingsChanged}) {
         connect(&browser_, signal, this, &CoverPanel::ShowMedium);
@@ -82,15 +82,19 @@ void CoverPanel::ShowSeasons() {
 void CoverPanel::ShowMedium() {
     picMedium_->ShowIcon(ShownMediaIcon(browser_));
     picMedium_->setVisible(IsMediaIconShown(browser_));
+    const Session &session = browser_.session;
+    const bool of_profile = !session.CurrentProfileID.isEmpty() && !session.CurrentIsEpisode;
+    picMedium_->setFocusPolicy(of_profile ? Qt::StrongFocus : Qt::NoFocus);
 }
 
 int CoverPanel::CoverHeight() const {
     const QSize picture = picCover_->NaturalSize();
-    return picture.isEmpty() ? 0 : width() * picture.height() / picture.width();
+    // A picture as thin as a line would be higher than any window.
+    return picture.isEmpty() ? 0 : std::min(width() * picture.height() / picture.width(), QWIDGETSIZE_MAX);
 }
 
 int CoverPanel::ActorHeight() const {
-    return picActor_->isHidden() ? 0 : picActor_->HeightAt(width());
+    return picActor_->isHidden() ? 0 : std::min(picActor_->HeightAt(width()), QWIDGETSIZE_MAX);
 }
 
 int CoverPanel::WantedHeight() const {

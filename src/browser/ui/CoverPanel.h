@@ -29,6 +29,8 @@ Q_SIGNALS:
     void CoverMenuWanted(const QPoint &place);
     /// The same of a control that shows a field of the title.
     void FieldMenuWanted(const QString &control, const QPoint &place);
+    /// A field is to be changed.
+    void FieldChangeWanted(const QString &control);
     void WantedHeightChanged();
 
 protected:

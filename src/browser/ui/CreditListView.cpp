@@ -16,7 +16,7 @@ namespace ostrand {
 
 namespace {
 
-const QList<double> kWidths = {0.46, 0.42, 0.12};
+const QList<double> kWidths = {0.46, 0.36, 0.18};
 
 } // namespace
 
@@ -34,6 +34,7 @@ CreditListView::CreditListView(Browser &browser, CreditList &credits, const QStr
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setSelectionMode(QAbstractItemView::SingleSelection);
     header()->setSectionsClickable(true);
+    header()->setTextElideMode(Qt::ElideRight);
     header()->setSectionsMovable(true);
     header()->setFirstSectionMovable(true);
     auto *columns = new FractionColumns(this);
@@ -50,7 +51,6 @@ CreditListView::CreditListView(Browser &browser, CreditList &credits, const QStr
     connect(&credits_, &QAbstractItemModel::layoutChanged, this, &CreditListView::ShowSortMark);
     connect(&browser_, &Browser::SettingsChanged, this, &CreditListView::ApplyPlaces);
     kept_ = new KeptPerson(browser_.credits, *this, CreditList::NameRole, CreditList::PositionRole);
-    header()->setSortIndicatorShown(true);
     ShowSortMark();
 }
 
@@ -60,6 +60,9 @@ void CreditListView::ApplyPlaces() {
 }
 
 void CreditListView::ShowSortMark() {
+    // The order they come in needs no mark, for which its narrow column has no room.
+    header()->setSortIndicatorShown(credits_.SortColumn() != CreditList::Position ||
+                                    credits_.SortOrder() != Qt::AscendingOrder);
     header()->setSortIndicator(credits_.SortColumn(), credits_.SortOrder());
 }
 

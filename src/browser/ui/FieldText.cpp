@@ -6,14 +6,10 @@
 
 namespace ostrand {
 
-namespace {
-
-bool Changes(const QKeyEvent &event) {
+bool AsksForChange(const QKeyEvent &event) {
     const bool key = event.key() == Qt::Key_F2 || event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
     return key && (event.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
 }
-
-} // namespace
 
 FieldText::FieldText(const QString &name, QWidget *parent) : QLabel(parent) {
     setObjectName(name);
@@ -27,7 +23,7 @@ FieldText::FieldText(const QString &name, QWidget *parent) : QLabel(parent) {
 
 bool FieldText::event(QEvent *event) {
     // F2 is also the key of a menu entry, which stands back while a field has the focus.
-    if (event->type() == QEvent::ShortcutOverride && Changes(*static_cast<QKeyEvent *>(event))) {
+    if (event->type() == QEvent::ShortcutOverride && AsksForChange(*static_cast<QKeyEvent *>(event))) {
         event->accept();
         return true;
     }
@@ -35,7 +31,7 @@ bool FieldText::event(QEvent *event) {
 }
 
 void FieldText::keyPressEvent(QKeyEvent *event) {
-    if (Changes(*event)) {
+    if (AsksForChange(*event)) {
         event->accept();
         Q_EMIT ChangeWanted();
     } else {

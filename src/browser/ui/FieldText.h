@@ -5,6 +5,9 @@
 
 namespace ostrand {
 
+/// Whether a key on a control of a field asks for another value: F2 or Enter.
+bool AsksForChange(const QKeyEvent &event);
+
 /// Shows a value as text that can be selected, takes the focus, and says when the user wants to change it: by a double
 /// click, F2 or Enter. Its context menu is the window's.
 class FieldText : public QLabel {

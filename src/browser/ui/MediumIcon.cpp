@@ -1,13 +1,17 @@
 #include "browser/ui/MediumIcon.h"
 
+#include "browser/ui/FieldText.h"
 #include "platform_qt/ThemedIcon.h"
 
+#include <QKeyEvent>
 #include <QPainter>
+#include <QStyleOptionFocusRect>
 
 namespace ostrand {
 
 MediumIcon::MediumIcon(QWidget *parent) : QWidget(parent) {
     setObjectName(QStringLiteral("picMedium"));
+    setContextMenuPolicy(Qt::CustomContextMenu);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
 }
 
@@ -27,10 +31,40 @@ QSize MediumIcon::sizeHint() const {
     return {side, side};
 }
 
+bool MediumIcon::event(QEvent *event) {
+    // As with the texts, the menu entry of F2 stands back.
+    if (event->type() == QEvent::ShortcutOverride && AsksForChange(*static_cast<QKeyEvent *>(event))) {
+        event->accept();
+        return true;
+    }
+    return QWidget::event(event);
+}
+
+void MediumIcon::keyPressEvent(QKeyEvent *event) {
+    if (AsksForChange(*event)) {
+        event->accept();
+        Q_EMIT ChangeWanted();
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void MediumIcon::mouseDoubleClickEvent(QMouseEvent *event) {
+    if (event->button() == Qt::LeftButton) {
+        event->accept();
+        Q_EMIT ChangeWanted();
+    }
+}
+
 void MediumIcon::paintEvent(QPaintEvent *) {
+    QPainter painter(this);
     if (!icon_.isNull()) {
-        QPainter painter(this);
         icon_.paint(&painter, rect());
+    }
+    if (hasFocus()) {
+        QStyleOptionFocusRect option;
+        option.initFrom(this);
+        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
     }
 }
 

@@ -6,7 +6,8 @@
 
 namespace ostrand {
 
-/// Shows the icon of a medium, as large as three lines of text and sharp at every scale.
+/// Shows the icon of a medium, as large as three lines of text and sharp at every scale. It is a field as the texts of
+/// the panels are: a double click, F2 or Enter ask for another value, and its context menu is the window's.
 class MediumIcon : public QWidget {
     Q_OBJECT
 public:
@@ -17,7 +18,13 @@ public:
     const QString &Key() const { return key_; }
     QSize sizeHint() const override;
 
+Q_SIGNALS:
+    void ChangeWanted();
+
 protected:
+    bool event(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:

@@ -4,6 +4,7 @@
 #include "browser/CollectionTabs.h"
 #include "browser/ui/CreditListView.h"
 #include "browser/ui/CrewFrame.h"
+#include "browser/ui/PanelTabs.h"
 #include "browser/ui/ProfileAV.h"
 #include "browser/ui/ProfileDetails.h"
 #include "shell/Session.h"
@@ -15,15 +16,11 @@
 namespace ostrand {
 
 MiddlePanel::MiddlePanel(Browser &browser, QWidget *parent) :
-    QWidget(parent), browser_(browser), tabMain_(new QTabBar(this)), pages_(new QStackedWidget(this)),
+    QWidget(parent), browser_(browser), tabMain_(new PanelTabs(this)), pages_(new QStackedWidget(this)),
     Split4_(new SplitPanel), ListCast_(new CreditListView(browser, browser.credits.ListCast, QStringLiteral("ListCast"),
                                                           browser.session.view.CastOrderColumns)),
     FrameCrew_(new CrewFrame(browser)), Details_(new ProfileDetails(browser)), AV_(new ProfileAV(browser)) {
     tabMain_->setObjectName(QStringLiteral("tabMain"));
-    tabMain_->setExpanding(false);
-    tabMain_->setUsesScrollButtons(true);
-    tabMain_->setDrawBase(false);
-    tabMain_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
 
     Split4_->setObjectName(QStringLiteral("Split4"));
     Split4_->SetHorizontal(true);
@@ -73,6 +70,7 @@ void MiddlePanel::ShowTabs() {
         } else {
             tabMain_->addTab(browser_.tabMain[i]);
         }
+        tabMain_->setTabToolTip(i, browser_.tabMain[i]); // the text may be cut
     }
     tabMain_->setCurrentIndex(browser_.tabMain_selected - 1);
     pages_->setCurrentIndex(browser_.tabMain_selected - 1);

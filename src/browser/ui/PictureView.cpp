@@ -1,7 +1,5 @@
 #include "browser/ui/PictureView.h"
 
-#include "platform_qt/ScaledPicture.h"
-
 #include <QDateTime>
 #include <QFileInfo>
 #include <QKeyEvent>
@@ -17,6 +15,15 @@ namespace {
 
 constexpr int kCachedPictures = 8;
 
+/// Differs from that of another content. Two files may change places, and keep the times of their contents then.
+QString VersionOf(const QString &path) {
+    const QFileInfo file(path);
+    return QStringLiteral("%1/%2/%3")
+        .arg(file.lastModified().toMSecsSinceEpoch())
+        .arg(file.metadataChangeTime().toMSecsSinceEpoch())
+        .arg(file.size());
+}
+
 } // namespace
 
 PictureView::PictureView(QWidget *parent) : QWidget(parent), cache_(kCachedPictures) {
@@ -30,12 +37,17 @@ PictureView::~PictureView() {
 void PictureView::ShowFile(const QString &path) {
     path_ = path;
     natural_ = PictureSize(path);
-    changed_ = path.isEmpty() ? 0 : QFileInfo(path).lastModified().toMSecsSinceEpoch();
+    version_ = path.isEmpty() ? QString() : VersionOf(path);
     Load();
     if (const QPixmap *known = cache_.object(wanted_); known && known->isNull()) {
         natural_ = {}; // it was found out before
     }
     setFocusPolicy(path.isEmpty() ? Qt::NoFocus : Qt::StrongFocus);
+}
+
+void PictureView::SetGrowth(PictureGrowth growth) {
+    growth_ = growth;
+    Load();
 }
 
 /// What is being read is for nothing.
@@ -48,7 +60,8 @@ void PictureView::Load() {
     const qreal ratio = devicePixelRatioF();
     const QSize device = (QSizeF(size()) * ratio).toSize();
     const QString wanted =
-        QStringLiteral("%1x%2x%3|%4|%5").arg(device.width()).arg(device.height()).arg(ratio).arg(changed_).arg(path_);
+        QStringLiteral("%1x%2x%3x%4|").arg(device.width()).arg(device.height()).arg(ratio).arg(int(growth_)) +
+        version_ + u'|' + path_;
     if (wanted == wanted_) {
         return;
     }
@@ -63,9 +76,9 @@ void PictureView::Load() {
     auto promise = std::make_shared<QPromise<QImage>>();
     promise->start();
     watcher_.setFuture(promise->future());
-    QThreadPool::globalInstance()->start([promise, path = path_, place = size(), ratio] {
+    QThreadPool::globalInstance()->start([promise, path = path_, place = size(), ratio, growth = growth_] {
         if (!promise->isCanceled()) {
-            promise->addResult(ScaledImage(path, place, ratio));
+            promise->addResult(ScaledImage(path, place, ratio, growth));
         }
         promise->finish();
     });
@@ -86,18 +99,23 @@ void PictureView::Take() {
     }
 }
 
-void PictureView::paintEvent(QPaintEvent *) {
-    Load(); // where the window came to a screen with other pixels
-    if (picture_.isNull()) {
-        return;
-    }
-    QPainter painter(this);
+QSizeF PictureView::DrawnSize() const {
     const QSizeF sharp = picture_.deviceIndependentSize();
     const QSizeF wanted = sharp.scaled(size(), Qt::KeepAspectRatio);
-    const bool fits = std::abs(sharp.width() - wanted.width()) < 1 && std::abs(sharp.height() - wanted.height()) < 1;
-    const QSizeF extent = fits ? sharp : wanted; // a picture for the size of before stands in
-    painter.setRenderHint(QPainter::SmoothPixmapTransform, !fits);
-    painter.drawPixmap(QRectF(QPointF((width() - extent.width()) / 2, 0), extent), picture_, picture_.rect());
+    const QSizeF room = wanted - sharp;
+    const bool fits = std::abs(room.width()) < 1 && std::abs(room.height()) < 1;
+    const bool small = growth_ == PictureGrowth::Never && room.width() >= 0 && room.height() >= 0;
+    return fits || small ? sharp : wanted; // a picture for the size of before stands in
+}
+
+void PictureView::paintEvent(QPaintEvent *) {
+    Load(); // where the window came to a screen with other pixels
+    QPainter painter(this);
+    if (!picture_.isNull()) {
+        const QSizeF extent = DrawnSize();
+        painter.setRenderHint(QPainter::SmoothPixmapTransform, extent != picture_.deviceIndependentSize());
+        painter.drawPixmap(QRectF(QPointF((width() - extent.width()) / 2, 0), extent), picture_, picture_.rect());
+    }
     if (hasFocus()) {
         QStyleOptionFocusRect option;
         option.initFrom(this);
@@ -117,7 +135,7 @@ void PictureView::mouseReleaseEvent(QMouseEvent *event) {
 }
 
 void PictureView::keyPressEvent(QKeyEvent *event) {
-    if (event->key() == Qt::Key_Space || event->key() == Qt::Key_Return) {
+    if (event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         Q_EMIT Clicked();
     } else {
         QWidget::keyPressEvent(event);

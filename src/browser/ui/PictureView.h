@@ -1,9 +1,10 @@
 // Shows one picture, scaled into its box.
 #pragma once
 
+#include "platform_qt/ScaledPicture.h"
+
 #include <QCache>
 #include <QFutureWatcher>
-#include <QImage>
 #include <QPixmap>
 #include <QWidget>
 
@@ -19,6 +20,9 @@ public:
 
     /// Empty for no picture. A file that changed since is read again.
     void ShowFile(const QString &path);
+    /// Whether a picture smaller than the box fills it, as it does at first.
+    void SetGrowth(PictureGrowth growth);
+    PictureGrowth Growth() const { return growth_; }
     const QString &File() const { return path_; }
     /// Told from the head of the file at once.
     bool HasPicture() const { return !natural_.isEmpty(); }
@@ -43,10 +47,13 @@ private:
     void Load();
     void Take();
     void Stop();
+    /// The size in which the picture at hand is drawn.
+    QSizeF DrawnSize() const;
 
+    PictureGrowth growth_ = PictureGrowth::Fit;
     QString path_;
     QSize natural_;
-    qint64 changed_ = 0; ///< when the file was, in milliseconds
+    QString version_; ///< of the file's content
     QPixmap picture_;
     QString wanted_; ///< what the cache calls the picture in the size of the box
     QCache<QString, QPixmap> cache_;

@@ -58,6 +58,15 @@ QString BaseCaption() {
     return u"Ostrand v%1.%2"_s.arg(OSTRAND_VERSION_MAJOR).arg(OSTRAND_VERSION_MINOR);
 }
 
+/// As the menu key does, which not all keyboards have.
+void OpenMenuOf(QWidget *control) {
+    if (control != nullptr) {
+        const QPoint place = control->inputMethodQuery(Qt::ImCursorRectangle).toRect().center();
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, place, control->mapToGlobal(place));
+        QApplication::sendEvent(control, &event);
+    }
+}
+
 } // namespace
 
 frmMain::frmMain(Browser &the_browser, LazyHtmlView::MakeEngine make_engine) :
@@ -162,6 +171,7 @@ void frmMain::OrderTabs() {
                                  u"textFind",
                                  u"listSeries",
                                  u"listSeasons",
+                                 u"picMedium",
                                  u"picCover",
                                  u"picActor",
                                  u"listEpisodes",
@@ -257,8 +267,9 @@ void frmMain::ConnectContextMenus() {
 void frmMain::ConnectFields() {
     connect(middle_, &MiddlePanel::FieldMenuWanted, this, &frmMain::OpenFieldMenu);
     connect(cover_, &CoverPanel::FieldMenuWanted, this, &frmMain::OpenFieldMenu);
-    connect(middle_, &MiddlePanel::FieldChangeWanted, this,
-            [this](const QString &control) { Perform([&] { ChangePanelField(browser, control); }); });
+    const auto change = [this](const QString &control) { Perform([&] { ChangePanelField(browser, control); }); };
+    connect(middle_, &MiddlePanel::FieldChangeWanted, this, change);
+    connect(cover_, &CoverPanel::FieldChangeWanted, this, change);
 }
 
 void frmMain::OpenFieldMenu(const QString &control, const QPoint &place) {
@@ -307,6 +318,8 @@ void frmMain::AddKeys() {
     connect(cover_tag, &QShortcut::activated, this, [this] { CopyCoverTag(browser); });
     auto *menu = new QShortcut(QKeySequence(u"F10"_s), this);
     connect(menu, &QShortcut::activated, this, [this] { menuBar()->setActiveAction(menuBar()->actions().front()); });
+    auto *context_menu = new QShortcut(QKeySequence(u"Shift+F10"_s), this);
+    connect(context_menu, &QShortcut::activated, this, [] { OpenMenuOf(QApplication::focusWidget()); });
 }
 
 void frmMain::SetWindowHooks() {

@@ -1,0 +1,32 @@
+#include "browser/ui/PanelTabs.h"
+
+#include <QProxyStyle>
+
+namespace ostrand {
+
+namespace {
+
+/// Puts half of the usual room beside the texts of tabs.
+class CloseTabs : public QProxyStyle {
+public:
+    using QProxyStyle::QProxyStyle;
+    int pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const override {
+        const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+        return metric == PM_TabBarTabHSpace ? usual / 2 : usual;
+    }
+};
+
+} // namespace
+
+PanelTabs::PanelTabs(QWidget *parent) : QTabBar(parent) {
+    auto *close = new CloseTabs;
+    close->setParent(this);
+    setStyle(close);
+    setExpanding(false);
+    setUsesScrollButtons(false);
+    setElideMode(Qt::ElideRight);
+    setDrawBase(false);
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+}
+
+} // namespace ostrand
