@@ -136,6 +136,7 @@ TEST_F(TagFilterTest, ColoursAsTheyAreOn) {
 }
 
 TEST_F(TagFilterTest, SortingKeepsTheFilter) {
+    session.view.BoxsetView = false;
     Filter({u"Mood/Dark"_s});
     ASSERT_EQ(Column(), (QStringList{u"Arc"_s, u"Mill"_s}));
     ReOrderSeriesList(browser, 0, TitleList::Order::Descending);
@@ -149,6 +150,7 @@ TEST_F(TagFilterTest, SortingKeepsTheFilter) {
 }
 
 TEST_F(TagFilterTest, GroupsBeforeItAreForgotten) {
+    session.view.BoxsetView = false;
     Run(u"UPDATE Profiles SET Rating = 'PG'");
     Groups(u"Rating"_s);
     ASSERT_TRUE(browser.SpecialOrder);
