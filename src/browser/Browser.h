@@ -38,8 +38,10 @@ public:
     /// Row of listSeries that is selected; -1 for none.
     int current_row = -1;
 
-    /// The list holds groups or a filter's rows.
+    /// The list holds groups or a saved filter's rows.
     bool SpecialOrder = false;
+    /// The list holds the rows of a filter by tags.
+    bool filtered_by_tags = false;
 
     /// Captions of the tabs as shown, and the selected one, counted from 1.
     QStringList tabColList;

@@ -98,11 +98,7 @@ void RenameCollectionType(Browser &browser) {
     if (name.isEmpty() || name == type || TabOfColType(browser, name) == 1) {
         return;
     }
-    try {
-        WriteColType(session, ProfilesOfColType(session, type), name);
-    } catch (const sql::SqlError &error) {
-        Trace(session, u"mRenameCollectionType_Click(): "_s + error.Text(), kTraceError);
-    }
+    WriteColType(session, ProfilesOfColType(session, type), name);
     RenameTab(browser, index, type, name);
 }
 

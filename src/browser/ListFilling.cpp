@@ -19,11 +19,16 @@ int SortColumnOf(int sort_key) {
 
 } // namespace
 
-void BeginList(Browser &browser) {
+void ClearList(Browser &browser) {
     browser.listSeries.Unsort();
     browser.listSeries.Clear();
     browser.listSeries.SetStriping(TitleList::Striping::None);
     browser.current_row = -1;
+    browser.filtered_by_tags = false;
+}
+
+void BeginList(Browser &browser) {
+    ClearList(browser);
     ClearAppearences(browser);
 }
 

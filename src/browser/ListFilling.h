@@ -9,6 +9,8 @@ class Browser;
 struct Session;
 
 /// Empties the list and turns its automatic sort off.
+void ClearList(Browser &browser);
+/// The same, and empties listAppearences.
 void BeginList(Browser &browser);
 /// Makes the first title current; an empty list has no current row.
 void ShowFirstTitle(Browser &browser);

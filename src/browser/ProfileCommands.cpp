@@ -34,6 +34,10 @@ bool HasProfiles(const Browser &browser) {
     return browser.session.Database && !browser.session.view.mTVShows;
 }
 
+bool ShowsWholeTab(const Browser &browser) {
+    return !browser.SpecialOrder && !browser.filtered_by_tags;
+}
+
 /// The profile of a row; empty for none and for the header of a group.
 QString ProfileOfRow(const Browser &browser, int row) {
     const TitleList &list = browser.listSeries;
@@ -99,15 +103,16 @@ QString KeyBeside(const Browser &browser, const QStringList &ids) {
 /// The rows of deleted profiles go; where the current one is among them, the next becomes current.
 void ForgetProfiles(Browser &browser, const QStringList &ids) {
     const QString key = KeyBeside(browser, ids);
-    if (!browser.SpecialOrder) {
+    if (ShowsWholeTab(browser)) {
         RefillMovieNames(browser, {key}); // children of a boxset may stand alone now
-        return;
+    } else {
+        TitleList &list = browser.listSeries;
+        browser.current_row = -1;
+        list.RemoveTitles(ids);
+        ShowFilterCount(browser, list.TitleCount());
+        ShowTitleOrRow(browser, {key}, 0);
     }
-    TitleList &list = browser.listSeries;
-    browser.current_row = -1;
-    list.RemoveTitles(ids);
-    ShowFilterCount(browser, list.TitleCount());
-    ShowTitleOrRow(browser, {key}, 0);
+    Q_EMIT browser.TagsChanged(false);
 }
 
 /// Does something with each profile; the ones that were done, which are all unless the user cancels.
@@ -204,7 +209,7 @@ void ShowChangedProfiles(Browser &browser, const QStringList &ids, const QString
     const QString tab = SelectedColType(browser);
     const QStringList keys = {KeyOfRow(browser, browser.current_row), KeyBeside(browser, ids)};
     ReloadColTypeTabs(browser); // a type may have come or gone
-    if (!browser.SpecialOrder || SelectedColType(browser) != tab) {
+    if (ShowsWholeTab(browser) || SelectedColType(browser) != tab) {
         RefillMovieNames(browser, keys);
         return;
     }

@@ -108,9 +108,10 @@ void UpdateCollectionList(Browser &browser, const TagFilter &filter) {
     }
     Trace(session, u"UpdateCollectionList()"_s, kTraceEntry);
     const QString tab = SelectedColType(browser);
-    BeginList(browser);
-    // The rows stand in the order of their statement, like those of a saved filter, and tell no dates to sort by.
-    browser.SpecialOrder = true;
+    // Rows stand in the order of their statement until the user sorts them.
+    ClearList(browser);
+    browser.SpecialOrder = false;
+    browser.filtered_by_tags = true;
     TagFilterRows rows(session, TabClause(tab));
     try {
         rows.Add(filter);

@@ -11,6 +11,10 @@ using namespace Qt::StringLiterals;
 
 constexpr auto kDivider = u'/';
 
+sql::TableWatch WatchTags(Session &session) {
+    return session.Database ? session.Database->Watch({u"Tags"_s}) : sql::TableWatch();
+}
+
 QStringList ReadTags(Session &session) {
     QStringList tags;
     if (!session.Database) {
@@ -94,8 +98,34 @@ bool TagTree::setData(const QModelIndex &index, const QVariant &value, int role)
 void TagTree::Load(Session &session, bool keep_checks) {
     const QStringList checked = keep_checks ? CheckedTags() : QStringList();
     Clear();
-    const QStringList tags = ReadTags(session);
+    watch_ = WatchTags(session);
+    Fill(ReadTags(session), checked);
+}
+
+bool TagTree::FollowChanges(Session &session) {
+    if (session.Database && !watch_.Changed()) {
+        return false;
+    }
+    watch_ = WatchTags(session); // before the tags are read, and a fault is met once
+    QStringList tags;
+    try {
+        tags = ReadTags(session);
+    } catch (const sql::SqlError &) {
+        Clear();
+        throw;
+    }
+    if (tags == read_) {
+        return false;
+    }
+    const QStringList checked = CheckedTags();
+    Clear();
+    Fill(tags, checked);
+    return true;
+}
+
+void TagTree::Fill(const QStringList &tags, const QStringList &checked) {
     beginResetModel();
+    read_ = tags;
     for (const QString &tag : tags) {
         AddTag(tag);
     }
@@ -118,6 +148,7 @@ void TagTree::Clear() {
     beginResetModel();
     nodes_.assign(1, {});
     by_path_.clear();
+    read_.clear();
     endResetModel();
 }
 

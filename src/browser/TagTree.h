@@ -1,6 +1,8 @@
 // The tags of the collection, level below level.
 #pragma once
 
+#include "sql/TableWatch.h"
+
 #include <QAbstractItemModel>
 #include <QHash>
 #include <QStringList>
@@ -33,6 +35,9 @@ public:
     /// Reads the tags of the open database; none without one. With `keep_checks` the tags that are still there stay
     /// checked. Throws SqlError, with no tag left.
     void Load(Session &session, bool keep_checks);
+    /// Reads the tags again, with their checks, where they are others than those read the last time; true when they
+    /// are. Costs next to nothing while the table of tags is as it was. Throws SqlError, with no tag left.
+    bool FollowChanges(Session &session);
     /// The paths of the checked nodes, in the order of the tree.
     QStringList CheckedTags() const;
 
@@ -50,12 +55,15 @@ private:
         std::vector<int> children;
     };
     void Clear();
+    void Fill(const QStringList &tags, const QStringList &checked);
     void AddTag(const QString &tag);
     int AddLevel(int parent, const QString &text, const QString &path);
     void CollectChecked(int node, QStringList &tags) const;
 
     std::vector<Node> nodes_ = std::vector<Node>(1); ///< the first is the root, which is not shown
     QHash<QByteArray, int> by_path_;
+    QStringList read_; ///< what the nodes are made of
+    sql::TableWatch watch_;
 };
 
 } // namespace ostrand

@@ -279,7 +279,7 @@ std::vector<int> TitleList::SortRows() {
     MakeSortKeys();
     std::vector<SortEntry> entries;
     entries.reserve(rows_.size());
-    for (int row = 0; row < rowCount(); ++row) {
+    for (int row = 0; row < int(rows_.size()); ++row) {
         entries.push_back({StartOf(KeyOf(row)), row});
     }
     const auto is_less = [this](const SortEntry &a, const SortEntry &b) {

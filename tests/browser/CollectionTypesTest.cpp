@@ -68,6 +68,23 @@ TEST_F(CollectionTypes, RenamingToAnotherTypeJoinsThem) {
     EXPECT_EQ(Keys(), (QStringList{u"Key_D1"_s, u"E1"_s}));
 }
 
+TEST_F(CollectionTypes, AFaultOfRenamingLeavesTheTab) {
+    Select(u"Lent out"_s);
+    const QStringList types = Types();
+    const QStringList tabs = browser.tabColList;
+    ExpectNewName(u"Archive"_s);
+    session.Database->SetObserver([](QStringView statement) {
+        if (statement.startsWith(u"UPDATE")) {
+            throw sql::SqlError(sql::ErrorCode::CannotOpenDatabase, u"The disk is full."_s);
+        }
+    });
+    EXPECT_THROW(RenameCollectionType(browser), sql::SqlError);
+    session.Database->SetObserver({});
+    EXPECT_EQ(Types(), types);
+    EXPECT_EQ(browser.tabColList, tabs);
+    EXPECT_EQ(SelectedColType(browser), u"Lent out"_s);
+}
+
 TEST_F(CollectionTypes, TheTabOfARenamedDefaultTypeStays) {
     Select(u"Owned"_s);
     ExpectNewName(u"Shelf"_s);

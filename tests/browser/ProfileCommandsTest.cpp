@@ -3,6 +3,7 @@
 #include "BrowserFixture.h"
 #include "browser/Navigation.h"
 #include "browser/ProfileInfos.h"
+#include "browser/TagFilter.h"
 #include "browser/Views.h"
 
 namespace ostrand {
@@ -94,6 +95,30 @@ TEST_F(ProfileCommands, AProfileLeavesAllItsGroups) {
     EXPECT_EQ(browser.filter_count, 1);
     EXPECT_TRUE(browser.SpecialOrder);
     EXPECT_FALSE(browser.listSeries.At(browser.current_row).header);
+}
+
+TEST_F(ProfileCommands, AListByTagsStaysSo) {
+    AddProfiles({u"A"_s, u"B"_s, u"C"_s, u"D"_s});
+    for (const char16_t *id : {u"A", u"B", u"C"}) {
+        Run(u"INSERT INTO Tags (ProfileID, TagName, FullyQualifiedName) VALUES ('"_s + QString::fromUtf16(id) +
+            u"', 'Dark', 'Dark')"_s);
+    }
+    QList<bool> told;
+    QObject::connect(&browser, &Browser::TagsChanged, [&](bool other_collection) { told << other_collection; });
+    UpdateCollectionList(browser, {.tags = {u"Dark"_s}});
+    ASSERT_EQ(Column(), (QStringList{u"A"_s, u"B"_s, u"C"_s}));
+    ExpectRemoval(u"A"_s);
+    RemoveCurrentProfile(browser);
+    EXPECT_EQ(Column(), (QStringList{u"B"_s, u"C"_s}));
+    EXPECT_EQ(session.CurrentProfileID, u"B"_s);
+    EXPECT_EQ(browser.filter_count, 2);
+    EXPECT_EQ(told, QList<bool>{false}) << "its tags went with it";
+    selected = {0, 1};
+    ExpectRemovals(2);
+    RemoveSelectedProfiles(browser);
+    EXPECT_EQ(Column(), QStringList());
+    EXPECT_EQ(Ids(), QStringList{u"D"_s});
+    EXPECT_EQ(told, (QList<bool>{false, false}));
 }
 
 TEST_F(ProfileCommands, HeadersAndSeriesAreNoProfiles) {

@@ -2,6 +2,7 @@
 
 #include "browser/Attach.h"
 #include "browser/BrowserFixture.h"
+#include "browser/CreditCommands.h"
 #include "browser/Views.h"
 
 namespace ostrand {
@@ -120,7 +121,7 @@ TEST_F(TagFilterTest, RowsAreThoseOfAFilteredList) {
         EXPECT_EQ(mill.texts[TitleList::Year], QString());
         EXPECT_FALSE(mill.header);
     }
-    EXPECT_TRUE(browser.SpecialOrder);
+    EXPECT_FALSE(browser.SpecialOrder) << "these are no groups";
     EXPECT_FALSE(browser.listSeries.IsSorted());
     EXPECT_EQ(OptionalWidths(), (std::vector<double>{0.25, 0, 0, 0}));
 }
@@ -134,12 +135,42 @@ TEST_F(TagFilterTest, ColoursAsTheyAreOn) {
     EXPECT_EQ(browser.listSeries.GetStriping(), TitleList::Striping::KeepBold);
 }
 
-TEST_F(TagFilterTest, SortingGoesBackToTheWholeTab) {
+TEST_F(TagFilterTest, SortingKeepsTheFilter) {
+    session.view.BoxsetView = false;
     Filter({u"Mood/Dark"_s});
-    ASSERT_EQ(browser.listSeries.rowCount(), 2);
+    ASSERT_EQ(Column(), (QStringList{u"Arc"_s, u"Mill"_s}));
     ReOrderSeriesList(browser, 0, TitleList::Order::Descending);
-    EXPECT_EQ(Column(), (QStringList{u"Bay"_s, u"Mill"_s, u"Cove"_s, u"Arc"_s}));
-    EXPECT_EQ(browser.labelFilterCount, u"Filtered: 4"_s);
+    EXPECT_EQ(Column(), (QStringList{u"Mill"_s, u"Arc"_s}));
+    EXPECT_EQ(browser.labelFilterCount, u"Filtered: 2"_s);
+    EXPECT_EQ(session.CurrentProfileID, u"Arc"_s);
+    EXPECT_EQ(browser.current_row, 1);
+    session.view.BoxsetView = true;
+    ReOrderSeriesList(browser, 0, TitleList::Order::Descending);
+    EXPECT_EQ(Column().size(), 4) << "the boxsets make way for the plain list of the tab";
+}
+
+TEST_F(TagFilterTest, GroupsBeforeItAreForgotten) {
+    session.view.BoxsetView = false;
+    Run(u"UPDATE Profiles SET Rating = 'PG'");
+    Groups(u"Rating"_s);
+    ASSERT_TRUE(browser.SpecialOrder);
+    Filter({u"Mood/Dark"_s});
+    EXPECT_TRUE(browser.filtered_by_tags);
+    ReOrderSeriesList(browser, 0, TitleList::Order::Ascending);
+    EXPECT_EQ(Column(), (QStringList{u"Arc"_s, u"Mill"_s}));
+    GetMovieNames(browser);
+    EXPECT_FALSE(browser.filtered_by_tags);
+}
+
+TEST_F(TagFilterTest, AnEmptyListLeavesTheAppearancesOfThePersonShown) {
+    Run(u"INSERT INTO CastCrew (ProfileID, Name, Role, Position, IsCast, BirthYear) VALUES ('Arc', 'Ada Holm', 'Cat', "
+        u"1, True, 0)");
+    UpdateCastInfo(browser, u"Ada Holm"_s, u"0"_s);
+    ASSERT_EQ(browser.appearances.listAppearences.Rows().size(), 1);
+    EXPECT_EQ(Filter({u"Nobody's"_s}), QStringList());
+    EXPECT_EQ(browser.appearances.listAppearences.Rows().size(), 1) << "the panels still tell of the title before";
+    EXPECT_EQ(Filter({u"Mood/Dark"_s}).size(), 2);
+    EXPECT_EQ(browser.appearances.listAppearences.Rows().size(), 0);
 }
 
 TEST_F(TagFilterTest, TVViewIsLeftAlone) {

@@ -153,5 +153,45 @@ TEST_F(TagTreeTest, ReadingAgainKeepsTheChecksOnDemand) {
     EXPECT_EQ(told, 0) << "the user changed nothing";
 }
 
+TEST_F(TagTreeTest, FollowsChangesOfTheTableAndNothingElse) {
+    AddTag(u"Mood/Dark"_s);
+    tree.Load(session, false);
+    Check(u"Mood/Dark"_s);
+    int resets = 0;
+    QObject::connect(&tree, &QAbstractItemModel::modelReset, [&] { ++resets; });
+    EXPECT_FALSE(tree.FollowChanges(session));
+    AddTag(u"Mood/Dark"_s);
+    EXPECT_FALSE(tree.FollowChanges(session)) << "no other tag";
+    EXPECT_EQ(resets, 0);
+    AddTag(u"Shelf"_s);
+    EXPECT_TRUE(tree.FollowChanges(session));
+    EXPECT_EQ(Shown(), (QStringList{u"Mood"_s, u">Dark*"_s, u"Shelf"_s}));
+    Run(u"DELETE FROM Tags WHERE FullyQualifiedName LIKE 'Mood*'");
+    EXPECT_TRUE(tree.FollowChanges(session));
+    EXPECT_EQ(Shown(), QStringList{u"Shelf"_s});
+    EXPECT_FALSE(tree.FollowChanges(session));
+    Run(u"UPDATE Tags SET FullyQualifiedName = 'shelf'");
+    EXPECT_TRUE(tree.FollowChanges(session)) << "another spelling";
+    EXPECT_EQ(Shown(), QStringList{u"shelf"_s});
+}
+
+TEST_F(TagTreeTest, AFaultIsMetOnceUntilTheNextChange) {
+    AddTag(u"Mood"_s);
+    tree.Load(session, false);
+    Run(u"DROP TABLE Tags");
+    EXPECT_THROW(tree.FollowChanges(session), sql::SqlError);
+    EXPECT_EQ(tree.rowCount(), 0);
+    EXPECT_FALSE(tree.FollowChanges(session));
+}
+
+TEST_F(TagTreeTest, WithoutADatabaseThereIsNothingToFollow) {
+    AddTag(u"Mood"_s);
+    tree.Load(session, false);
+    session.Database.reset();
+    EXPECT_TRUE(tree.FollowChanges(session));
+    EXPECT_EQ(tree.rowCount(), 0);
+    EXPECT_FALSE(tree.FollowChanges(session));
+}
+
 } // namespace
 } // namespace ostrand

@@ -1,6 +1,7 @@
 #include "MainWindowFixture.h"
 #include "browser/CollectionTabs.h"
 #include "browser/ui/frmFilterTags.h"
+#include "browser/ui/frmProfile.h"
 
 #include <QAbstractItemModelTester>
 #include <QCheckBox>
@@ -285,6 +286,55 @@ TEST_F(FilterTagsWindow, EveryControlCanBeReachedAndNamesItself) {
     ASSERT_TRUE(QTest::qWaitFor([&] { return QApplication::focusWidget() == tree; })) << "it came to the front";
     QTest::keyClick(tree, Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(services.clipboard.Text(), u"Mood\r\n\tDark\r\nShelf\r\n"_s);
+}
+
+TEST_F(FilterTagsWindow, TheTagsOfARemovedProfileGo) {
+    Open();
+    ToggleCheck(u"Mood/Dark"_s);
+    ASSERT_EQ(Selected(), first);
+    services.dialogs.ExpectMessage({}, MessageAnswer::Yes);
+    Trigger("mRemoveProfile");
+    EXPECT_FALSE(Node(u"Shelf"_s).isValid());
+    EXPECT_EQ(Checked(), QStringList{u"Mood/Dark"_s});
+    EXPECT_EQ(Titles(), QStringList{second});
+}
+
+TEST_F(FilterTagsWindow, ATagThatIsTickedInTheWindowOfATitleShows) {
+    Open();
+    ToggleCheck(u"Shelf"_s);
+    Trigger("mProfileInformation");
+    auto *ticks = main->findChild<frmProfile *>()->findChild<QTreeView *>(u"treeTags"_s);
+    ASSERT_TRUE(ticks);
+    const auto shelf =
+        ticks->model()->match(ticks->model()->index(0, 0), Qt::DisplayRole, u"Shelf"_s, 1, Qt::MatchExactly);
+    ASSERT_EQ(shelf.size(), 1);
+    ticks->model()->setData(shelf.front(), Qt::Unchecked, Qt::CheckStateRole);
+    EXPECT_FALSE(Node(u"Shelf"_s).isValid());
+    EXPECT_EQ(Checked(), QStringList());
+    ticks->model()->setData(shelf.front(), Qt::Checked, Qt::CheckStateRole);
+    EXPECT_TRUE(Node(u"Shelf"_s).isValid());
+}
+
+TEST_F(FilterTagsWindow, WhatAStatementDidShowsSoonWithTheTreeAsItWasLeft) {
+    AddTag(Ids()[2], u"Place/Attic"_s);
+    Open();
+    ToggleCheck(u"Mood/Dark"_s);
+    tree->collapse(Node(u"Mood"_s));
+    tree->setCurrentIndex(Node(u"Shelf"_s));
+    AddTag(Ids()[2], u"Aged"_s);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Node(u"Aged"_s).isValid(); }));
+    EXPECT_FALSE(tree->isExpanded(Node(u"Mood"_s)));
+    EXPECT_TRUE(tree->isExpanded(Node(u"Place"_s)));
+    EXPECT_EQ(tree->currentIndex(), Node(u"Shelf"_s));
+    EXPECT_EQ(Checked(), QStringList{u"Mood/Dark"_s});
+    EXPECT_EQ(Titles(), (QStringList{first, second})) << "the list stays";
+    session.Database->Execute(u"DELETE FROM Tags");
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return window->isActiveWindow(); }));
+    QEvent activation(QEvent::ActivationChange);
+    QCoreApplication::sendEvent(window, &activation);
+    EXPECT_EQ(tree->model()->rowCount(), 0) << "at once where the user turns to the window";
+    EXPECT_TRUE(Button<QLabel>("labelNoTags")->isVisible());
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "shell/ui/SplitPanel.h"
 #include "shell/ui/frmListView.h"
 
+#include <QAbstractItemView>
 #include <QClipboard>
 #include <QComboBox>
 #include <QDropEvent>
@@ -233,6 +234,67 @@ TEST_F(MainWindow, AFilterListsWhatItsQueryFinds) {
     EXPECT_FALSE(filter->isVisible());
     Trigger("mShowFilter");
     EXPECT_TRUE(filter->isVisible());
+}
+
+/// Two saved filters, the first of which asks a question.
+QStringList TwoFilters() {
+    const QString insertion = u"INSERT INTO SQLQueries (Name, SQLStatement) VALUES ('%1', 'SELECT p.Title, "
+                              u"p.ProfileID, p.ColNo, p.SortTitle, p.OriginalTitle, p.OriginalSortTitle, "
+                              u"p.Description FROM Profiles p WHERE %2')"_s;
+    return {insertion.arg(u"Asks"_s, u"p.ColNo = $Number$"_s), insertion.arg(u"Old ones"_s, u"p.ProdYear < 1980"_s)};
+}
+
+TEST_F(MainWindow, TheWheelOverTheClosedFilterBoxDoesNothing) {
+    Start(TwoFilters());
+    auto *filter = Control<QComboBox>("comboFilter");
+    for (const bool focused : {false, true}) {
+        focused ? filter->setFocus() : List()->setFocus();
+        for (const int turn : {-120, 120}) {
+            QWheelEvent event(QPointF(5, 5), filter->mapToGlobal(QPointF(5, 5)), {}, QPoint(0, turn), Qt::NoButton,
+                              Qt::NoModifier, Qt::NoScrollPhase, false);
+            QCoreApplication::sendEvent(filter, &event);
+            EXPECT_EQ(filter->currentIndex(), -1);
+        }
+    }
+    EXPECT_FALSE(main->findChild<QDialog *>(u"frmFilterTags"_s));
+    EXPECT_EQ(Titles().size(), 60);
+}
+
+TEST_F(MainWindow, KeysOpenTheListOfFiltersAndEnterChooses) {
+    Start(TwoFilters());
+    auto *filter = Control<QComboBox>("comboFilter");
+    filter->setFocus();
+    const std::pair<Qt::Key, Qt::KeyboardModifier> keys[] = {
+        {Qt::Key_Down, Qt::NoModifier}, {Qt::Key_Up, Qt::NoModifier},    {Qt::Key_PageDown, Qt::NoModifier},
+        {Qt::Key_End, Qt::NoModifier},  {Qt::Key_Down, Qt::AltModifier}, {Qt::Key_Space, Qt::NoModifier},
+        {Qt::Key_F4, Qt::NoModifier},
+    };
+    for (const auto &[key, modifier] : keys) {
+        QTest::keyClick(filter, key, modifier);
+        EXPECT_TRUE(filter->view()->isVisible()) << key;
+        QTest::keyClick(filter->view(), Qt::Key_Down);
+        QTest::keyClick(filter->view(), Qt::Key_Down);
+        QTest::keyClick(filter->view(), Qt::Key_Escape);
+        EXPECT_FALSE(filter->view()->isVisible()) << key;
+        EXPECT_EQ(filter->currentIndex(), -1) << "nothing was chosen";
+    }
+    EXPECT_FALSE(main->findChild<QDialog *>(u"frmFilterTags"_s));
+    ASSERT_EQ(Titles().size(), 60);
+    QTest::keyClick(filter, Qt::Key_O);
+    ASSERT_TRUE(filter->view()->isVisible());
+    EXPECT_EQ(filter->view()->currentIndex().data().toString(), u"Old ones"_s) << "a letter finds its entry";
+    QTest::keyClick(filter->view(), Qt::Key_Return);
+    EXPECT_EQ(filter->currentText(), u"Old ones"_s);
+    EXPECT_LT(Titles().size(), 60);
+    QTest::keyClick(filter, Qt::Key_Down);
+    QTest::keyClick(filter->view(), Qt::Key_Up); // the one that asks
+    QTest::keyClick(filter->view(), Qt::Key_Up); // the one that opens a window
+    EXPECT_LT(Titles().size(), 60);
+    QTest::keyClick(filter->view(), Qt::Key_Up);
+    QTest::keyClick(filter->view(), Qt::Key_Return);
+    EXPECT_EQ(filter->currentText(), u"Clear Filter"_s);
+    EXPECT_EQ(Titles().size(), 60);
+    EXPECT_FALSE(main->findChild<QDialog *>(u"frmFilterTags"_s));
 }
 
 TEST_F(MainWindow, TheCoverTurnsAround) {

@@ -3,8 +3,10 @@
 #include "MainWindowFixture.h"
 
 #include "base/Text.h"
+#include "browser/CollectionTabs.h"
 #include "browser/CreditCommands.h"
 #include "browser/ui/frmCover.h"
+#include "browser/ui/frmFilterTags.h"
 #include "database/ui/frmSwitchDatabase.h"
 #include "html_export/ui/frmHTMLExport.h"
 #include "people/HeadshotImport.h"
@@ -161,6 +163,8 @@ TEST_P(TextFit, TheWindowsBesideIt) {
     Check(*query, u"frmSQLQuery"_s);
     Check(*main->findChild<frmDropBox *>(), u"frmDropBox"_s);
     Check(*main->findChild<frmCover *>(), u"frmCover"_s);
+    ChooseFilter(browser, Shown(u"Filter Profiles by Tags"_s));
+    Check(*main->findChild<frmFilterTags *>(), u"frmFilterTags"_s);
     auto due = std::make_unique<ListTable>(Shown(u"Titles due to be returned"_s),
                                            QStringList{Shown(u"Title due"_s), Shown(u"day(s) overdue"_s)});
     due->Assign({{{u"A"_s, u"1"_s}, {}, ListRowKind::None}});

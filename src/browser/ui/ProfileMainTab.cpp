@@ -47,8 +47,10 @@ void ProfileMainTab::AddTags(QGridLayout &layout) {
     treeTags_->expandAll();
     connect(&sheet_.tags, &QAbstractItemModel::modelReset, treeTags_, &QTreeView::expandAll);
     connect(&sheet_.tags, &QAbstractItemModel::rowsInserted, treeTags_, &QTreeView::expandAll, Qt::QueuedConnection);
-    connect(&sheet_.tags, &ProfileTags::Ticked, this,
-            [this](const QString &name, bool on) { Do([&] { sheet_.SetTag(name, on); }); });
+    connect(&sheet_.tags, &ProfileTags::Ticked, this, [this](const QString &name, bool on) {
+        Do([&] { sheet_.SetTag(name, on); });
+        Q_EMIT browser_.TagsChanged(false);
+    });
 }
 
 void ProfileMainTab::AddLocks(QGridLayout &layout) {

@@ -7,6 +7,7 @@
 #include "browser/ui/Guarded.h"
 #include "shell/Session.h"
 
+#include <QAbstractItemView>
 #include <QContextMenuEvent>
 #include <QScopedValueRollback>
 #include <QShortcut>
@@ -19,6 +20,26 @@ void FilterBox::showPopup() {
     if (count() > 0) {
         QComboBox::showPopup();
     }
+}
+
+void FilterBox::keyPressEvent(QKeyEvent *event) {
+    static constexpr Qt::Key kSteps[] = {Qt::Key_Up,       Qt::Key_Down, Qt::Key_PageUp,
+                                         Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End};
+    const bool steps = std::ranges::find(kSteps, event->key()) != std::end(kSteps);
+    const bool letter = event->key() != Qt::Key_Space && !event->text().isEmpty() && event->text().front().isPrint() &&
+                        !event->modifiers().testAnyFlags(Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+    if (!steps && !letter) {
+        QComboBox::keyPressEvent(event);
+        return;
+    }
+    showPopup();
+    if (letter) {
+        view()->keyboardSearch(event->text());
+    }
+}
+
+void FilterBox::wheelEvent(QWheelEvent *event) {
+    event->ignore();
 }
 
 void TypeTabs::contextMenuEvent(QContextMenuEvent *event) {

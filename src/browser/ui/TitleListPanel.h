@@ -11,7 +11,8 @@ namespace ostrand {
 class Browser;
 class FindEdit;
 
-/// The box of saved filters; tells when its list is about to open.
+/// The box of saved filters; tells when its list is about to open. An entry acts when it is chosen in the list: keys
+/// and the wheel do not step from one to the next, since some of them open windows or ask questions.
 class FilterBox : public QComboBox {
     Q_OBJECT
 public:
@@ -20,6 +21,11 @@ public:
 
 Q_SIGNALS:
     void AboutToOpen();
+
+protected:
+    /// Keys that would step open the list, and letters find an entry there.
+    void keyPressEvent(QKeyEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
 };
 
 /// The tabs of collection types; tells when a menu is wanted for the current one.

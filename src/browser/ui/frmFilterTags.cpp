@@ -11,7 +11,9 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QShortcut>
+#include <QTimer>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -23,6 +25,16 @@ using namespace Qt::StringLiterals;
 
 constexpr int kDesignLetters = 46;
 constexpr int kDesignLines = 28;
+constexpr int kTagsLookEvery = 1000; // milliseconds between looks at tags that no routine told of
+
+void ForEachNode(const QAbstractItemModel &tree, const QModelIndex &above,
+                 const std::function<void(const QModelIndex &)> &visit) {
+    for (int row = 0; row < tree.rowCount(above); ++row) {
+        const QModelIndex node = tree.index(row, 0, above);
+        visit(node);
+        ForEachNode(tree, node, visit);
+    }
+}
 
 } // namespace
 
@@ -82,16 +94,63 @@ void frmFilterTags::ConnectControls() {
     auto *copy = new QShortcut(QKeySequence::Copy, treeTags_, nullptr, nullptr, Qt::WidgetShortcut);
     connect(copy, &QShortcut::activated, this, [this] { CopyTreeToClipboard(browser_, tags_); });
     connect(&browser_, &Browser::TagsChanged, this, &frmFilterTags::LoadTags);
+    auto *look = new QTimer(this);
+    connect(look, &QTimer::timeout, this, [this] { LoadTags(false); });
+    look->start(kTagsLookEvery);
     connect(&browser_, &Browser::ModeChanged, this, &frmFilterTags::Refresh);
     // Told after each change of the language.
     connect(&browser_, &Browser::FilterChanged, this, &frmFilterTags::Refresh);
 }
 
 void frmFilterTags::LoadTags(bool other_collection) {
-    Guarded(browser_.session, [&] { tags_.Load(browser_.session, !other_collection); });
+    if (other_collection) {
+        Guarded(browser_.session, [&] { tags_.Load(browser_.session, false); });
+        treeTags_->expandAll();
+        treeTags_->setCurrentIndex(tags_.index(0, 0));
+    } else {
+        FollowTags();
+    }
+    labelNoTags_->setVisible(tags_.rowCount() == 0);
+}
+
+void frmFilterTags::FollowTags() {
+    const QString current = treeTags_->currentIndex().data(TagTree::TagRole).toString();
+    QStringList closed;
+    ForEachNode(tags_, {}, [&](const QModelIndex &node) {
+        if (!treeTags_->isExpanded(node) && tags_.rowCount(node) > 0) {
+            closed += node.data(TagTree::TagRole).toString();
+        }
+    });
+    const QPoint scrolled(treeTags_->horizontalScrollBar()->value(), treeTags_->verticalScrollBar()->value());
+    bool changed = false;
+    try {
+        changed = tags_.FollowChanges(browser_.session);
+    } catch (const sql::SqlError &error) {
+        Trace(browser_.session, u"FollowTags: "_s + error.Text(), kTraceError); // a box could come each second
+    }
+    if (!changed) {
+        return;
+    }
     treeTags_->expandAll();
     treeTags_->setCurrentIndex(tags_.index(0, 0));
-    labelNoTags_->setVisible(tags_.rowCount() == 0);
+    ForEachNode(tags_, {}, [&](const QModelIndex &node) {
+        const QString tag = node.data(TagTree::TagRole).toString();
+        if (tag == current) {
+            treeTags_->setCurrentIndex(node);
+        }
+        if (closed.contains(tag)) {
+            treeTags_->collapse(node);
+        }
+    });
+    treeTags_->horizontalScrollBar()->setValue(scrolled.x());
+    treeTags_->verticalScrollBar()->setValue(scrolled.y());
+}
+
+void frmFilterTags::changeEvent(QEvent *event) {
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
+        LoadTags(false);
+    }
+    QDialog::changeEvent(event);
 }
 
 void frmFilterTags::UpdateCollectionList(const QModelIndex &node, bool single) {

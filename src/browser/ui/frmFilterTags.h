@@ -23,7 +23,8 @@ class frmFilterTags : public QDialog {
 public:
     explicit frmFilterTags(Browser &browser, QWidget *parent = nullptr);
 
-    /// Reads the tags, and keeps the checks of those that are still there unless they belong to another collection.
+    /// Reads the tags where they may have changed, and keeps the checks of those that are still there; all are read,
+    /// and none is checked, when they belong to another collection.
     void LoadTags(bool other_collection);
     /// Rebuilds listSeries: by the tag of a node alone when `single`, else by all checked ones.
     void UpdateCollectionList(const QModelIndex &node, bool single);
@@ -31,10 +32,15 @@ public:
     /// Runs what may lead to another title; empty runs it as it is.
     std::function<void(const std::function<void()> &action)> perform;
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
     void MakeControls();
     void Compose();
     void ConnectControls();
+    /// Shows what changed among the tags with the nodes that were closed, and on the node that was current.
+    void FollowTags();
     /// Texts in the present language, and what can be used.
     void Refresh();
 
