@@ -5,6 +5,7 @@
 #include "browser/ui/Guarded.h"
 #include "browser/ui/frmMain.h"
 #include "platform_qt/DesktopColours.h"
+#include "platform_qt/OutlinedTicks.h"
 #include "platform_qt/QtDesktop.h"
 #include "platform_qt/ThemedIcon.h"
 #include "services/QtDownloader.h"
@@ -96,6 +97,7 @@ int main(int argc, char **argv) {
     QApplication::setWindowIcon(ProgramIcon());
     QApplication::setQuitOnLastWindowClosed(false);
 
+    QApplication::setStyle(new OutlinedTicks(QApplication::style()->objectName()));
     const DesktopColours colours;
     const StopSignals signals_noted;
     LetWritesFail();
