@@ -9,10 +9,6 @@ using namespace Qt::StringLiterals;
 /// The menus and the entry that make no sense without a database, besides the context menus.
 constexpr std::array kDatabaseMenus = {u"mEdit", u"mTools", u"mSettings", u"mUpdate", u"mImport", u"mExport", u"mView"};
 
-QString OfTable(const char16_t *text) {
-    return text == nullptr ? QString() : QStringView(text).toString();
-}
-
 bool BelongsToView(InView view, bool movies) {
     return view == InView::Both || (view == InView::Movies) == movies;
 }

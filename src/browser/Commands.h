@@ -124,4 +124,9 @@ void EnableDBMenues(Commands &commands, bool enabled);
 /// Shows or hides the entries of the audit trail.
 void ShowAuditMenus(Commands &commands, bool shown);
 
+/// A text of the tables; empty for none.
+inline QString OfTable(const char16_t *text) {
+    return text == nullptr ? QString() : QStringView(text).toString();
+}
+
 } // namespace ostrand

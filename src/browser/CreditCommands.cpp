@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 constexpr qsizetype kCaptionLength = 55;
 
-void Toggle(Browser &browser, bool ViewState::*state) {
+void ToggleCreditView(Browser &browser, bool ViewState::*state) {
     ViewState &view = browser.session.view;
     view.*state = !(view.*state);
     browser.commands.Refresh();
@@ -195,20 +195,20 @@ void ToggleCreditLock(Browser &browser, CreditKind kind) {
 }
 
 void ToggleReverseCredit(Browser &browser) {
-    Toggle(browser, &ViewState::mReverseCredit);
+    ToggleCreditView(browser, &ViewState::mReverseCredit);
 }
 
 void ToggleFullBoxsetCredits(Browser &browser) {
-    Toggle(browser, &ViewState::mShowFullBoxsetCredits);
+    ToggleCreditView(browser, &ViewState::mShowFullBoxsetCredits);
 }
 
 void ToggleCrewTreeView(Browser &browser) {
-    Toggle(browser, &ViewState::mCrewTreeView);
+    ToggleCreditView(browser, &ViewState::mCrewTreeView);
     Q_EMIT browser.credits.CrewViewChanged();
 }
 
 void ToggleHideUnassignedCrew(Browser &browser) {
-    Toggle(browser, &ViewState::mHideUnassignedCrew);
+    ToggleCreditView(browser, &ViewState::mHideUnassignedCrew);
 }
 
 } // namespace ostrand

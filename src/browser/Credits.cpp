@@ -18,7 +18,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr qsizetype kBlanksOfLevel = 2;
+constexpr qsizetype kBlanksOfDivider = 2;
 constexpr qsizetype kPositionPlaces = 3;
 
 struct CreditRecords {
@@ -144,7 +144,7 @@ public:
 private:
     void AddPerson(const CreditRecord &credit) {
         CreditRow row;
-        row.text = QString(indent_ * kBlanksOfLevel, u' ') + texts_.Name(credit);
+        row.text = QString(indent_ * kBlanksOfDivider, u' ') + texts_.Name(credit);
         row.name = credit.name;
         row.role = texts_.Role(credit);
         row.birth_year = credit.birth_year;

@@ -18,7 +18,7 @@ namespace {
 constexpr const char16_t *kCaptions[kSheetTabs] = {u"Main",          u"Overview",         u"Notes", u"Easter Eggs",
                                                    u"Events/Review", u"Additional Infos", u"Skins"};
 
-QString FindTitle(const SheetTitle &title) {
+QString FindSheetTitle(const SheetTitle &title) {
     return (title.is_episode ? u"SELECT * FROM Episodes WHERE EpisodeID = '"_s
                              : u"SELECT * FROM Profiles WHERE ProfileID = '"_s) +
            EscapeSql(title.id) + u'\'';
@@ -50,7 +50,7 @@ void ProfileSheet::Show(const SheetTitle &title) {
         ClearProfileInfos();
         return;
     }
-    const sql::Recordset record = session_.Database->OpenRecordset(FindTitle(title));
+    const sql::Recordset record = session_.Database->OpenRecordset(FindSheetTitle(title));
     if (record.Eof()) {
         ClearProfileInfos();
         return;
@@ -196,7 +196,7 @@ bool ProfileSheet::HasTitle() const {
 }
 
 bool ProfileSheet::IsThere(const SheetTitle &title) const {
-    return !session_.Database->OpenRecordset(FindTitle(title)).Eof();
+    return !session_.Database->OpenRecordset(FindSheetTitle(title)).Eof();
 }
 
 void ProfileSheet::Write(const std::function<void()> &change) {

@@ -9,7 +9,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr auto kDivider = u'/';
+constexpr auto kLevelDivider = u'/';
 
 sql::TableWatch WatchTags(Session &session) {
     return session.Database ? session.Database->Watch({u"Tags"_s}) : sql::TableWatch();
@@ -155,7 +155,7 @@ void TagTree::Clear() {
 void TagTree::AddTag(const QString &tag) {
     int parent = 0;
     for (qsizetype at = 0; at <= tag.size();) {
-        qsizetype end = tag.indexOf(kDivider, at);
+        qsizetype end = tag.indexOf(kLevelDivider, at);
         end = end < 0 ? tag.size() : end;
         parent = AddLevel(parent, tag.mid(at, end - at), tag.left(end));
         at = end + 1;

@@ -18,7 +18,7 @@ namespace ostrand {
 
 namespace {
 
-constexpr QLatin1StringView kExtension = ".jpg"_L1;
+constexpr QLatin1StringView kPictureExtension = ".jpg"_L1;
 constexpr QLatin1StringView kTemporary = "TemporaryImage.tmp"_L1;
 
 bool IsNumber(QStringView text) {
@@ -60,11 +60,11 @@ QRegularExpression PatternOf(const QString &pattern) {
 } // namespace
 
 bool IsHeadshotName(const QString &file_name) {
-    return file_name.endsWith(kExtension, Qt::CaseInsensitive);
+    return file_name.endsWith(kPictureExtension, Qt::CaseInsensitive);
 }
 
 HeadshotName SplitHeadshotName(const QString &file_name) {
-    const QString stem = IsHeadshotName(file_name) ? file_name.chopped(kExtension.size()) : file_name;
+    const QString stem = IsHeadshotName(file_name) ? file_name.chopped(kPictureExtension.size()) : file_name;
     const qsizetype line = stem.lastIndexOf(u'_');
     if (line >= 0 && IsNumber(QStringView(stem).mid(line + 1))) {
         return {stem.left(line), stem.mid(line + 1)};
@@ -138,7 +138,7 @@ QString PictureFolder::Find(const QString &name) const {
 QList<int> PictureFolder::AlternatesOf(const QString &stem) const {
     QList<int> numbers;
     for (int i = 1; i <= kMostAlternates; ++i) {
-        if (Has(stem + u'_' + QString::number(i) + kExtension)) {
+        if (Has(stem + u'_' + QString::number(i) + kPictureExtension)) {
             numbers += i;
         }
     }

@@ -4,6 +4,7 @@
 #include "people/HeadshotFiles.h"
 #include "people/HeadshotTools.h"
 #include "people/ProgressJob.h"
+#include "shell/Settings.h"
 
 #include <QDir>
 #include <QFile>
@@ -19,10 +20,6 @@ constexpr QLatin1StringView kSection = "HeadhotWizard"_L1; // spelt so in every 
 
 QString Flag(bool on) {
     return on ? u"True"_s : u"False"_s;
-}
-
-bool IsTrue(const QString &text) {
-    return text.compare(u"True"_s, Qt::CaseInsensitive) == 0;
 }
 
 #ifdef Q_OS_WIN
@@ -69,10 +66,10 @@ int StoreAlternative(Targets &targets, const QString &source, const QString &tar
 
 HeadshotImport::HeadshotImport(Session &session) : session_(session) {
     const auto read = [&](const QString &key) { return GetINIString(session_, kSection, key, {}); };
-    no_resize_left = IsTrue(read(u"NoResizeImageLeft"_s));
-    no_resize_right = IsTrue(read(u"NoResizeImageRight"_s));
+    no_resize_left = IsTrueText(read(u"NoResizeImageLeft"_s));
+    no_resize_right = IsTrueText(read(u"NoResizeImageRight"_s));
     additional_folder = read(u"AdditionalCopyFolder"_s);
-    also_copy = IsTrue(read(u"CheckAlsoCopy"_s));
+    also_copy = IsTrueText(read(u"CheckAlsoCopy"_s));
     FileListImages.SetFolder(read(u"LastFolder"_s));
 }
 

@@ -3,6 +3,7 @@
 #include "base/Files.h"
 #include "people/HeadshotFiles.h"
 #include "people/ProgressJob.h"
+#include "shell/Settings.h"
 
 #include <QFile>
 
@@ -14,23 +15,19 @@ namespace ostrand {
 
 namespace {
 
-constexpr QLatin1StringView kSection = "HeadhotWizard"_L1; // spelt so in every file: deliberate
+constexpr QLatin1StringView kManagerSection = "HeadhotWizard"_L1; // spelt so in every file: deliberate
 
 constexpr qsizetype kManyFiles = 100; ///< more of them take a moment, so that the user sees how far it is
-
-bool IsTrue(const QString &text) {
-    return text.compare(u"True"_s, Qt::CaseInsensitive) == 0;
-}
 
 } // namespace
 
 HeadshotManager::HeadshotManager(Session &session) : session_(session) {
-    no_resize_left = IsTrue(GetINIString(session_, kSection, u"NoResizeImageLeft"_s, {}));
+    no_resize_left = IsTrueText(GetINIString(session_, kManagerSection, u"NoResizeImageLeft"_s, {}));
     FileListImages.SetFolder(session_.HeadshotPath);
 }
 
 void HeadshotManager::KeepSettings() const {
-    WriteINIString(session_, kSection, u"NoResizeImageLeft"_s, no_resize_left ? u"True"_s : u"False"_s);
+    WriteINIString(session_, kManagerSection, u"NoResizeImageLeft"_s, no_resize_left ? u"True"_s : u"False"_s);
 }
 
 QString HeadshotManager::Text(const char16_t *english) const {
@@ -80,7 +77,7 @@ bool HeadshotManager::DeleteImages(const QStringList &names) {
                               .icon = MessageIcon::Question,
                               .buttons = MessageButtons::YesNo,
                               .neutral = MessageAnswer::No};
-    if (IsTrue(GetINIString(session_, kSection, u"AskOnDelete"_s, u"True"_s)) &&
+    if (IsTrueText(GetINIString(session_, kManagerSection, u"AskOnDelete"_s, u"True"_s)) &&
         ShowMessage(session_, question) != MessageAnswer::Yes) {
         return false;
     }

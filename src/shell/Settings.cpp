@@ -133,4 +133,8 @@ QString TruthText(bool value) {
     return value ? QStringLiteral("True") : QStringLiteral("False");
 }
 
+bool IsTrueText(const QString &text) {
+    return text.compare(QStringLiteral("True"), Qt::CaseInsensitive) == 0;
+}
+
 } // namespace ostrand

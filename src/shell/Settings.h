@@ -24,4 +24,7 @@ int ClampTab(int tab, int count);
 /// "True" or "False": how settings store a switch.
 QString TruthText(bool value);
 
+/// The reverse of TruthText, in any case.
+bool IsTrueText(const QString &text);
+
 } // namespace ostrand

@@ -8,14 +8,6 @@
 
 namespace ostrand {
 
-namespace {
-
-QString OfTable(const char16_t *text) {
-    return text == nullptr ? QString() : QStringView(text).toString();
-}
-
-} // namespace
-
 MenuBuilder::MenuBuilder(Commands &commands, QMenuBar &bar, QWidget &window) :
     QObject(&window), commands_(commands), views_(new QActionGroup(this)) {
     for (const MenuEntry &entry : MenuEntries()) {

@@ -32,7 +32,7 @@ struct MarkRow {
 };
 
 /// In the colours that pages of skins give them.
-constexpr MarkRow kMarks[] = {
+constexpr MarkRow kMarkChoices[] = {
     {"ReviewFilm", u"Film", &Review::Film, 0xFF0080FF},
     {"ReviewVideo", u"Video", &Review::Video, 0xFF00FF80},
     {"ReviewAudio", u"Audio", &Review::Audio, 0xFFFF8080},
@@ -119,7 +119,7 @@ QGroupBox *ProfileEventsTab::MakeReview() {
     auto *box = new QGroupBox(Text(u"Review"_s));
     auto *layout = new QGridLayout(box);
     int row = 0;
-    for (const MarkRow &mark : kMarks) {
+    for (const MarkRow &mark : kMarkChoices) {
         auto *bar = new ReviewBar;
         auto *text = new QLabel;
         layout->addWidget(LabelFor(*bar, mark.name, Text(QString::fromUtf16(mark.caption))), row, 0);

@@ -47,11 +47,6 @@ bool MayLoad(const Session &session, const QUrl &url) {
     return std::any_of(folders.begin(), folders.end(), [&](const QString &folder) { return IsInside(file, folder); });
 }
 
-bool LeadsOut(const QUrl &url) {
-    const QString scheme = url.scheme();
-    return scheme == "http"_L1 || scheme == "https"_L1 || scheme == "mailto"_L1;
-}
-
 PageLink Follow(const Session &session, const QUrl &url, bool by_click, bool is_main_frame) {
     if (LeadsOut(url)) {
         // What a frame loads of its own accord is a part of the page and no link.
@@ -61,6 +56,11 @@ PageLink Follow(const Session &session, const QUrl &url, bool by_click, bool is_
 }
 
 } // namespace
+
+bool LeadsOut(const QUrl &url) {
+    const QString scheme = url.scheme();
+    return scheme == "http"_L1 || scheme == "https"_L1 || scheme == "mailto"_L1;
+}
 
 WebEngineRules SkinRules(Session &session) {
     return {[&session](const QUrl &url) { return MayLoad(session, url); },

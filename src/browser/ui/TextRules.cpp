@@ -1,5 +1,6 @@
 #include "browser/ui/TextRules.h"
 
+#include "browser/ui/SkinRules.h"
 #include "shell/Session.h"
 
 #include <QFileInfo>
@@ -29,17 +30,12 @@ bool IsImage(const QUrl &url) {
            QStringList{u"jpg"_s, u"jpeg"_s, u"png"_s, u"gif"_s, u"bmp"_s, u"webp"_s}.contains(suffix);
 }
 
-bool MayLoad(const Session &session, const QUrl &url) {
+bool TextMayLoad(const Session &session, const QUrl &url) {
     const QString scheme = url.scheme();
     return scheme == "data"_L1 || scheme == "about"_L1 || IsTextPage(session, url) || IsImage(url);
 }
 
-bool LeadsOut(const QUrl &url) {
-    const QString scheme = url.scheme();
-    return scheme == "http"_L1 || scheme == "https"_L1 || scheme == "mailto"_L1;
-}
-
-PageLink Follow(const Session &session, const QUrl &url, bool by_click, bool is_main_frame) {
+PageLink FollowText(const Session &session, const QUrl &url, bool by_click, bool is_main_frame) {
     if (LeadsOut(url)) {
         return by_click ? PageLink::Open : PageLink::Nothing;
     }
@@ -50,9 +46,9 @@ PageLink Follow(const Session &session, const QUrl &url, bool by_click, bool is_
 } // namespace
 
 WebEngineRules TextRules(Session &session) {
-    return {.may_load = [&session](const QUrl &url) { return MayLoad(session, url); },
+    return {.may_load = [&session](const QUrl &url) { return TextMayLoad(session, url); },
             .follow = [&session](const QUrl &url, bool by_click,
-                                 bool is_main_frame) { return Follow(session, url, by_click, is_main_frame); },
+                                 bool is_main_frame) { return FollowText(session, url, by_click, is_main_frame); },
             .open_link = [&session](const QString &url) { session.services.opener.OpenUrl(url); },
             .scripts = false};
 }

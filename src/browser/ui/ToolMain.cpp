@@ -16,10 +16,6 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-QString OfTable(const char16_t *text) {
-    return text == nullptr ? QString() : QStringView(text).toString();
-}
-
 /// A title as a menu shows it: an "&" of the title is no mnemonic.
 QString MenuText(const QString &title) {
     return title.trimmed().replace(u'&', u"&&"_s);

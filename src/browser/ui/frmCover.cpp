@@ -12,8 +12,8 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr int kDesignLetters = 50;
-constexpr int kDesignLines = 35;
+constexpr int kCoverLetters = 50;
+constexpr int kCoverLines = 35;
 
 } // namespace
 
@@ -31,7 +31,7 @@ frmCover::frmCover(Browser &browser, QWidget *parent) :
     connect(&browser_, &Browser::TitleChanged, this, &frmCover::ShowCover);
     connect(&browser_, &Browser::LanguageChanged, this, &frmCover::ShowCover);
     new WindowPlace(browser_.session, u"CoverWindow"_s, this,
-                    {fontMetrics().averageCharWidth() * kDesignLetters, fontMetrics().lineSpacing() * kDesignLines});
+                    {fontMetrics().averageCharWidth() * kCoverLetters, fontMetrics().lineSpacing() * kCoverLines});
 }
 
 void frmCover::showEvent(QShowEvent *event) {

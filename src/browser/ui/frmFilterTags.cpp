@@ -23,8 +23,8 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr int kDesignLetters = 46;
-constexpr int kDesignLines = 28;
+constexpr int kFilterTagsLetters = 46;
+constexpr int kFilterTagsLines = 28;
 constexpr int kTagsLookEvery = 1000; // milliseconds between looks at tags that no routine told of
 
 void ForEachNode(const QAbstractItemModel &tree, const QModelIndex &above,
@@ -50,8 +50,9 @@ frmFilterTags::frmFilterTags(Browser &browser, QWidget *parent) :
     ConnectControls();
     LoadTags(true);
     Refresh();
-    new WindowPlace(browser_.session, u"FilterTags"_s, this,
-                    {fontMetrics().averageCharWidth() * kDesignLetters, fontMetrics().lineSpacing() * kDesignLines});
+    new WindowPlace(
+        browser_.session, u"FilterTags"_s, this,
+        {fontMetrics().averageCharWidth() * kFilterTagsLetters, fontMetrics().lineSpacing() * kFilterTagsLines});
 }
 
 void frmFilterTags::MakeControls() {

@@ -21,8 +21,8 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr int kDesignLetters = 120;
-constexpr int kDesignLines = 34;
+constexpr int kProfileLetters = 120;
+constexpr int kProfileLines = 34;
 
 } // namespace
 
@@ -43,7 +43,7 @@ frmProfile::frmProfile(Browser &browser, EngineFor engine_for,
     connect(&browser_, &Browser::DatabaseOpened, this, &frmProfile::Recompose);
     setWindowTitle(sheet_.Caption());
     new WindowPlace(browser_.session, u"ProfileInfo"_s, this,
-                    {fontMetrics().averageCharWidth() * kDesignLetters, fontMetrics().lineSpacing() * kDesignLines});
+                    {fontMetrics().averageCharWidth() * kProfileLetters, fontMetrics().lineSpacing() * kProfileLines});
 }
 
 frmProfile::~frmProfile() {
