@@ -37,8 +37,8 @@ constexpr char FoldAscii(char16_t unit) {
 
 constexpr auto kAscii = [] {
     std::array<char, 0x80> table{};
-    for (char16_t unit = 0; unit < table.size(); ++unit) {
-        table[unit] = FoldAscii(unit);
+    for (size_t unit = 0; unit < table.size(); ++unit) {
+        table[unit] = FoldAscii(char16_t(unit));
     }
     return table;
 }();

@@ -53,7 +53,7 @@ QImage ScaledImage(const QString &path, QSize place, qreal pixel_ratio, PictureG
     if (device_place.isEmpty() || stored.isEmpty()) {
         return {};
     }
-    constexpr qint64 kMegabyte = 1024 * 1024;
+    constexpr qint64 kMegabyte = 1 << 20;
     if (reader.format() == "jpeg" && JpegMemory(path) > QImageReader::allocationLimit() * kMegabyte) {
         return {};
     }
