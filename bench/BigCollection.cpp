@@ -3,6 +3,8 @@
 #include "database/DatabaseFunctions.h"
 #include "shell/Session.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace ostrand::bench {
@@ -145,6 +147,18 @@ void BigCollection::Create(Session &session, const QString &path) const {
     for (int i = 0; i < profiles; ++i) {
         writer.AddProfile(i);
     }
+}
+
+BigCollection BigCollection::OfArguments() {
+    const QStringList arguments = QCoreApplication::arguments();
+    BigCollection collection;
+    if (arguments.size() > 1) {
+        collection.profiles = std::max(arguments[1].toInt(), 100);
+    }
+    if (arguments.size() > 2) {
+        collection.credits = std::max(arguments[2].toInt(), collection.profiles);
+    }
+    return collection;
 }
 
 } // namespace ostrand::bench

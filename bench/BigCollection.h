@@ -16,6 +16,9 @@ struct BigCollection {
     /// Credits of all profiles together, a third of them of the crew.
     int credits = 800'000;
 
+    /// Of the size that the command line names: profiles, then credits.
+    static BigCollection OfArguments();
+
     /// Makes the database file, opens it in the session and fills it: titles, purchases, genres, studios, audio
     /// tracks, subtitles, features, discs, tags, overviews and credits. A tenth of the titles are boxsets with four
     /// children each. Throws SqlError.

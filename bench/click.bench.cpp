@@ -126,10 +126,5 @@ int Run(const BigCollection &collection) {
 
 int main(int argc, char *argv[]) {
     const QCoreApplication application(argc, argv);
-    ostrand::bench::BigCollection collection;
-    if (argc > 2) {
-        collection.profiles = std::max(20, QString::fromLocal8Bit(argv[1]).toInt());
-        collection.credits = std::max(collection.profiles, QString::fromLocal8Bit(argv[2]).toInt());
-    }
-    return ostrand::bench::Run(collection);
+    return ostrand::bench::Run(ostrand::bench::BigCollection::OfArguments());
 }

@@ -159,13 +159,5 @@ int Run(const BigCollection &collection) {
 
 int main(int argc, char *argv[]) {
     const QCoreApplication application(argc, argv);
-    ostrand::bench::BigCollection collection;
-    const QStringList arguments = QCoreApplication::arguments();
-    if (argc > 1) {
-        collection.profiles = std::max(arguments[1].toInt(), 100);
-    }
-    if (argc > 2) {
-        collection.credits = std::max(arguments[2].toInt(), collection.profiles);
-    }
-    return ostrand::bench::Run(collection);
+    return ostrand::bench::Run(ostrand::bench::BigCollection::OfArguments());
 }

@@ -1,8 +1,9 @@
 #include "browser/ui/FieldText.h"
 
+#include "shell/ui/FocusFrame.h"
+
 #include <QKeyEvent>
 #include <QPainter>
-#include <QStyleOptionFocusRect>
 
 namespace ostrand {
 
@@ -50,12 +51,8 @@ void FieldText::mouseDoubleClickEvent(QMouseEvent *event) {
 
 void FieldText::paintEvent(QPaintEvent *event) {
     QLabel::paintEvent(event);
-    if (hasFocus()) {
-        QPainter painter(this);
-        QStyleOptionFocusRect option;
-        option.initFrom(this);
-        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
-    }
+    QPainter painter(this);
+    DrawFocusFrame(*this, painter);
 }
 
 } // namespace ostrand

@@ -2,10 +2,10 @@
 
 #include "browser/ui/FieldText.h"
 #include "platform_qt/ThemedIcon.h"
+#include "shell/ui/FocusFrame.h"
 
 #include <QKeyEvent>
 #include <QPainter>
-#include <QStyleOptionFocusRect>
 
 namespace ostrand {
 
@@ -61,11 +61,7 @@ void MediumIcon::paintEvent(QPaintEvent *) {
     if (!icon_.isNull()) {
         icon_.paint(&painter, rect());
     }
-    if (hasFocus()) {
-        QStyleOptionFocusRect option;
-        option.initFrom(this);
-        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
-    }
+    DrawFocusFrame(*this, painter);
 }
 
 } // namespace ostrand

@@ -1,12 +1,13 @@
 #include "browser/ui/PictureView.h"
 
+#include "shell/ui/FocusFrame.h"
+
 #include <QDateTime>
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPromise>
 #include <QStyle>
-#include <QStyleOptionFocusRect>
 #include <QThreadPool>
 
 namespace ostrand {
@@ -116,11 +117,7 @@ void PictureView::paintEvent(QPaintEvent *) {
         painter.setRenderHint(QPainter::SmoothPixmapTransform, extent != picture_.deviceIndependentSize());
         painter.drawPixmap(QRectF(QPointF((width() - extent.width()) / 2, 0), extent), picture_, picture_.rect());
     }
-    if (hasFocus()) {
-        QStyleOptionFocusRect option;
-        option.initFrom(this);
-        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
-    }
+    DrawFocusFrame(*this, painter);
 }
 
 void PictureView::resizeEvent(QResizeEvent *event) {

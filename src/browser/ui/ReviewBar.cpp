@@ -1,11 +1,11 @@
 #include "browser/ui/ReviewBar.h"
 
 #include "browser/ProfileReview.h"
+#include "shell/ui/FocusFrame.h"
 
 #include <QMouseEvent>
 #include <QPainter>
 #include <QSignalBlocker>
-#include <QStyleOptionFocusRect>
 
 namespace ostrand {
 
@@ -62,11 +62,8 @@ void ReviewBar::paintEvent(QPaintEvent *) {
         const int x = field.left() + field.width() * cell / kCells;
         painter.drawLine(x, field.top(), x, field.bottom());
     }
+    DrawFocusFrame(*this, painter);
     if (hasFocus()) {
-        QStyleOptionFocusRect option;
-        option.initFrom(this);
-        option.rect = rect();
-        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
         painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
         painter.drawRect(field);
     }

@@ -1,9 +1,10 @@
 #include "shell/ui/PressedLabel.h"
 
+#include "shell/ui/FocusFrame.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QStyleOptionFocusRect>
 
 namespace ostrand {
 
@@ -47,12 +48,8 @@ void PressedLabel::keyPressEvent(QKeyEvent *event) {
 
 void PressedLabel::paintEvent(QPaintEvent *event) {
     QLabel::paintEvent(event);
-    if (hasFocus()) {
-        QPainter painter(this);
-        QStyleOptionFocusRect option;
-        option.initFrom(this);
-        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
-    }
+    QPainter painter(this);
+    DrawFocusFrame(*this, painter);
 }
 
 } // namespace ostrand
