@@ -1,7 +1,5 @@
 #include "browser/BoxsetRows.h"
 
-#include "browser/TitleRows.h"
-#include "shell/Session.h"
 #include "sql/Collation.h"
 
 #include <limits>
@@ -41,20 +39,9 @@ const std::vector<int> &RowsByKey::Find(const QString &key) const {
     return found == rows_.constEnd() ? kNone : *found;
 }
 
-BoxsetRows::BoxsetRows(Session &session) {
-    const QString statement =
-        u"SELECT b.BoxSetID, p.Title, p.ProfileID, p.SortTitle, p.OriginalSortTitle, p.Description, p.ColNo, "
-        "p.OriginalTitle, pi.PurchaseDate, p.ProdYear, p.Released, p.CustomTitle, p.CustomSortTitle "
-        "FROM (BoxSet b INNER JOIN Profiles p ON b.ChildID = p.ProfileID) "
-        "LEFT JOIN PurchaseInfo pi ON pi.ProfileID = p.ProfileID ORDER BY p.SortTitle"_s;
-    sql::Recordset record = session.Database->OpenRecordset(statement);
-    const TitleRowReader reader(session.view, record);
-    const int boxset = record.Ordinal(u"BoxSetID");
-    children_.reserve(size_t(record.RecordCount()));
-    for (; !record.Eof(); record.MoveNext()) {
-        by_boxset_.Add(record.Text(boxset), int(children_.size()));
-        children_.push_back(reader.ChildRow());
-    }
+void BoxsetRows::Add(const QString &boxset_id, TitleRow child) {
+    by_boxset_.Add(boxset_id, int(children_.size()));
+    children_.push_back(std::move(child));
 }
 
 void BoxsetRows::GetBoxsetChilds(const QString &boxset_id, int level, const QString &parent_sort_title,

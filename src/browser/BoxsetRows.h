@@ -6,8 +6,6 @@
 
 namespace ostrand {
 
-struct Session;
-
 /// Row numbers by a key that the database compares, such as the children of a boxset by its ProfileID.
 class RowsByKey {
 public:
@@ -20,12 +18,11 @@ private:
     mutable QByteArray wanted_; ///< the key that is looked for, whose room serves the next one
 };
 
-/// Reads the children of all boxsets at once: a statement for each title of the list would cost more than the list.
+/// The children of all boxsets.
 class BoxsetRows {
 public:
-    /// Throws SqlError.
-    explicit BoxsetRows(Session &session);
-
+    /// A child behind the other children of its boxset.
+    void Add(const QString &boxset_id, TitleRow child);
     /// Adds the children of a boxset behind `rows`, each followed by its own children. A title that was added before,
     /// be it under another parent or because a boxset contains itself, is left out with all below it: it stands in the
     /// list already.

@@ -9,6 +9,7 @@
 #include "browser/FindBox.h"
 #include "browser/History.h"
 #include "browser/ProfileContent.h"
+#include "browser/TabTitles.h"
 #include "browser/TitleList.h"
 
 #include <QObject>
@@ -28,6 +29,7 @@ public:
     Commands commands;
 
     TitleList listSeries;
+    TabTitles tab_titles;
     FindBox find{*this};
     EpisodeList listEpisodes;
     /// The seasons of the selected series, and the selected one; -1 for none.

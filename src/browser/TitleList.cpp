@@ -1,28 +1,12 @@
 #include "browser/TitleList.h"
 
 #include "browser/KeySet.h"
-#include "sql/Collation.h"
 
-#include <QtEndian>
-
-#include <cstring>
 #include <numeric>
 
 namespace ostrand {
 
 namespace {
-
-/// A row while it is sorted, with the first bytes of its key, which tell most rows apart.
-struct SortEntry {
-    quint64 start;
-    int row;
-};
-
-quint64 StartOf(std::string_view key) {
-    quint64 start = 0;
-    std::memcpy(&start, key.data(), std::min(key.size(), sizeof start));
-    return qFromBigEndian(start);
-}
 
 bool IsOfTitle(const TitleRow &row, const QString &id) {
     return !row.header && QStringView(row.key).left(row.key.indexOf(u'|')).compare(id, Qt::CaseInsensitive) == 0;
@@ -91,7 +75,12 @@ int TitleList::Assign(std::vector<TitleRow> rows) {
     keys.Reserve(qsizetype(rows.size()));
     const size_t clashes = std::erase_if(rows, [&keys](const TitleRow &row) { return !keys.Add(row.key); });
     beginResetModel();
-    rows_ = std::move(rows);
+    rows_.swap(rows);
+    if (!rows.empty()) {
+        // Many texts take their time to be freed: the turn after the one that fills the list has it.
+        auto free = [before = std::move(rows)] {};
+        QMetaObject::invokeMethod(this, std::move(free), Qt::QueuedConnection);
+    }
     keyed_column_ = -1;
     ++order_;
     if (sorted_) {
@@ -257,58 +246,31 @@ void TitleList::MakeSortKeys() {
     if (keyed_column_ == sort_column_) {
         return;
     }
-    constexpr int kUsualLength = 32;
     keyed_column_ = sort_column_;
-    sort_keys_.resize(0);
-    sort_keys_.reserve(qsizetype(rows_.size()) * kUsualLength);
-    key_places_.clear();
-    key_places_.reserve(rows_.size());
+    sort_keys_.Clear();
+    sort_keys_.Reserve(rows_.size());
     for (const TitleRow &row : rows_) {
-        const auto start = quint32(sort_keys_.size());
-        sql::AppendSortKey(row.texts[size_t(sort_column_)], sort_keys_);
-        key_places_.push_back({start, quint32(sort_keys_.size()) - start});
+        sort_keys_.Append(row.texts[size_t(sort_column_)]);
     }
-}
-
-std::string_view TitleList::KeyOf(int row) const {
-    const KeyPlace &place = key_places_[size_t(row)];
-    return {sort_keys_.constData() + place.start, place.size};
 }
 
 std::vector<int> TitleList::SortRows() {
     MakeSortKeys();
-    std::vector<SortEntry> entries;
-    entries.reserve(rows_.size());
-    for (int row = 0; row < int(rows_.size()); ++row) {
-        entries.push_back({StartOf(KeyOf(row)), row});
-    }
-    const auto is_less = [this](const SortEntry &a, const SortEntry &b) {
-        return a.start != b.start ? a.start < b.start : KeyOf(a.row) < KeyOf(b.row);
-    };
-    if (sort_order_ == Order::Ascending) {
-        std::stable_sort(entries.begin(), entries.end(), is_less);
-    } else {
-        std::stable_sort(entries.begin(), entries.end(),
-                         [&is_less](const SortEntry &a, const SortEntry &b) { return is_less(b, a); });
-    }
+    const std::vector<int> order = sort_keys_.Order(sort_order_ == Order::Descending);
     std::vector<int> new_places(rows_.size());
-    if (std::is_sorted(entries.begin(), entries.end(),
-                       [](const SortEntry &a, const SortEntry &b) { return a.row < b.row; })) {
+    if (std::is_sorted(order.begin(), order.end())) {
         std::iota(new_places.begin(), new_places.end(), 0); // a list that was read in its order stays as it is
         return new_places;
     }
     std::vector<TitleRow> sorted;
     sorted.reserve(rows_.size());
-    std::vector<KeyPlace> sorted_places;
-    sorted_places.reserve(rows_.size());
-    for (const SortEntry &entry : entries) {
-        new_places[size_t(entry.row)] = int(sorted.size());
-        sorted.push_back(std::move(rows_[size_t(entry.row)]));
-        sorted_places.push_back(key_places_[size_t(entry.row)]);
+    for (const int row : order) {
+        new_places[size_t(row)] = int(sorted.size());
+        sorted.push_back(std::move(rows_[size_t(row)]));
     }
     ++order_;
     rows_ = std::move(sorted);
-    key_places_ = std::move(sorted_places);
+    sort_keys_.Rearrange(order);
     return new_places;
 }
 

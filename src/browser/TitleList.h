@@ -1,10 +1,11 @@
 // The rows of listSeries: the titles of a collection tab, or the series.
 #pragma once
 
+#include "sql/SortKeys.h"
+
 #include <QAbstractTableModel>
 
 #include <functional>
-#include <string_view>
 
 namespace ostrand {
 
@@ -100,15 +101,8 @@ Q_SIGNALS:
 
 private:
     Colour ColourOf(int row) const;
-    /// Where the sort key of a row stands among those of all rows.
-    struct KeyPlace {
-        quint32 start;
-        quint32 size;
-    };
-
     /// Makes the sort keys of the column that sorts, unless they are there.
     void MakeSortKeys();
-    std::string_view KeyOf(int row) const;
     /// Orders all rows; returns where each one went.
     std::vector<int> SortRows();
     /// By row, the one that it stands below; -1 for none.
@@ -124,9 +118,7 @@ private:
     int order_ = 0;
     std::vector<int> parents_; ///< see Parents; made for `parents_order_`
     int parents_order_ = -1;
-    // The keys of `keyed_column_` one behind the other, kept since a list is often sorted again the other way.
-    QByteArray sort_keys_;
-    std::vector<KeyPlace> key_places_; ///< in the order of the rows
+    sql::SortKeys sort_keys_; ///< of `keyed_column_`; kept since a list is often sorted again the other way
     int keyed_column_ = -1;
     QStringList headers_;
     std::array<double, kTitleColumns> widths_ = {0.78, 0, 0, 0, 0, 0};

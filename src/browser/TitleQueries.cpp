@@ -1,6 +1,5 @@
 #include "browser/TitleQueries.h"
 
-#include "browser/BoxsetRows.h"
 #include "browser/Browser.h"
 #include "browser/ListFilling.h"
 #include "browser/TitleRows.h"
@@ -11,61 +10,6 @@ namespace ostrand {
 namespace {
 
 using namespace Qt::StringLiterals;
-
-/// What the tab "Owned" shows besides its own type. The settings write the types with "|" between them and they are
-/// split at blanks here, deliberately: two or more of them name one type that nothing has.
-QString IncludedTypes(const ViewState &view, const QString &tab) {
-    QString clauses;
-    if (tab == "Owned"_L1 && !view.IncludeInOwned.isEmpty()) {
-        for (const QString &part : view.IncludeInOwned.split(u' ')) {
-            clauses += u" OR ColType = '%1'"_s.arg(part);
-        }
-    }
-    return clauses;
-}
-
-/// The names of tabs go in unescaped, deliberately.
-QString TypeCondition(const ViewState &view, const QString &tab) {
-    return "ColType = '"_L1 + tab + u'\'' + IncludedTypes(view, tab);
-}
-
-QString TitleStatement(const ViewState &view, const QString &tab) {
-    QString statement = u"SELECT Title, ColNo, SortTitle, OriginalSortTitle, Description, p.ProfileID, OriginalTitle, "
-                        "PurchaseDate, ProdYear, Released, CustomTitle, CustomSortTitle "
-                        "FROM Profiles p LEFT JOIN PurchaseInfo pi ON pi.ProfileID = p.ProfileID "_s;
-    const bool all = tab == "All"_L1;
-    if (view.BoxsetView) {
-        statement += "WHERE "_L1;
-        if (!all) {
-            statement += " ("_L1 + TypeCondition(view, tab) + ") AND "_L1;
-        }
-        statement += "p.ProfileID NOT IN (SELECT ChildID FROM BoxSet b, Profiles p WHERE b.ChildID = p.ProfileID)"_L1;
-    } else if (!all) {
-        statement += " WHERE "_L1 + TypeCondition(view, tab);
-    }
-    return statement + (view.mUseOriginalTitle ? " ORDER BY OriginalSortTitle, OriginalTitle, SortTitle, Title"_L1
-                                               : " ORDER BY SortTitle, Title"_L1);
-}
-
-std::vector<TitleRow> ReadTitles(Session &session, const QString &tab) {
-    sql::Recordset record = session.Database->OpenRecordset(TitleStatement(session.view, tab));
-    const TitleRowReader reader(session.view, record);
-    std::optional<BoxsetRows> boxsets;
-    if (session.view.BoxsetView) {
-        boxsets.emplace(session);
-    }
-    std::vector<TitleRow> rows;
-    rows.reserve(size_t(record.RecordCount()));
-    for (; !record.Eof(); record.MoveNext()) {
-        rows.push_back(reader.TopRow());
-        if (boxsets) {
-            const QString id = rows.back().key;
-            const QString sort_key = rows.back().texts[TitleList::SortTitle];
-            boxsets->GetBoxsetChilds(id, 1, sort_key, rows);
-        }
-    }
-    return rows;
-}
 
 /// Tells windows of the time in which the list is filled, whichever way that ends.
 class Filling {
@@ -101,7 +45,7 @@ void FillMovieNames(Browser &browser) {
     browser.SpecialOrder = false;
     try {
         if (session.Database) {
-            browser.listSeries.Assign(ReadTitles(session, tab));
+            browser.listSeries.Assign(browser.tab_titles.Read(session, tab));
         }
     } catch (const sql::SqlError &error) {
         // A tab whose name holds a quote makes a faulty statement; its list is empty.

@@ -33,23 +33,29 @@ void WriteWhole(Session &session, const SiteOptions &options) {
     session.Database->Flush();
 }
 
+/// The empty name and those of the saved queries.
+QStringList SavedQueries(Session &session) {
+    QStringList names{QString()};
+    sql::Recordset rows = session.Database->OpenRecordset(u"SELECT Name FROM SQLQueries ORDER BY Name");
+    for (; !rows.Eof(); rows.MoveNext()) {
+        names += rows.Text(0);
+    }
+    return names;
+}
+
 } // namespace
 
 SiteForm::SiteForm(Session &session, SiteHost host) :
     options(LoadSiteOptions(session)), col_types(session, SiteColTypes(session, options)),
-    media_skins(session, options.MediaSkins), session_(session), host_(std::move(host)) {}
+    media_skins(session, options.MediaSkins), session_(session), host_(std::move(host)),
+    filters_(SavedQueries(session)) {}
 
 QStringList SiteForm::Skins(const QString &chosen) const {
     return WithChosen(SkinNames(session_), chosen);
 }
 
 QStringList SiteForm::Filters() const {
-    QStringList names{QString()};
-    sql::Recordset rows = session_.Database->OpenRecordset(u"SELECT Name FROM SQLQueries ORDER BY Name");
-    for (; !rows.Eof(); rows.MoveNext()) {
-        names += rows.Text(0);
-    }
-    return WithChosen(names, options.Filter);
+    return WithChosen(filters_, options.Filter);
 }
 
 bool SiteForm::ListsEpisodes(const QString &skin) const {

@@ -43,6 +43,7 @@ private:
 
     Session &session_;
     SiteHost host_;
+    QStringList filters_; ///< read with all else that may fail, before a window makes its controls
     bool running_ = false;
 };
 

@@ -73,6 +73,14 @@ void Recordset::MoveFirst() {
     data_->current = 0;
 }
 
+void Recordset::MoveTo(int row) {
+    if (row < 0 || row >= data_->rows) {
+        throw NoRow();
+    }
+    CancelUpdate();
+    data_->current = row;
+}
+
 int Recordset::RecordCount() const {
     return data_->rows;
 }

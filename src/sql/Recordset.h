@@ -35,6 +35,8 @@ public:
     bool Eof() const;
     void MoveNext();
     void MoveFirst();
+    /// To any row, counted from 0; throws NoCurrentRecord for one that is not there.
+    void MoveTo(int row);
     int RecordCount() const;
     bool IsEmpty() const { return RecordCount() == 0; }
 

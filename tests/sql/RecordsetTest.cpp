@@ -76,6 +76,18 @@ TEST_F(RecordsetTest, AnyRowIsReadWhereverTheCursorStands) {
     EXPECT_EQ(FaultOf([&] { rows.TextAt(0, 4); }), int(ErrorCode::ItemNotFound));
 }
 
+TEST_F(RecordsetTest, MovesToAnyRow) {
+    Recordset rows = Open(u"SELECT Title FROM Films ORDER BY FilmID"_s);
+    rows.MoveTo(1);
+    EXPECT_EQ(rows.Text(0), u"Harbour"_s);
+    rows.MoveTo(0);
+    EXPECT_EQ(rows.Text(0), u"Mill"_s);
+    for (const int row : {-1, 2}) {
+        EXPECT_EQ(FaultOf([&] { rows.MoveTo(row); }), int(ErrorCode::NoCurrentRecord)) << row;
+        EXPECT_EQ(rows.Text(0), u"Mill"_s) << "it stays where it was";
+    }
+}
+
 TEST_F(RecordsetTest, ReadsValuesAndTheirTexts) {
     Recordset rows = Open(u"SELECT * FROM Films ORDER BY FilmID"_s);
     ASSERT_EQ(rows.RecordCount(), 2);
