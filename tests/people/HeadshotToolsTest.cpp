@@ -7,7 +7,6 @@
 
 #include "database/CollectionFixture.h"
 
-
 using namespace Qt::StringLiterals;
 
 namespace ostrand {
