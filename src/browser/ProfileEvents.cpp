@@ -2,6 +2,7 @@
 
 #include "database/DatabaseFunctions.h"
 #include "database/EventIds.h"
+#include "database/RecordOperations.h"
 #include "database/TitleLocks.h"
 #include "shell/Session.h"
 
@@ -159,13 +160,12 @@ void ProfileEvents::Add(const SheetTitle &title, const EventInput &input) {
         return;
     }
     const TitleEvent event = FromInput(input);
-    {
-        const sql::Database::Bracket bracket(*session_.Database);
+    WriteTogether(session_, [&] {
         for (const QString &user : users.Checked()) {
             Insert(title, user, event);
             FollowLoan(title, user, event);
         }
-    }
+    });
     RememberType(event.type);
     Finish(title);
 }
