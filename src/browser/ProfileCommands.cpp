@@ -294,7 +294,13 @@ void MoveSelectedProfiles(Browser &browser) {
     if (type.isEmpty()) {
         return;
     }
-    WithEach(browser, u"Moving profiles"_s, ids, [&](const QString &id) { MoveProfile(browser.session, id, type); });
+    try {
+        WithEach(browser, u"Moving profiles"_s, ids,
+                 [&](const QString &id) { MoveProfile(browser.session, id, type); });
+    } catch (const sql::SqlError &) {
+        ShowChangedProfiles(browser, ids, {}); // some may have moved
+        throw;
+    }
     ShowChangedProfiles(browser, ids, {});
 }
 
