@@ -5,7 +5,6 @@
 #include "browser/Navigation.h"
 #include "browser/ui/FindEdit.h"
 #include "browser/ui/Guarded.h"
-#include "shell/Session.h"
 
 #include <QAbstractItemView>
 #include <QContextMenuEvent>
@@ -120,7 +119,7 @@ void TitleListPanel::MakeFilterBox() {
     comboFilter_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     connect(comboFilter_, &FilterBox::AboutToOpen, this, [this] { OpenFilterList(browser_); });
     connect(comboFilter_, &QComboBox::textActivated, this,
-            [this](const QString &text) { ChooseFilter(browser_, text); });
+            [this](const QString &text) { Guarded(browser_.session, [&] { ChooseFilter(browser_, text); }); });
     connect(&browser_, &Browser::FilterChanged, this, &TitleListPanel::ShowFilters);
 }
 
