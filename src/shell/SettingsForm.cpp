@@ -1,7 +1,6 @@
 #include "shell/SettingsForm.h"
 
 #include "base/Files.h"
-#include "base/Text.h"
 #include "database/DatabaseFunctions.h"
 #include "database/RecordOperations.h"
 #include "shell/Session.h"
