@@ -6,9 +6,9 @@
 #include "browser/Views.h"
 #include "browser/ui/ActorView.h"
 #include "browser/ui/GridDelegate.h"
-#include "browser/ui/Guarded.h"
 #include "browser/ui/MediumIcon.h"
 #include "browser/ui/PictureView.h"
+#include "shell/ui/Guarded.h"
 
 #include <QHeaderView>
 #include <QResizeEvent>

@@ -4,10 +4,10 @@
 #include "browser/CollectionTabs.h"
 #include "browser/ui/CreditListView.h"
 #include "browser/ui/CrewFrame.h"
-#include "browser/ui/Guarded.h"
 #include "browser/ui/PanelTabs.h"
 #include "browser/ui/ProfileAV.h"
 #include "browser/ui/ProfileDetails.h"
+#include "shell/ui/Guarded.h"
 #include "shell/ui/SplitPanel.h"
 
 #include <QScopedValueRollback>

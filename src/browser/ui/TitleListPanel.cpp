@@ -4,7 +4,7 @@
 #include "browser/CollectionTabs.h"
 #include "browser/Navigation.h"
 #include "browser/ui/FindEdit.h"
-#include "browser/ui/Guarded.h"
+#include "shell/ui/Guarded.h"
 
 #include <QAbstractItemView>
 #include <QContextMenuEvent>

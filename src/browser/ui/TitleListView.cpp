@@ -4,8 +4,8 @@
 #include "browser/Navigation.h"
 #include "browser/TitleQueries.h"
 #include "browser/TypedSearch.h"
-#include "browser/ui/Guarded.h"
 #include "browser/ui/TitleDelegate.h"
+#include "shell/ui/Guarded.h"
 
 #include <QContextMenuEvent>
 #include <QHeaderView>

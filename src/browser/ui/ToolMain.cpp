@@ -3,8 +3,8 @@
 #include "browser/Browser.h"
 #include "browser/Navigation.h"
 #include "browser/ToolBarTable.h"
-#include "browser/ui/Guarded.h"
 #include "platform_qt/ThemedIcon.h"
+#include "shell/ui/Guarded.h"
 
 #include <QAction>
 #include <QMenu>
