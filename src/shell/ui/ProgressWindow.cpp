@@ -97,23 +97,24 @@ void ProgressWindow::ShowAs(Qt::WindowModality modality) {
     if (open && windowModality() == modality) {
         return;
     }
-    QWidget *active = QApplication::activeWindow();
+    QWidget *window = windows_.Get();
+    const bool foreground = windows_.InForeground();
     if (open) {
         hide();
     }
     setWindowModality(modality);
     // A program in the background stays there.
-    setAttribute(Qt::WA_ShowWithoutActivating, active == nullptr);
+    setAttribute(Qt::WA_ShowWithoutActivating, !foreground);
     winId();
-    if (active && active != this) {
-        windowHandle()->setTransientParent(active->windowHandle());
+    if (window && window != this) {
+        windowHandle()->setTransientParent(window->windowHandle());
         if (!open) {
             const QRect frame(QPoint(), size());
-            move(active->geometry().center() - frame.center());
+            move(window->geometry().center() - frame.center());
         }
     }
     show();
-    if (active) {
+    if (foreground) {
         activateWindow(); // while it was hidden, the desktop may have turned to another
     }
 }
