@@ -11,6 +11,7 @@
 #include <QListWidget>
 #include <QRegularExpression>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTabWidget>
 #include <QTest>
 #include <QTimer>
@@ -212,6 +213,19 @@ TEST_F(SettingsWindow, TextsAreTranslated) {
     Show();
     EXPECT_EQ(Find<QCheckBox>(u"chkShowToolbar"_s)->text(), u"&Leiste && Knöpfe"_s);
     EXPECT_EQ(Find<QCheckBox>(u"chkShowToolbar"_s)->accessibleName(), u"Leiste & Knöpfe"_s);
+}
+
+TEST_F(SettingsWindow, ComesUpWithEachPageWhole) {
+    Show();
+    auto *tabs = Find<QTabWidget>(u"tabSettings"_s);
+    for (int i = 0; i < tabs->count(); ++i) {
+        tabs->setCurrentIndex(i);
+        QCoreApplication::processEvents();
+        const auto *area = qobject_cast<QScrollArea *>(tabs->widget(i));
+        ASSERT_TRUE(area);
+        EXPECT_EQ(area->verticalScrollBar()->maximum(), 0) << i;
+        EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0) << i;
+    }
 }
 
 TEST_F(SettingsWindow, FitsASmallScreenAtTwiceTheScale) {

@@ -1,6 +1,7 @@
 #include "shell/ui/frmSettings.h"
 
 #include "shell/Session.h"
+#include "shell/ui/PageArea.h"
 #include "shell/ui/TextSize.h"
 
 #include <QCheckBox>
@@ -9,7 +10,6 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QListWidget>
-#include <QScrollArea>
 #include <QTabWidget>
 
 namespace ostrand {
@@ -69,12 +69,7 @@ QWidget *frmSettings::MakePage(const QString &page) {
         }
     }
     layout->addStretch();
-    auto *area = new QScrollArea; // a page may be higher than a small screen
-    area->setFrameShape(QFrame::NoFrame);
-    area->setWidgetResizable(true);
-    area->setWidget(content);
-    area->setFocusPolicy(Qt::NoFocus);
-    return area;
+    return new PageArea(content);
 }
 
 QWidget *frmSettings::MakeGroup(const SettingsGroupTexts &group) {
