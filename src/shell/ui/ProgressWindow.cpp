@@ -131,6 +131,7 @@ void ProgressWindow::Opened(const QString &title) {
     treeDetails_->setAccessibleName(Translate(translator_, u"Details"_s));
     progress_->setAccessibleName(Translate(translator_, u"Progress"_s));
     setWindowTitle(title);
+    layout()->activate(); // or the tree of a job before would still hold its room
     resize(DesignSize(false));
     ShowAs(Qt::ApplicationModal);
     // The job may go on for a while before it gives the next turn.
