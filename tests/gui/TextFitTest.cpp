@@ -79,6 +79,9 @@ protected:
                 << GetParam() << ' ' << qPrintable(shown_name);
             Photograph(window, shown_name);
         }
+        // Of a screen of 1366 x 768 points at twice the scale.
+        EXPECT_LE(window.minimumSizeHint().width(), 683) << GetParam() << ' ' << qPrintable(name);
+        EXPECT_LE(window.minimumSizeHint().height(), 384) << GetParam() << ' ' << qPrintable(name);
     }
     void CheckAndClose(QWidget &window, const QString &name) {
         Check(window, name);

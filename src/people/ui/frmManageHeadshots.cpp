@@ -86,7 +86,7 @@ void frmManageHeadshots::MakeList(QBoxLayout &layout) {
     FileListImages_->setModel(&manager_.FileListImages);
     FileListImages_->setUniformItemSizes(true);
     FileListImages_->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    FileListImages_->setMinimumWidth(fontMetrics().averageCharWidth() * 26);
+    FileListImages_->setMinimumWidth(fontMetrics().averageCharWidth() * 16);
     LetCopy(*FileListImages_);
     OnDelete(*FileListImages_, u"Delete Images", [this] { DeleteSelected(); });
     row->addWidget(listAlphabeth_);
