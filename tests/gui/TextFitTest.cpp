@@ -209,6 +209,7 @@ TEST_P(TextFit, TheWindowsOfPersons) {
     frmCrossLinks links(session);
     CheckAndClose(links, u"frmCrossLinks"_s);
     frmManageHeadshots manage(session);
+    test::FindControl<QLabel>(manage, "labelImageSizeExisting")->setText(u"1000 x 1400 / 1000.5 kBytes"_s);
     CheckAndClose(manage, u"frmManageHeadshots"_s);
     frmCompare compare(session);
     CheckAndClose(compare, u"frmCompare"_s);

@@ -102,7 +102,6 @@ void frmCompare::MakeButtons(QBoxLayout &layout) {
     editor->setObjectName(u"labelClickHere"_s);
     const QString caption = Text(u"Click here to change Editor");
     editor->setText(caption);
-    editor->setWordWrap(true);
     editor->SetPressable(true);
     editor->setAccessibleName(caption);
     editor->setToolTip(Text(u"Chooses the program that edits pictures"));
