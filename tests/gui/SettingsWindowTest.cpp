@@ -215,6 +215,23 @@ TEST_F(SettingsWindow, TextsAreTranslated) {
     EXPECT_EQ(Find<QCheckBox>(u"chkShowToolbar"_s)->accessibleName(), u"Leiste & Knöpfe"_s);
 }
 
+TEST_F(SettingsWindow, NumbersRefuseWhatIsNoNumber) {
+    Show();
+    const struct {
+        QString control, typed, shown;
+    } cases[] = {
+        {u"textLoanPeriod"_s, u"1x2-,4"_s, u"124"_s},
+        {u"textFontSize"_s, u"a9x.2,5"_s, u"9.25"_s},
+        {u"textFontSize"_s, u"10,5 pt"_s, u"10,5"_s},
+    };
+    for (const auto &c : cases) {
+        auto *edit = Find<QLineEdit>(c.control);
+        edit->clear();
+        QTest::keyClicks(edit, c.typed);
+        EXPECT_EQ(edit->text(), c.shown) << qPrintable(c.typed);
+    }
+}
+
 TEST_F(SettingsWindow, ComesUpWithEachPageWhole) {
     Show();
     auto *tabs = Find<QTabWidget>(u"tabSettings"_s);

@@ -10,6 +10,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QListWidget>
+#include <QRegularExpressionValidator>
 #include <QTabWidget>
 
 namespace ostrand {
@@ -98,6 +99,9 @@ void frmSettings::AddEntry(QFormLayout &layout, const SettingsEntry &entry) {
     case SettingsEntryKind::WholeNumber:
     case SettingsEntryKind::FontSize: {
         QLineEdit *edit = MakeText(entry);
+        const bool whole = entry.kind == SettingsEntryKind::WholeNumber;
+        const QRegularExpression number(whole ? u"[0-9]*"_s : u"[0-9]*([.,][0-9]*)?"_s);
+        edit->setValidator(new QRegularExpressionValidator(number, edit)); // other values would not be kept
         edit->setMaximumWidth(fontMetrics().averageCharWidth() * 14);
         AddLabelled(layout, entry, edit, edit);
         break;
