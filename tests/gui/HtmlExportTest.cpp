@@ -546,6 +546,22 @@ TEST_F(HtmlExportWindow, FitsASmallScreenAtTwiceTheScale) {
     }
 }
 
+TEST_F(HtmlExportWindow, CtrlTabTurnsThePages) {
+    Show();
+    auto *tabs = Find<QTabWidget>("tabHTMLExport");
+    const int count = tabs->count();
+    for (const auto &[from, widget] : {std::pair(0, static_cast<QWidget *>(Find<QLineEdit>("textExportPath"))),
+                                       std::pair(count - 1, static_cast<QWidget *>(Button("cbStart")))}) {
+        tabs->setCurrentIndex(from);
+        widget->setFocus();
+        QTest::keyClick(widget, Qt::Key_Tab, Qt::ControlModifier);
+        EXPECT_EQ(tabs->currentIndex(), (from + 1) % count);
+        widget->setFocus();
+        QTest::keyClick(widget, Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+        EXPECT_EQ(tabs->currentIndex(), from);
+    }
+}
+
 TEST_F(HtmlExportWindow, OnANarrowScreenThePagesScrollDownOnly) {
     Show();
     auto *tabs = Find<QTabWidget>("tabHTMLExport");

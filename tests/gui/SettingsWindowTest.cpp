@@ -232,6 +232,22 @@ TEST_F(SettingsWindow, NumbersRefuseWhatIsNoNumber) {
     }
 }
 
+TEST_F(SettingsWindow, CtrlTabTurnsThePages) {
+    Show();
+    auto *tabs = Find<QTabWidget>(u"tabSettings"_s);
+    const int count = tabs->count();
+    for (const auto &[from, widget] : {std::pair(0, static_cast<QWidget *>(Find<QPushButton>(u"cbOK"_s))),
+                                       std::pair(count - 1, static_cast<QWidget *>(tabs->tabBar()))}) {
+        tabs->setCurrentIndex(from);
+        widget->setFocus();
+        QTest::keyClick(widget, Qt::Key_Tab, Qt::ControlModifier);
+        EXPECT_EQ(tabs->currentIndex(), (from + 1) % count);
+        widget->setFocus();
+        QTest::keyClick(widget, Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+        EXPECT_EQ(tabs->currentIndex(), from);
+    }
+}
+
 TEST_F(SettingsWindow, ComesUpWithEachPageWhole) {
     Show();
     auto *tabs = Find<QTabWidget>(u"tabSettings"_s);

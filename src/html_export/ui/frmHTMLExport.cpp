@@ -76,6 +76,7 @@ frmHTMLExport::frmHTMLExport(Session &session, SiteHost host, QWidget *parent) :
     const int widest = std::max(first->minimumSizeHint().width(), second->minimumSizeHint().width());
     tabs->addTab(new PageArea(first), pages);
     tabs->addTab(new PageArea(second), lists);
+    LetTurnPages(*tabs, *this);
     path_->setFocus();
     const int letters = widest / fontMetrics().averageCharWidth() + kMarginLetters;
     ResizeToText(*this, std::max(kWindowLetters, letters), kWindowLines);

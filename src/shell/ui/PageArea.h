@@ -3,6 +3,8 @@
 
 #include <QScrollArea>
 
+class QTabWidget;
+
 namespace ostrand {
 
 /// Shows a page whole where there is room, and scrolls it on a screen that is too small.
@@ -13,5 +15,8 @@ public:
 
     QSize sizeHint() const override;
 };
+
+/// Ctrl+Tab and Ctrl+Shift+Tab turn the pages from everywhere in the window, not only from within them.
+void LetTurnPages(QTabWidget &tabs, QWidget &window);
 
 } // namespace ostrand

@@ -58,6 +58,7 @@ QTabWidget *frmSettings::MakePages() {
         keys_ = keys; // one page is seen at a time
         tabs->addTab(MakePage(page), title);
     }
+    LetTurnPages(*tabs, *this);
     return tabs;
 }
 
