@@ -315,5 +315,30 @@ TEST_F(FindBoxTest, NarrowsSeriesInTVView) {
     EXPECT_EQ(Find(u"amber"_s), QStringList{u"A"_s});
 }
 
+TEST_F(FindBoxTest, ATitleThatWasHiddenIsRememberedWhenItIsLeft) {
+    GetMovieNames(browser);
+    MoveToRow(browser, browser.listSeries.RowOfTitle(u"D"_s));
+    browser.history.Clear();
+    Find(u"amber"_s);
+    ASSERT_LT(browser.current_row, 0);
+    MoveIntoList(browser);
+    EXPECT_EQ(Current(), u"A"_s);
+    EXPECT_EQ(browser.history.Back(), (QList<HistoryEntry>{{u"D"_s, u"Dune's End"_s}}));
+    MoveIntoList(browser);
+    EXPECT_EQ(browser.history.Back().size(), 1) << "a row is current";
+    Find(u"nothing like it"_s);
+    MoveIntoList(browser);
+    EXPECT_EQ(browser.current_row, -1);
+}
+
+TEST_F(FindBoxTest, GroupsAreEnteredBelowTheirHeader) {
+    Run(u"UPDATE Profiles SET Rating = 'PG'");
+    SpecialProfileOrder(browser, u"Rating"_s);
+    Find(u"dune"_s);
+    browser.current_row = -1;
+    MoveIntoList(browser);
+    EXPECT_EQ(Current(), u"D|1"_s);
+}
+
 } // namespace
 } // namespace ostrand
