@@ -4,7 +4,9 @@
 #include "shell/ui/frmBrowseFolder.h"
 #include "support/Scripted.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
+#include <QCompleter>
 #include <QDir>
 #include <QTest>
 #include <QTimer>
@@ -78,6 +80,29 @@ TEST(InputDialogTest, AListOffersItsValuesAndTakesFreeText) {
         FindControl<QPushButton>(window, "cbOK")->click();
     });
     EXPECT_EQ(dialogs.InputCombo(u"?"_s, {}, {u"Ann"_s, u"Zoe"_s}, {}), u"An"_s);
+}
+
+TEST(InputDialogTest, EnterAnswersWithTheListOfMatchesOpen) {
+    WindowDialogs dialogs;
+    const struct {
+        QString typed;
+        int downs; // to an entry of the list
+        QString answer;
+    } cases[] = {{u"Ann"_s, 0, u"Ann"_s}, {u"an"_s, 0, u"an"_s}, {u"an"_s, 2, u"Joann"_s}};
+    for (const auto &row : cases) {
+        WithModal<frmSQLUserInput>([&row](frmSQLUserInput &window) {
+            auto *combo = FindControl<QComboBox>(window, "comboVarValues");
+            QTest::keyClicks(combo->lineEdit(), row.typed);
+            QAbstractItemView *matches = combo->completer()->popup();
+            ASSERT_TRUE(matches->isVisible());
+            for (int i = 0; i < row.downs; ++i) {
+                QTest::keyClick(matches, Qt::Key_Down);
+            }
+            QTest::keyClick(matches, Qt::Key_Return);
+            QTimer::singleShot(500, &window, &QDialog::reject); // not reached
+        });
+        EXPECT_EQ(dialogs.InputCombo(u"?"_s, {}, {u"Ann"_s, u"Joann"_s, u"Zoe"_s}, {}), row.answer);
+    }
 }
 
 TEST(InputDialogTest, AnEmptyListIsAListToo) {

@@ -34,7 +34,6 @@ CreditListView::CreditListView(Browser &browser, CreditList &credits, const QStr
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setSelectionMode(QAbstractItemView::SingleSelection);
     header()->setSectionsClickable(true);
-    header()->setTextElideMode(Qt::ElideRight);
     header()->setSectionsMovable(true);
     header()->setFirstSectionMovable(true);
     auto *columns = new FractionColumns(this);

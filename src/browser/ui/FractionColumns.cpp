@@ -10,6 +10,7 @@ namespace ostrand {
 FractionColumns::FractionColumns(QTreeView *list) : QObject(list), list_(list) {
     list_->header()->setStretchLastSection(false);
     list_->header()->setMinimumSectionSize(0);
+    list_->header()->setTextElideMode(Qt::ElideRight);
     list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list_->viewport()->installEventFilter(this);
     connect(list_->header(), &QHeaderView::sectionResized, this, [this](int column, int, int size) {

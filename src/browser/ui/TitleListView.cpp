@@ -29,6 +29,7 @@ TitleListView::TitleListView(Browser &browser, QWidget *parent) :
     header()->setSectionsMovable(false);
     header()->setStretchLastSection(false);
     header()->setMinimumSectionSize(0);
+    header()->setTextElideMode(Qt::ElideRight);
     connect(header(), &QHeaderView::sectionResized, this,
             [this](int column, int, int size) { KeepWidth(column, size); });
     connect(header(), &QHeaderView::sectionClicked, this, [this](int column) { SortByHeader(browser_, column); });

@@ -1,5 +1,6 @@
 #include "queries/ui/frmSQLUserInput.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QCompleter>
 #include <QDialogButtonBox>
@@ -52,6 +53,12 @@ frmSQLUserInput::frmSQLUserInput(const Translator &translator, const QString &pr
     comboVarValues_->setObjectName(u"comboVarValues"_s);
     comboVarValues_->setAccessibleName(prompt);
     PrepareCombo(*comboVarValues_);
+    // The list of what holds the text swallows the key that answers.
+    connect(comboVarValues_->lineEdit(), &QLineEdit::returnPressed, this, [this] {
+        if (comboVarValues_->completer()->popup()->isVisible()) {
+            QMetaObject::invokeMethod(this, &frmSQLUserInput::accept, Qt::QueuedConnection);
+        }
+    });
     comboVarValues_->hide();
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(labelMessage_);
