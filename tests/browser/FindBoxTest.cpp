@@ -301,6 +301,14 @@ TEST_F(FindBoxTest, NarrowsSeriesInTVView) {
     ChangeMode(browser, false);
     Finish();
     EXPECT_EQ(Keys(), QStringList{u"S2"_s}); // the text stays, the list is another one
+    EXPECT_EQ(Current(), u"S2"_s);
+    EXPECT_EQ(session.CurrentSeriesID, u"S2"_s);
+    ChangeMode(browser, true);
+    Finish();
+    EXPECT_EQ(Current(), Keys().value(0));
+    EXPECT_EQ(session.CurrentProfileID, Current());
+    ChangeMode(browser, false);
+    Finish();
     EXPECT_EQ(Find(u"annie m."_s), QStringList{u"S2"_s});
     EXPECT_EQ(Find(u"hafen"_s), QStringList{u"S1"_s});
     EXPECT_EQ(browser.labelFilterCount, u"Filtered: 1"_s);
