@@ -16,7 +16,7 @@ namespace ostrand {
 
 namespace {
 
-const QList<double> kWidths = {0.46, 0.36, 0.18};
+const QList<double> kWidths = {0.43, 0.34, 0.23};
 
 } // namespace
 
