@@ -156,6 +156,25 @@ TEST_F(MainWindow, ATabListsItsCollectionType) {
     EXPECT_EQ(SelectedColType(browser), u"Owned"_s);
 }
 
+TEST_F(MainWindow, TheHeaderOfAGroupIsNoProfileToWorkOn) {
+    Start();
+    Trigger("mOrderByGenre");
+    ASSERT_TRUE(browser.listSeries.At(browser.current_row).header);
+    const QStringList entries = {u"mRemoveProfileInEdit"_s, u"mRemoveProfile"_s, u"mLockProfile"_s};
+    for (const QString &name : entries) {
+        EXPECT_FALSE(Action(name)->isEnabled()) << qPrintable(name);
+    }
+    ClickRow(1);
+    for (const QString &name : entries) {
+        EXPECT_TRUE(Action(name)->isEnabled()) << qPrintable(name);
+    }
+    Trigger("mTVShows");
+    Trigger("mMovies");
+    for (const QString &name : entries) {
+        EXPECT_TRUE(Action(name)->isEnabled()) << qPrintable(name);
+    }
+}
+
 TEST_F(MainWindow, TheTabsOfTypesStandClose) {
     Start();
     const auto *tabs = Control<QTabBar>("tabColList");

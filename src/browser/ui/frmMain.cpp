@@ -227,6 +227,7 @@ void frmMain::OrderTabs() {
 void frmMain::ConnectBrowser() {
     connect(&browser, &Browser::TitleChanged, this, &frmMain::ShowView);
     connect(&browser, &Browser::PageShown, this, &frmMain::ShowView);
+    connect(&browser, &Browser::CurrentRowChanged, this, [this] { EnableProfileEntries(browser); });
     connect(&browser, &Browser::SkinChanged, this, &frmMain::ShowSkinOrPanels);
     connect(&browser, &Browser::SettingsChanged, this, &frmMain::ApplySettings);
     connect(&browser, &Browser::DatabaseOpened, this,
