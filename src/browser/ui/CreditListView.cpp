@@ -16,7 +16,7 @@ namespace ostrand {
 
 namespace {
 
-const QList<double> kWidths = {0.43, 0.34, 0.23};
+const QList<double> kWidths = {0.46, 0.36, 0.18};
 
 } // namespace
 
@@ -37,6 +37,7 @@ CreditListView::CreditListView(Browser &browser, CreditList &credits, const QStr
     header()->setSectionsMovable(true);
     header()->setFirstSectionMovable(true);
     auto *columns = new FractionColumns(this);
+    columns->ShowWhole(CreditList::Position);
     columns->Set(kWidths);
     connect(header(), &QHeaderView::sectionClicked, this, [this](int column) { credits_.SortByHeader(column); });
     connect(header(), &QHeaderView::sectionMoved, this, [this] {
