@@ -13,8 +13,10 @@ namespace ostrand {
 /// either the one or the other. False on a fault, which leaves the old file; `error` then says why.
 bool ReplaceFile(const QString &path, const QByteArray &content, QString *error = nullptr);
 
-/// The same for content that comes in pieces, until an empty one.
-bool ReplaceFile(const QString &path, const std::function<QByteArray()> &next_piece, QString *error = nullptr);
+/// The same for content that comes in pieces, until an empty one. No piece at all ends it and leaves the old file; it
+/// then gives false with an empty `error`.
+bool ReplaceFile(const QString &path, const std::function<std::optional<QByteArray>()> &next_piece,
+                 QString *error = nullptr);
 
 /// The whole file; nothing when it cannot be read.
 std::optional<QByteArray> ReadFile(const QString &path);

@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QCompleter>
 #include <QDir>
+#include <QLineEdit>
 #include <QTest>
 #include <QTimer>
 #include <QTreeView>
@@ -82,26 +83,34 @@ TEST(InputDialogTest, AListOffersItsValuesAndTakesFreeText) {
     EXPECT_EQ(dialogs.InputCombo(u"?"_s, {}, {u"Ann"_s, u"Zoe"_s}, {}), u"An"_s);
 }
 
-TEST(InputDialogTest, EnterAnswersWithTheListOfMatchesOpen) {
-    WindowDialogs dialogs;
+TEST(InputDialogTest, EnterTakesWhatIsWrittenThoughTheListIsOpen) {
     const struct {
-        QString typed;
-        int downs; // to an entry of the list
-        QString answer;
-    } cases[] = {{u"Ann"_s, 0, u"Ann"_s}, {u"an"_s, 0, u"an"_s}, {u"an"_s, 2, u"Joann"_s}};
-    for (const auto &row : cases) {
-        WithModal<frmSQLUserInput>([&row](frmSQLUserInput &window) {
-            auto *combo = FindControl<QComboBox>(window, "comboVarValues");
-            QTest::keyClicks(combo->lineEdit(), row.typed);
-            QAbstractItemView *matches = combo->completer()->popup();
-            ASSERT_TRUE(matches->isVisible());
-            for (int i = 0; i < row.downs; ++i) {
-                QTest::keyClick(matches, Qt::Key_Down);
-            }
-            QTest::keyClick(matches, Qt::Key_Return);
-            QTimer::singleShot(500, &window, &QDialog::reject); // not reached
-        });
-        EXPECT_EQ(dialogs.InputCombo(u"?"_s, {}, {u"Ann"_s, u"Joann"_s, u"Zoe"_s}, {}), row.answer);
+        const char *name;
+        QList<Qt::Key> keys;
+        bool taken;
+        QString text;
+    } cases[] = {
+        {"free text", {Qt::Key_Return}, true, u"As"_s},
+        {"on the numbers' side of the keyboard", {Qt::Key_Enter}, true, u"As"_s},
+        {"a value of the list is chosen first", {Qt::Key_Down, Qt::Key_Return}, false, u"Ash"_s},
+        {"and taken then", {Qt::Key_Down, Qt::Key_Return, Qt::Key_Return}, true, u"Ash"_s},
+    };
+    for (const auto &c : cases) {
+        frmSQLUserInput dialog({}, u"Value"_s, {});
+        dialog.SetValues({u"Ash"_s, u"Birch"_s});
+        dialog.show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        auto *combo = FindControl<QComboBox>(dialog, "comboVarValues");
+        QTest::keyClicks(combo->lineEdit(), u"As"_s);
+        QAbstractItemView *list = combo->completer()->popup();
+        ASSERT_TRUE(list->isVisible()) << c.name;
+        for (const Qt::Key key : c.keys) {
+            QTest::keyClick(list->isVisible() ? static_cast<QWidget *>(list) : combo->lineEdit(), key);
+        }
+        QCoreApplication::processEvents();
+        EXPECT_EQ(!dialog.isVisible(), c.taken) << c.name;
+        EXPECT_EQ(combo->currentText(), c.text) << c.name;
+        EXPECT_EQ(dialog.OutputString(), c.taken ? std::optional(c.text) : std::nullopt) << c.name;
     }
 }
 

@@ -1,6 +1,5 @@
 #include "queries/ui/frmSQLUserInput.h"
 
-#include <QAbstractItemView>
 #include <QComboBox>
 #include <QCompleter>
 #include <QDialogButtonBox>
@@ -53,12 +52,7 @@ frmSQLUserInput::frmSQLUserInput(const Translator &translator, const QString &pr
     comboVarValues_->setObjectName(u"comboVarValues"_s);
     comboVarValues_->setAccessibleName(prompt);
     PrepareCombo(*comboVarValues_);
-    // The list of what holds the text swallows the key that answers.
-    connect(comboVarValues_->lineEdit(), &QLineEdit::returnPressed, this, [this] {
-        if (comboVarValues_->completer()->popup()->isVisible()) {
-            QMetaObject::invokeMethod(this, &frmSQLUserInput::accept, Qt::QueuedConnection);
-        }
-    });
+    connect(comboVarValues_->lineEdit(), &QLineEdit::returnPressed, this, &frmSQLUserInput::TakeWrittenText);
     comboVarValues_->hide();
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(labelMessage_);
@@ -114,6 +108,14 @@ void frmSQLUserInput::SetNumeric(bool on) {
 
 QString frmSQLUserInput::InputString() const {
     return combo_ ? comboVarValues_->currentText() : textInput_->text();
+}
+
+void frmSQLUserInput::TakeWrittenText() {
+    const QAbstractItemView *offered = comboVarValues_->completer()->popup();
+    // Enter, which otherwise would do no more than close the list. On a value in the list it chooses that.
+    if (offered->isVisible() && !offered->currentIndex().isValid()) {
+        QMetaObject::invokeMethod(this, &frmSQLUserInput::accept, Qt::QueuedConnection);
+    }
 }
 
 void frmSQLUserInput::accept() {
