@@ -167,6 +167,7 @@ void TranslateBrowser(Browser &browser) {
     Q_EMIT browser.MainTabChanged();
     Q_EMIT browser.TabsChanged();
     Q_EMIT browser.FilterChanged();
+    browser.listSeries.SetHeaderTexts([&session](const QString &group) { return Translate(session, group); });
     ShowFilterCount(browser, browser.filter_count);
     RefreshProfileInfos(browser);
     RefillAppearances(browser);

@@ -71,6 +71,8 @@ public:
     AVContent AV;
     /// The key of the icon for the current title's medium (browser/MediaIcon.h); empty for none.
     QString picMedium;
+    /// The medium itself, in the user's language.
+    QString picMedium_tool_tip;
     /// The cover files of the current title are this and "f.jpg" or "b.jpg"; empty without a title.
     QString cover_stem;
     FolderIndex covers;

@@ -117,6 +117,10 @@ void EnablePersonEntries(Browser &browser) {
                                      u"mDownloadHeadshotCrew", u"mAddAliasCast", u"mAddAliasCrew"}) {
             browser.commands.SetEnabled(QString::fromUtf16(name), person);
         }
+        for (const char16_t *name :
+             {u"mCopyCastList", u"mPasteCastList", u"mLockCast", u"mCopyCrewList", u"mPasteCrewList", u"mLockCrew"}) {
+            browser.commands.SetEnabled(QString::fromUtf16(name), !panel.shown_key.isEmpty());
+        }
         browser.commands.SetEnabled(u"mSetHeadshotAsPrimary"_s, person && panel.picActor.CanSetAsPrimary());
     });
 }

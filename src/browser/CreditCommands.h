@@ -12,7 +12,7 @@ class Browser;
 /// A person was selected in the credits: the picture and the appearances follow.
 void UpdateCastInfo(Browser &browser, const QString &name, const QString &birth_year);
 
-/// Enables the menu entries that need a selected person, or a picture of theirs.
+/// Enables the menu entries that need a title's credits, a selected person, or a picture of theirs.
 void EnablePersonEntries(Browser &browser);
 /// Asks for the common name of the selected person, and shows what follows from it.
 void LinkSelectedPerson(Browser &browser);

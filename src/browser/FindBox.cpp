@@ -172,6 +172,10 @@ void FindBox::Narrow() {
             Restore();
         }
     }
+    // A list that was filled before the index was there came without a title.
+    if (IsOn() && !reader_ && browser_.current_row < 0 && key.isEmpty() && ShownTitle(browser_.session).isEmpty()) {
+        ShowFirstTitle(browser_);
+    }
     ShowFilterCount(browser_, list.TitleCount());
 }
 

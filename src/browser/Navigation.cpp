@@ -17,14 +17,24 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
+/// The current row, or the one that was current before the find box hid it; null for none.
+const TitleRow *CurrentRow(const Browser &browser) {
+    const TitleList &list = browser.listSeries;
+    const int row = browser.current_row;
+    if (row >= 0 && row < list.rowCount()) {
+        return &list.At(row);
+    }
+    const QString &hidden = browser.find.HiddenKey();
+    return hidden.isEmpty() ? nullptr : list.Held(hidden);
+}
+
 /// The row that is left, as an entry of the history; empty for none and for the header of a group.
 HistoryEntry CurrentEntry(const Browser &browser) {
-    const int row = browser.current_row;
-    if (row < 0 || row >= browser.listSeries.rowCount() || browser.listSeries.At(row).header) {
+    const TitleRow *current = CurrentRow(browser);
+    if (current == nullptr || current->header) {
         return {};
     }
-    const TitleRow &current = browser.listSeries.At(row);
-    return {ProfileOfKey(current.key), current.texts[TitleList::Title]};
+    return {ProfileOfKey(current->key), current->texts[TitleList::Title]};
 }
 
 /// Remembers the current title, unless it is the one to be shown.
@@ -129,6 +139,14 @@ void MoveToRow(Browser &browser, int row) {
         RecordLeaving(browser, browser.listSeries.At(row).key);
     }
     UpdateSeriesList(browser, row);
+}
+
+void MoveIntoList(Browser &browser) {
+    const TitleList &list = browser.listSeries;
+    if (browser.current_row < 0 && list.rowCount() > 0) {
+        const bool below_header = list.At(0).header && list.rowCount() > 1;
+        MoveToRow(browser, below_header ? 1 : 0);
+    }
 }
 
 void ShowMovie(Browser &browser, const QString &key) {

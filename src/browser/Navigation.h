@@ -11,6 +11,8 @@ class Browser;
 
 /// A click or a key left the current row for `row`: the row left is remembered and the new one shown.
 void MoveToRow(Browser &browser, int row);
+/// A key leads into the list: where no row is current, the first title becomes so.
+void MoveIntoList(Browser &browser);
 /// Shows a title by its key. In TV view the view changes to movies; where the title is not in the list, the tab "All"
 /// is taken. A key that is nowhere shows the empty view.
 void ShowMovie(Browser &browser, const QString &key);

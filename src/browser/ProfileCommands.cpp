@@ -233,6 +233,15 @@ void ShowChangedEpisode(Browser &browser) {
 
 } // namespace
 
+void EnableProfileEntries(Browser &browser) {
+    const bool profile = !CurrentProfile(browser).isEmpty();
+    browser.commands.Together([&] {
+        for (const QString &name : {u"mRemoveProfileInEdit"_s, u"mLockProfile"_s}) {
+            browser.commands.SetEnabled(name, profile);
+        }
+    });
+}
+
 void RemoveCurrentProfile(Browser &browser) {
     Session &session = browser.session;
     const QString id = CurrentProfile(browser);

@@ -7,6 +7,9 @@ namespace ostrand {
 
 class Browser;
 
+/// The entries that work on the current profile of listSeries can be used while there is one.
+void EnableProfileEntries(Browser &browser);
+
 /// mRemoveProfile: asks, and deletes the current profile of listSeries. The next one becomes current.
 void RemoveCurrentProfile(Browser &browser);
 

@@ -89,7 +89,9 @@ void ShowPeople(Browser &browser, const QString &id, bool is_episode) {
 void FillPanels(Browser &browser, const sql::Recordset &record, const QString &id, bool is_episode, bool keep_credits) {
     FillUPC(browser, record, is_episode);
     browser.caption = is_episode ? EpisodeCaption(record) : MakeWindowCaption(record);
-    browser.picMedium = is_episode ? QString() : MediaIconKey(record.Text(u"Medium"));
+    const QString medium = is_episode ? QString() : record.Text(u"Medium");
+    browser.picMedium = MediaIconKey(medium);
+    browser.picMedium_tool_tip = Translate(browser.session, medium);
     const int tab = browser.tabMain_selected;
     if (tab == kDetailsTab) {
         FillLinksAndGroups(browser, id);
@@ -179,6 +181,7 @@ void RefreshProfileInfos(Browser &browser) {
 void ClearAllProfileInfos(Browser &browser) {
     browser.caption = browser.base_caption;
     browser.picMedium.clear();
+    browser.picMedium_tool_tip.clear();
     ClearProfileInfos(browser);
     if (!browser.session.view.mTVShows) {
         browser.listEpisodes.Clear();

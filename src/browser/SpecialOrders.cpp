@@ -120,6 +120,7 @@ void SpecialOrderRows::AddHeader(const QString &text) {
     TitleRow row;
     row.key = QString::number(number_);
     row.tag = kHeaderTag;
+    row.group = text;
     row.tool_tip = Translate(session_, text);
     row.texts[TitleList::Title] = row.tool_tip;
     row.header = true;

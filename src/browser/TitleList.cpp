@@ -165,6 +165,13 @@ int TitleList::RowOfNumber(int number) const {
     return row == shown_.end() || *row != number ? -1 : int(row - shown_.begin());
 }
 
+const TitleRow *TitleList::Held(const QString &key) const {
+    const auto found = std::find_if(rows_.begin(), rows_.end(), [&key](const TitleRow &row) {
+        return row.key.compare(key, Qt::CaseInsensitive) == 0;
+    });
+    return found == rows_.end() ? nullptr : &*found;
+}
+
 bool TitleList::HoldsHidden(const QString &id) const {
     return shown_.size() < rows_.size() &&
            std::any_of(rows_.begin(), rows_.end(), [&id](const TitleRow &row) { return IsOfTitle(row, id); });
@@ -213,6 +220,18 @@ void TitleList::SetTexts(const QString &id, const std::function<TitleRow(const T
     keyed_column_ = -1;
     if (!shown_.empty()) {
         Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, kTitleColumns - 1));
+    }
+}
+
+void TitleList::SetHeaderTexts(const std::function<QString(const QString &group)> &make_text) {
+    for (TitleRow &row : rows_) {
+        if (row.header) {
+            row.texts[Title] = row.tool_tip = make_text(row.group);
+            keyed_column_ = -1;
+        }
+    }
+    if (!shown_.empty()) {
+        Q_EMIT dataChanged(index(0, Title), index(rowCount() - 1, Title));
     }
 }
 

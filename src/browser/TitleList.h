@@ -20,6 +20,7 @@ struct TitleRow {
     QString tool_tip;
     std::array<QString, kTitleColumns> texts;
     bool header = false;
+    QString group; ///< of a header: its text in English
 };
 
 /// The item model of listSeries. Keys are unique without regard to case.
@@ -58,6 +59,9 @@ public:
     /// their keys.
     void SetTexts(const QString &id, const std::function<TitleRow(const TitleRow &row)> &make_texts);
 
+    /// Gives the headers of groups, shown or not, the texts that are made of their English ones.
+    void SetHeaderTexts(const std::function<QString(const QString &group)> &make_text);
+
     /// By row of all that are there, whether it is to be shown; empty for all of them. Asked whenever there are other
     /// rows, and at Narrow. Rows above one that is shown are so too, and headers not by themselves. `order` is another
     /// number when these are other rows than at the call before, or in another order. What it throws leaves no row
@@ -71,6 +75,8 @@ public:
     int RowOfNumber(int number) const;
     /// The rows that are shown, as copies.
     std::vector<TitleRow> Rows() const;
+    /// The row with this whole key, shown or not; null when there is none.
+    const TitleRow *Held(const QString &key) const;
     /// A row of this profile or series is there and is not shown.
     bool HoldsHidden(const QString &id) const;
     /// The rows that are no headers.

@@ -17,6 +17,10 @@ void LazyHtmlView::Load() {
         return;
     }
     const MakeEngine make_engine = std::exchange(make_engine_, nullptr);
+    if (window()->isVisible()) {
+        // The toolkit makes the window anew for its first engine; without a place of its own it would be put elsewhere.
+        window()->setAttribute(Qt::WA_Moved);
+    }
     engine_ = make_engine(this);
     if (!engine_.widget || !engine_.view) {
         engine_ = {};

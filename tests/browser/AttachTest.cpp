@@ -21,6 +21,13 @@ protected:
     }
     void Store(const QString &key, const QString &value) { WriteDbInfo(session, key, value); }
     bool Reopen() { return OpenCollectionDatabase(session, Path(u"Shelf.mdb"_s)); }
+    QStringList Texts() const {
+        QStringList texts;
+        for (const TitleRow &row : browser.listSeries.Rows()) {
+            texts << row.texts[TitleList::Title];
+        }
+        return texts;
+    }
     static QStringList Headers(const QAbstractItemModel &list) {
         QStringList headers;
         for (int i = 0; i < list.columnCount(); ++i) {
@@ -88,6 +95,38 @@ TEST_F(AttachTest, CaptionsFollowTheLanguageBothWays) {
     }
     ChangeMode(browser, false);
     EXPECT_EQ(browser.tabColList, QStringList{u"TV"_s});
+}
+
+TEST_F(AttachTest, GroupsFollowTheLanguageAroundTheCurrentTitle) {
+    struct {
+        const char *name;
+        QString category;
+        QString english;
+        QString other;
+    } const rows[] = {
+        {"a value", u"Rating"_s, u"PG"_s, u"Mit Eltern"_s},
+        {"no value", u"CaseType"_s, u"No Case Type specified"_s, u"Ohne Hülle"_s},
+    };
+    ASSERT_TRUE(Reopen());
+    Run(u"UPDATE Profiles SET Rating = 'PG', CaseType = ''");
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.name);
+        TranslateAs(row.english, row.other);
+        SpecialProfileOrder(browser, row.category);
+        MoveToRow(browser, 2);
+        const QString current = CurrentKey();
+        const QStringList titles = Texts().mid(1);
+        for (const bool translated : {true, false}) {
+            session.UseUserDefinedStrings = translated;
+            TranslateBrowser(browser);
+            const QString shown = translated ? row.other : row.english;
+            EXPECT_EQ(Texts().front(), shown);
+            EXPECT_EQ(browser.listSeries.At(0).tool_tip, shown);
+            EXPECT_EQ(Texts().mid(1), titles);
+            EXPECT_EQ(CurrentKey(), current);
+            EXPECT_EQ(browser.current_row, 2);
+        }
+    }
 }
 
 TEST_F(AttachTest, ATabThatTheSettingsTakeAwayGivesItsPlaceToAllTitles) {

@@ -301,6 +301,14 @@ TEST_F(FindBoxTest, NarrowsSeriesInTVView) {
     ChangeMode(browser, false);
     Finish();
     EXPECT_EQ(Keys(), QStringList{u"S2"_s}); // the text stays, the list is another one
+    EXPECT_EQ(Current(), u"S2"_s);
+    EXPECT_EQ(session.CurrentSeriesID, u"S2"_s);
+    ChangeMode(browser, true);
+    Finish();
+    EXPECT_EQ(Current(), Keys().value(0));
+    EXPECT_EQ(session.CurrentProfileID, Current());
+    ChangeMode(browser, false);
+    Finish();
     EXPECT_EQ(Find(u"annie m."_s), QStringList{u"S2"_s});
     EXPECT_EQ(Find(u"hafen"_s), QStringList{u"S1"_s});
     EXPECT_EQ(browser.labelFilterCount, u"Filtered: 1"_s);
@@ -313,6 +321,31 @@ TEST_F(FindBoxTest, NarrowsSeriesInTVView) {
     EXPECT_EQ(Current(), u"S1"_s);
     ChangeMode(browser, true);
     EXPECT_EQ(Find(u"amber"_s), QStringList{u"A"_s});
+}
+
+TEST_F(FindBoxTest, ATitleThatWasHiddenIsRememberedWhenItIsLeft) {
+    GetMovieNames(browser);
+    MoveToRow(browser, browser.listSeries.RowOfTitle(u"D"_s));
+    browser.history.Clear();
+    Find(u"amber"_s);
+    ASSERT_LT(browser.current_row, 0);
+    MoveIntoList(browser);
+    EXPECT_EQ(Current(), u"A"_s);
+    EXPECT_EQ(browser.history.Back(), (QList<HistoryEntry>{{u"D"_s, u"Dune's End"_s}}));
+    MoveIntoList(browser);
+    EXPECT_EQ(browser.history.Back().size(), 1) << "a row is current";
+    Find(u"nothing like it"_s);
+    MoveIntoList(browser);
+    EXPECT_EQ(browser.current_row, -1);
+}
+
+TEST_F(FindBoxTest, GroupsAreEnteredBelowTheirHeader) {
+    Run(u"UPDATE Profiles SET Rating = 'PG'");
+    SpecialProfileOrder(browser, u"Rating"_s);
+    Find(u"dune"_s);
+    browser.current_row = -1;
+    MoveIntoList(browser);
+    EXPECT_EQ(Current(), u"D|1"_s);
 }
 
 } // namespace

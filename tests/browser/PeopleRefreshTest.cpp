@@ -252,6 +252,22 @@ TEST_F(PeopleRefresh, EntriesNeedAPerson) {
     EXPECT_EQ(enabled(), QString());
 }
 
+TEST_F(PeopleRefresh, EntriesOfTheListsNeedATitle) {
+    const QStringList names = {u"mCopyCastList"_s, u"mPasteCastList"_s, u"mLockCast"_s,
+                               u"mCopyCrewList"_s, u"mPasteCrewList"_s, u"mLockCrew"_s};
+    for (const QString &name : names) {
+        browser.commands.Handle(name, [] {});
+    }
+    EnableDBMenues(browser.commands, true);
+    for (const bool title : {true, false, true}) {
+        Show(title ? u"P1"_s : QString());
+        EnablePersonEntries(browser);
+        for (const QString &name : names) {
+            EXPECT_EQ(browser.commands.IsEnabled(name), title) << qPrintable(name);
+        }
+    }
+}
+
 TEST_F(PeopleRefresh, TenThousandHeadshotsAreReadOnce) {
     for (int i = 0; i < 10000; ++i) {
         Touch(u"Person %1.jpg"_s.arg(i));

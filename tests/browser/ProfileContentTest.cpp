@@ -462,9 +462,17 @@ TEST_F(ProfileContentTest, TheMediumOfATitleHasItsIcon) {
              {u"A"_s, u"BluRay"_s}, {u"B"_s, {}}, {u"A"_s, u"BluRay"_s}}) {
         Show(kCredits, id);
         EXPECT_EQ(browser.picMedium, key);
+        EXPECT_EQ(browser.picMedium_tool_tip, key.isEmpty() ? u"Film reel"_s : u"blu-RAY"_s);
     }
     Show(kCredits, u"E"_s, true);
     EXPECT_EQ(browser.picMedium, QString());
+    EXPECT_EQ(browser.picMedium_tool_tip, QString());
+    TranslateAs(u"Film reel"_s, u"Filmrolle"_s);
+    session.UseUserDefinedStrings = true;
+    Show(kCredits, u"B"_s);
+    EXPECT_EQ(browser.picMedium_tool_tip, u"Filmrolle"_s);
+    Show(kCredits, {});
+    EXPECT_EQ(browser.picMedium_tool_tip, QString());
 }
 
 TEST_F(ProfileContentTest, TvViewBeginsWithEmptyPanelsAndRemembersTheTab) {

@@ -69,6 +69,7 @@ TEST_F(FindBoxWindow, DownAndEnterGoIntoTheList) {
         EXPECT_GE(List()->currentIndex().row(), 0);
         EXPECT_EQ(int(Titles().size()), rows);
         EXPECT_EQ(browser.listSeries.At(List()->currentIndex().row()).key, session.CurrentProfileID);
+        EXPECT_TRUE(List()->selectionModel()->isSelected(List()->currentIndex()));
     }
 }
 
@@ -90,6 +91,31 @@ TEST_F(FindBoxWindow, EscapeGoesBackToTheWholeList) {
     EXPECT_EQ(box->text(), QString());
     EXPECT_EQ(Titles(), all);
     EXPECT_EQ(Selected(), before);
+    EXPECT_TRUE(List()->hasFocus());
+}
+
+TEST_F(FindBoxWindow, TabLeadsToATitleThatIsSelected) {
+    StartAndFind();
+    ClickRow(0);
+    box->setFocus();
+    Type(SomeTitle());
+    ASSERT_LT(browser.current_row, 0) << "the first title is hidden";
+    QTest::keyClick(box, Qt::Key_Tab);
+    ASSERT_TRUE(List()->hasFocus());
+    EXPECT_EQ(List()->selectionModel()->selectedRows().value(0).row(), 0);
+    EXPECT_EQ(browser.listSeries.At(0).key, session.CurrentProfileID);
+}
+
+TEST_F(FindBoxWindow, EscapeInTheListShowsItWholeAroundTheTitle) {
+    StartAndFind();
+    Type(SomeTitle());
+    QTest::keyClick(box, Qt::Key_Down);
+    const QString found = Selected();
+    QTest::keyClick(List(), Qt::Key_Escape);
+    Settle();
+    EXPECT_EQ(box->text(), QString());
+    EXPECT_EQ(Titles(), all);
+    EXPECT_EQ(Selected(), found);
     EXPECT_TRUE(List()->hasFocus());
 }
 

@@ -47,6 +47,14 @@ TEST_F(LazyHtmlViewTest, TheFirstPageMakesTheEngineOnce) {
     EXPECT_EQ(shown, (QStringList{u"file:///a.html"_s, u"about:blank"_s, u"file:///b.html"_s}));
 }
 
+TEST_F(LazyHtmlViewTest, AWindowThatIsMadeAnewForTheEngineKeepsItsPlace) {
+    view.Navigate(u"about:blank"_s);
+    view.show();
+    EXPECT_FALSE(view.testAttribute(Qt::WA_Moved)) << "the desktop chose its place";
+    view.Navigate(u"file:///a.html"_s);
+    EXPECT_TRUE(view.testAttribute(Qt::WA_Moved));
+}
+
 TEST_F(LazyHtmlViewTest, EveryNavigationIsToldAndCanBeCancelled) {
     QStringList asked;
     view.before_navigate = [&](const QString &url) {

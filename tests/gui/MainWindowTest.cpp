@@ -157,6 +157,55 @@ TEST_F(MainWindow, ATabListsItsCollectionType) {
     EXPECT_EQ(SelectedColType(browser), u"Owned"_s);
 }
 
+TEST_F(MainWindow, TheHeaderOfAGroupIsNoProfileToWorkOn) {
+    Start();
+    Trigger("mOrderByGenre");
+    ASSERT_TRUE(browser.listSeries.At(browser.current_row).header);
+    const QStringList entries = {u"mRemoveProfileInEdit"_s, u"mRemoveProfile"_s, u"mLockProfile"_s};
+    for (const QString &name : entries) {
+        EXPECT_FALSE(Action(name)->isEnabled()) << qPrintable(name);
+    }
+    ClickRow(1);
+    for (const QString &name : entries) {
+        EXPECT_TRUE(Action(name)->isEnabled()) << qPrintable(name);
+    }
+    Trigger("mTVShows");
+    Trigger("mMovies");
+    for (const QString &name : entries) {
+        EXPECT_TRUE(Action(name)->isEnabled()) << qPrintable(name);
+    }
+}
+
+TEST_F(MainWindow, TheTabsOfTypesStandClose) {
+    Start();
+    const auto *tabs = Control<QTabBar>("tabColList");
+    QTabBar usual;
+    usual.setFont(tabs->font());
+    usual.setExpanding(false);
+    usual.addTab(tabs->tabText(1));
+    usual.addTab(tabs->tabText(2));
+    EXPECT_LT(tabs->tabRect(2).right() - tabs->tabRect(1).left(), usual.tabRect(1).right());
+    EXPECT_TRUE(tabs->usesScrollButtons()) << "there can be more of them than fit";
+}
+
+TEST_F(MainWindow, TheOtherViewBeginsInItsList) {
+    Start();
+    Control<QTabBar>("tabMain")->setCurrentIndex(1);
+    for (const char *command : {"mTVShows", "mMovies"}) {
+        auto *title = Control<QWidget>("textTitle");
+        title->setFocus();
+        ASSERT_TRUE(title->hasFocus());
+        Trigger(command);
+        EXPECT_TRUE(List()->hasFocus()) << command;
+        EXPECT_TRUE(List()->selectionModel()->isSelected(List()->currentIndex()));
+        Control<QTabBar>("tabMain")->setCurrentIndex(1);
+    }
+    auto *find = Control<QWidget>("textFind");
+    find->setFocus();
+    Trigger("mTVShows");
+    EXPECT_TRUE(find->hasFocus()) << "it finds series as well";
+}
+
 TEST_F(MainWindow, AHeaderSortsAndComesBackToBoxsets) {
     Start();
     const QStringList nested = Titles();

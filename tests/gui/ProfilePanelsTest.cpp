@@ -208,6 +208,8 @@ TEST_F(ProfilePanels, TheIconOfTheMediumStandsAboveTheCover) {
     auto *icon = Control<MediumIcon>("picMedium");
     EXPECT_TRUE(icon->isVisible());
     EXPECT_EQ(icon->Key(), u"DVDVideo"_s);
+    EXPECT_EQ(icon->toolTip(), u"dvd"_s);
+    EXPECT_EQ(icon->accessibleDescription(), u"dvd"_s);
     session.view.ShowMediaIcon = false;
     Q_EMIT browser.SettingsChanged();
     EXPECT_FALSE(icon->isVisible());

@@ -29,11 +29,13 @@
 #include <QCheckBox>
 #include <QDir>
 #include <QGroupBox>
+#include <QHeaderView>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QToolButton>
+#include <QTreeView>
 
 namespace ostrand {
 namespace {
@@ -155,6 +157,17 @@ TEST_P(TextFit, TheMainWindow) {
     QApplication::processEvents();
     EXPECT_EQ(CutTexts(*main).join(u'\n').toStdString(), std::string()) << GetParam() << " with series";
     Photograph(*main, u"frmMain-tv"_s);
+}
+
+TEST_P(TextFit, TheHeadersOfALongCast) {
+    main->resize(1280, 760);
+    auto *cast = Control<QTreeView>("ListCast");
+    cast->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    QApplication::processEvents();
+    for (int column = 0; column < cast->header()->count(); ++column) {
+        EXPECT_GE(cast->header()->sectionSize(column), cast->header()->sectionSizeHint(column))
+            << GetParam() << ' ' << column;
+    }
 }
 
 TEST_P(TextFit, TheWindowsBesideIt) {

@@ -81,7 +81,7 @@ void CoverPanel::ShowSeasons() {
 }
 
 void CoverPanel::ShowMedium() {
-    picMedium_->ShowIcon(ShownMediaIcon(browser_));
+    picMedium_->ShowIcon(ShownMediaIcon(browser_), browser_.picMedium_tool_tip);
     picMedium_->setVisible(IsMediaIconShown(browser_));
     const Session &session = browser_.session;
     const bool of_profile = !session.CurrentProfileID.isEmpty() && !session.CurrentIsEpisode;

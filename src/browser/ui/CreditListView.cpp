@@ -34,10 +34,10 @@ CreditListView::CreditListView(Browser &browser, CreditList &credits, const QStr
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setSelectionMode(QAbstractItemView::SingleSelection);
     header()->setSectionsClickable(true);
-    header()->setTextElideMode(Qt::ElideRight);
     header()->setSectionsMovable(true);
     header()->setFirstSectionMovable(true);
     auto *columns = new FractionColumns(this);
+    columns->ShowWhole(CreditList::Position);
     columns->Set(kWidths);
     connect(header(), &QHeaderView::sectionClicked, this, [this](int column) { credits_.SortByHeader(column); });
     connect(header(), &QHeaderView::sectionMoved, this, [this] {

@@ -10,12 +10,14 @@ namespace ostrand {
 FractionColumns::FractionColumns(QTreeView *list) : QObject(list), list_(list) {
     list_->header()->setStretchLastSection(false);
     list_->header()->setMinimumSectionSize(0);
+    list_->header()->setTextElideMode(Qt::ElideRight);
     list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list_->viewport()->installEventFilter(this);
     connect(list_->header(), &QHeaderView::sectionResized, this, [this](int column, int, int size) {
         const int width = list_->viewport()->width();
         if (!applying_ && size > 0 && width > 0 && column < fractions_.size()) {
             fractions_[column] = double(size) / width;
+            whole_ = column == whole_ ? -1 : whole_;
         }
     });
 }
@@ -39,6 +41,14 @@ void FractionColumns::Apply() {
         list_->setColumnHidden(column, fractions_[column] == 0);
         if (fractions_[column] > 0) {
             list_->setColumnWidth(column, int(fractions_[column] * width));
+        }
+    }
+    if (whole_ > 0 && whole_ < list_->header()->count()) {
+        const int lacking = list_->header()->sectionSizeHint(whole_) - list_->columnWidth(whole_);
+        const int before = list_->columnWidth(whole_ - 1);
+        if (lacking > 0 && lacking < before) {
+            list_->setColumnWidth(whole_ - 1, before - lacking);
+            list_->setColumnWidth(whole_, list_->columnWidth(whole_) + lacking);
         }
     }
 }

@@ -16,6 +16,8 @@ public:
 
     /// One for each column of the list.
     void Set(const QList<double> &fractions);
+    /// The column takes from the one before what its header needs, until the user draws it to another width.
+    void ShowWhole(int column) { whole_ = column; }
     const QList<double> &Fractions() const { return fractions_; }
 
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -25,6 +27,7 @@ private:
 
     QTreeView *list_;
     QList<double> fractions_;
+    int whole_ = -1; ///< see ShowWhole
     bool applying_ = false;
 };
 

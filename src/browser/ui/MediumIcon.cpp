@@ -15,15 +15,14 @@ MediumIcon::MediumIcon(QWidget *parent) : QWidget(parent) {
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
 }
 
-void MediumIcon::ShowIcon(const QString &key) {
-    if (key == key_) {
-        return;
+void MediumIcon::ShowIcon(const QString &key, const QString &name) {
+    setToolTip(name.toHtmlEscaped());
+    setAccessibleDescription(name);
+    if (key != key_) {
+        key_ = key;
+        icon_ = key.isEmpty() ? QIcon() : ThemedIcon(QStringLiteral("medium_") + key);
+        update();
     }
-    key_ = key;
-    icon_ = key.isEmpty() ? QIcon() : ThemedIcon(QStringLiteral("medium_") + key);
-    setToolTip(key);
-    setAccessibleDescription(key);
-    update();
 }
 
 QSize MediumIcon::sizeHint() const {

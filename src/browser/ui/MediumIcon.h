@@ -13,8 +13,8 @@ class MediumIcon : public QWidget {
 public:
     explicit MediumIcon(QWidget *parent = nullptr);
 
-    /// A key of browser/MediaIcon.h; empty for none.
-    void ShowIcon(const QString &key);
+    /// A key of browser/MediaIcon.h, empty for none, and what the medium is called.
+    void ShowIcon(const QString &key, const QString &name);
     const QString &Key() const { return key_; }
     QSize sizeHint() const override;
 

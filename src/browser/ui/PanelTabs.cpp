@@ -18,10 +18,14 @@ public:
 
 } // namespace
 
-PanelTabs::PanelTabs(QWidget *parent) : QTabBar(parent) {
+void PutTabsClose(QTabBar &tabs) {
     auto *close = new CloseTabs;
-    close->setParent(this);
-    setStyle(close);
+    close->setParent(&tabs);
+    tabs.setStyle(close);
+}
+
+PanelTabs::PanelTabs(QWidget *parent) : QTabBar(parent) {
+    PutTabsClose(*this);
     setExpanding(false);
     setUsesScrollButtons(false);
     setElideMode(Qt::ElideRight);

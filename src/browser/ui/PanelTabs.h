@@ -5,6 +5,9 @@
 
 namespace ostrand {
 
+/// Lets the tabs stand close, so that more of them are in sight.
+void PutTabsClose(QTabBar &tabs);
+
 /// A few tabs that are all in sight, however little room there is: they stand close, and texts are cut where that does
 /// not do.
 class PanelTabs : public QTabBar {

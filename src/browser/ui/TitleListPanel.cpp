@@ -4,6 +4,7 @@
 #include "browser/CollectionTabs.h"
 #include "browser/Navigation.h"
 #include "browser/ui/FindEdit.h"
+#include "browser/ui/PanelTabs.h"
 #include "shell/ui/Guarded.h"
 
 #include <QAbstractItemView>
@@ -94,6 +95,7 @@ void TitleListPanel::TranslateNames() {
 
 void TitleListPanel::MakeTabs() {
     tabColList_->setObjectName(QStringLiteral("tabColList"));
+    PutTabsClose(*tabColList_);
     tabColList_->setExpanding(false);
     tabColList_->setUsesScrollButtons(true);
     tabColList_->setDrawBase(false);
@@ -135,14 +137,9 @@ void TitleListPanel::MakeFindBox() {
 
 /// From the find box to the current title, or else to the first one.
 void TitleListPanel::GoIntoList() {
-    const TitleList &list = browser_.listSeries;
-    if (list.rowCount() == 0) {
-        return;
-    }
-    listSeries_->setFocus();
-    if (browser_.current_row < 0) {
-        const bool below_header = list.At(0).header && list.rowCount() > 1;
-        Guarded(browser_.session, [&] { MoveToRow(browser_, below_header ? 1 : 0); });
+    if (browser_.listSeries.rowCount() > 0) {
+        listSeries_->setFocus();
+        Guarded(browser_.session, [this] { MoveIntoList(browser_); });
     }
 }
 

@@ -28,6 +28,7 @@ TitleListView::TitleListView(Browser &browser, QWidget *parent) :
     header()->setSectionsMovable(false);
     header()->setStretchLastSection(false);
     header()->setMinimumSectionSize(0);
+    header()->setTextElideMode(Qt::ElideRight);
     connect(header(), &QHeaderView::sectionResized, this,
             [this](int column, int, int size) { KeepWidth(column, size); });
     connect(header(), &QHeaderView::sectionClicked, this,
@@ -128,6 +129,8 @@ void TitleListView::keyPressEvent(QKeyEvent *event) {
         event->accept();
     } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         Q_EMIT RowActivated();
+    } else if (event->key() == Qt::Key_Escape && browser_.find.IsOn()) {
+        Guarded(browser_.session, [this] { browser_.find.Clear(); });
     } else {
         QTreeView::keyPressEvent(event);
     }
@@ -158,6 +161,22 @@ void TitleListView::contextMenuEvent(QContextMenuEvent *event) {
 void TitleListView::resizeEvent(QResizeEvent *event) {
     QTreeView::resizeEvent(event);
     ApplyWidths();
+}
+
+void TitleListView::focusInEvent(QFocusEvent *event) {
+    {
+        // The toolkit makes the first row current here without selecting it.
+        const QScopedValueRollback<bool> follow(following_, true);
+        QTreeView::focusInEvent(event);
+    }
+    if (browser_.current_row >= 0 || !currentIndex().isValid()) {
+        return;
+    }
+    selectionModel()->clear();
+    const Qt::FocusReason reason = event->reason();
+    if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason) {
+        Guarded(browser_.session, [this] { MoveIntoList(browser_); });
+    }
 }
 
 void TitleListView::KeepWidth(int column, int size) {

@@ -156,11 +156,13 @@ void frmMain::Compose() {
 void frmMain::ConnectBrowser() {
     connect(&browser, &Browser::TitleChanged, this, &frmMain::ShowView);
     connect(&browser, &Browser::PageShown, this, &frmMain::ShowView);
+    connect(&browser, &Browser::CurrentRowChanged, this, [this] { EnableProfileEntries(browser); });
     connect(&browser, &Browser::SkinChanged, this, &frmMain::ShowSkinOrPanels);
     connect(&browser, &Browser::SettingsChanged, this, &frmMain::ApplySettings);
     connect(&browser, &Browser::DatabaseOpened, this,
             [this] { titles_->ShowDatabasePath(browser.session.DatabaseFile); });
     connect(&browser, &Browser::ModeChanged, this, &frmMain::ShowView);
+    connect(&browser, &Browser::ModeChanged, this, &frmMain::LeadFocusToTitles);
     connect(cover_, &CoverPanel::WantedHeightChanged, this, &frmMain::ArrangeCover);
     connect(titles_->List(), &TitleListView::RowActivated, this,
             [this] { browser.commands.Run(u"mProfileInformation"_s); });
@@ -363,6 +365,13 @@ void frmMain::ShowView() {
     Split(6)->setVisible(cover || episodes);
     ArrangeCover();
     setWindowTitle(browser.caption);
+}
+
+void frmMain::LeadFocusToTitles() {
+    const QWidget *focus = focusWidget();
+    if (focus != nullptr && !titles_->isAncestorOf(focus)) {
+        titles_->List()->setFocus();
+    }
 }
 
 void frmMain::ArrangeCover() {

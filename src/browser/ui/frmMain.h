@@ -74,6 +74,8 @@ private:
     void SetFonts();
     void ApplyGridLines();
     void ShowView();
+    /// The other view begins in its list; what had the focus may not be there any more.
+    void LeadFocusToTitles();
     /// Gives the cover the height that its ratio asks for, above the episodes of a title.
     void ArrangeCover();
     /// Puts the view of pages or the panels into their place.
