@@ -6,7 +6,29 @@
 
 #include <utility>
 
+#ifdef Q_OS_UNIX
+#include <cerrno>
+#include <unistd.h>
+#endif
+
 namespace ostrand {
+
+namespace {
+
+/// False where the disk does not take what was written; some tell so only now.
+bool Sync([[maybe_unused]] const QSaveFile &file) {
+#ifdef Q_OS_UNIX
+    return ::fsync(file.handle()) == 0 || (errno != EIO && errno != ENOSPC && errno != EDQUOT);
+#else
+    return true;
+#endif
+}
+
+} // namespace
+
+bool CommitFile(QSaveFile &file) {
+    return file.flush() && Sync(file) && file.commit();
+}
 
 bool ReplaceFile(const QString &path, const QByteArray &content, QString *error) {
     bool given = false;
@@ -23,7 +45,7 @@ bool ReplaceFile(const QString &path, const std::function<QByteArray()> &next_pi
             break;
         written = file.write(piece) == piece.size();
     }
-    written = written && file.commit(); // which syncs
+    written = written && CommitFile(file);
     if (!written && error != nullptr)
         *error = file.errorString();
     return written;

@@ -7,7 +7,13 @@
 #include <functional>
 #include <optional>
 
+class QSaveFile;
+
 namespace ostrand {
+
+/// Puts a file that was written in the place of the old one. False where not all of it reached the disk, which leaves
+/// the old file; QSaveFile alone loses the fault of its last buffer.
+bool CommitFile(QSaveFile &file);
 
 /// Writes a new file beside the old one, makes it durable and puts it in the old one's place, so that a crash leaves
 /// either the one or the other. False on a fault, which leaves the old file; `error` then says why.
