@@ -245,4 +245,9 @@ int Connection::Changes() const {
     return sqlite3_changes(handle_.get());
 }
 
+bool Connection::HasMoved() const {
+    int moved = 0;
+    return sqlite3_file_control(handle_.get(), "main", SQLITE_FCNTL_HAS_MOVED, &moved) == SQLITE_OK && moved != 0;
+}
+
 } // namespace ostrand::sql
