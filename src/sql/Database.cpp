@@ -439,6 +439,7 @@ std::unique_ptr<Database> Database::Create(const QString &path, Environment envi
 
 std::unique_ptr<Database> Database::Open(const QString &path, Environment environment) {
     auto impl = std::make_unique<Impl>(path, std::move(environment));
+    LockFile::RequireSameFile(path);
     Connection connection = OpenFile(path, RegisterWith(impl->environment));
     impl->lock = std::make_unique<LockFile>(path);
     impl->Attach(std::move(connection));
