@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QSaveFile>
 
 #include <utility>
@@ -51,9 +52,14 @@ bool ReplaceFile(const QString &path, const std::function<QByteArray()> &next_pi
     return written;
 }
 
+bool IsEndless(const QString &path) {
+    const QFileInfo info(path);
+    return info.exists() && !info.isFile() && !info.isDir();
+}
+
 std::optional<QByteArray> ReadFile(const QString &path) {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (IsEndless(path) || !file.open(QIODevice::ReadOnly))
         return std::nullopt;
     QByteArray content = file.readAll();
     if (file.error() != QFileDevice::NoError)

@@ -22,7 +22,10 @@ bool ReplaceFile(const QString &path, const QByteArray &content, QString *error 
 /// The same for content that comes in pieces, until an empty one.
 bool ReplaceFile(const QString &path, const std::function<QByteArray()> &next_piece, QString *error = nullptr);
 
-/// The whole file; nothing when it cannot be read.
+/// True for a pipe or a device: whoever opens or reads one may wait for ever.
+bool IsEndless(const QString &path);
+
+/// The whole file; nothing when it cannot be read, or is endless.
 std::optional<QByteArray> ReadFile(const QString &path);
 
 /// Creates every missing folder of a path. False when one cannot be created.

@@ -56,6 +56,17 @@ TEST(ReadFileTest, TellsAMissingFileFromAnEmptyOne) {
     EXPECT_EQ(ReadFile(dir.Path()), std::nullopt);
 }
 
+#ifdef Q_OS_UNIX
+TEST(ReadFileTest, TouchesNeitherPipesNorDevices) {
+    EXPECT_TRUE(IsEndless(QStringLiteral("/dev/null")));
+    EXPECT_EQ(ReadFile(QStringLiteral("/dev/null")), std::nullopt);
+    test::TempDir dir;
+    EXPECT_FALSE(IsEndless(dir.Path()));
+    EXPECT_FALSE(IsEndless(dir / QStringLiteral("none")));
+    EXPECT_FALSE(IsEndless(dir.Write(QStringLiteral("a.txt"), "a")));
+}
+#endif
+
 TEST(MakeFolderPathTest, MakesEveryMissingFolder) {
     test::TempDir dir;
     EXPECT_TRUE(MakeFolderPath(dir / QStringLiteral("a/b/c")));
