@@ -37,14 +37,19 @@ bool ReplaceFile(const QString &path, const QByteArray &content, QString *error)
         path, [&] { return std::exchange(given, true) ? QByteArray() : content; }, error);
 }
 
-bool ReplaceFile(const QString &path, const std::function<QByteArray()> &next_piece, QString *error) {
+bool ReplaceFile(const QString &path, const std::function<std::optional<QByteArray>()> &next_piece, QString *error) {
     QSaveFile file(path);
     bool written = file.open(QIODevice::WriteOnly);
     while (written) {
-        const QByteArray piece = next_piece();
-        if (piece.isEmpty())
+        const std::optional<QByteArray> piece = next_piece();
+        if (!piece) {
+            if (error != nullptr)
+                error->clear();
+            return false;
+        }
+        if (piece->isEmpty())
             break;
-        written = file.write(piece) == piece.size();
+        written = file.write(*piece) == piece->size();
     }
     written = written && CommitFile(file);
     if (!written && error != nullptr)

@@ -19,8 +19,10 @@ bool CommitFile(QSaveFile &file);
 /// either the one or the other. False on a fault, which leaves the old file; `error` then says why.
 bool ReplaceFile(const QString &path, const QByteArray &content, QString *error = nullptr);
 
-/// The same for content that comes in pieces, until an empty one.
-bool ReplaceFile(const QString &path, const std::function<QByteArray()> &next_piece, QString *error = nullptr);
+/// The same for content that comes in pieces, until an empty one. No piece at all ends it and leaves the old file; it
+/// then gives false with an empty `error`.
+bool ReplaceFile(const QString &path, const std::function<std::optional<QByteArray>()> &next_piece,
+                 QString *error = nullptr);
 
 /// True for a pipe or a device: whoever opens or reads one may wait for ever.
 bool IsEndless(const QString &path);

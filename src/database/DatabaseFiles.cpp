@@ -159,7 +159,8 @@ void HandOver(Session &session, const QFileInfo &file) {
         Call(session.window.ShowTitlesDue);
     }
     session.Profiler3 = ReadDbInfoFlag(session, u"Profiler3"_s, false);
-    WriteINIString(session, u"Main"_s, u"DatabasePath"_s, QDir::toNativeSeparators(file.absolutePath()));
+    session.DatabasePath = QDir::toNativeSeparators(file.absolutePath());
+    WriteINIString(session, u"Main"_s, u"DatabasePath"_s, session.DatabasePath);
 }
 
 /// Before another database takes the place of the open one, whose closing tells no faults.

@@ -112,7 +112,7 @@ QString NameFilter(const QString &filter, const QString &all_files) {
 }
 
 MessageAnswer QtDialogs::Show(const Message &message) {
-    QMessageBox box(QApplication::activeWindow());
+    QMessageBox box(Parent());
     box.setObjectName(u"MessageBox"_s);
     box.setIcon(IconOf(message.icon));
     box.setWindowTitle(message.title.isEmpty() ? u"Ostrand"_s : message.title);
@@ -140,7 +140,7 @@ MessageAnswer QtDialogs::Show(const Message &message) {
 }
 
 QString QtDialogs::ChooseFile(const FileRequest &request, bool save) const {
-    QFileDialog dialog(QApplication::activeWindow(), request.title);
+    QFileDialog dialog(Parent(), request.title);
     dialog.setObjectName(u"FileDialog"_s);
     dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);

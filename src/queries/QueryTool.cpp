@@ -71,6 +71,44 @@ int PlaceInSource(const QString &text, const QString &statement, int position) {
     return source.endsWith(behind) ? int(source.size() - behind.size()) : -1;
 }
 
+constexpr int kManyRows = 10000; ///< fewer are written before a window could be read
+
+/// The progress window over a large result that is written.
+class RowsWritten {
+public:
+    RowsWritten(Session &session, int total) :
+        session_(session), total_(total), shown_(total > kManyRows && !session.progress.IsLoaded()) {
+        if (shown_) {
+            row_ = Translate(session, u"Row"_s) + u' ';
+            of_total_ = u' ' + Translate(session, u"of"_s) + u' ' + QString::number(total);
+            session.progress.Load(Translate(session, u"Save Result"_s));
+        }
+    }
+
+    /// False when the rest is not wanted any more.
+    bool Show(int done) {
+        if (!shown_) {
+            return true;
+        }
+        session_.progress.SetLine(row_ + QString::number(done) + of_total_);
+        session_.progress.SetBar(done, total_);
+        session_.services.pump.Turn();
+        return !session_.progress.ProgressCancelled() && !session_.EndProgram;
+    }
+
+    void Close() {
+        if (shown_) {
+            session_.progress.UnloadForm(false);
+        }
+    }
+
+private:
+    Session &session_;
+    int total_;
+    bool shown_;
+    QString row_, of_total_;
+};
+
 /// The database keeps lines as CR LF.
 QString WithLineEnds(QString text) {
     return text.replace(kLineBreak, "\n"_L1).replace("\n"_L1, kLineBreak);
@@ -300,8 +338,13 @@ void QueryTool::SaveResult() {
     }
     QString fault;
     ResultLines lines(listQueryResult, divider);
-    if (!ReplaceFile(
-            path, [&] { return EncodeUserText(lines.Next()); }, &fault)) {
+    RowsWritten progress(session_, listQueryResult.rowCount());
+    const auto next = [&]() -> std::optional<QByteArray> {
+        return progress.Show(lines.Done()) ? std::optional(EncodeUserText(lines.Next())) : std::nullopt;
+    };
+    const bool written = ReplaceFile(path, next, &fault);
+    progress.Close();
+    if (!written && !fault.isEmpty()) {
         ShowMessage(session_, {.text = Translated(u"The file cannot be written:") + u' ' + path + kLineBreak + fault,
                                .title = Translated(u"Save Result"),
                                .icon = MessageIcon::Critical});

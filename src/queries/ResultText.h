@@ -6,6 +6,8 @@
 #include <QList>
 #include <QString>
 
+#include <algorithm>
+
 namespace ostrand {
 
 /// All rows of a list, in order.
@@ -18,6 +20,8 @@ public:
 
     /// Some more lines; empty behind the last one.
     QString Next();
+    /// How many rows were given.
+    int Done() const { return std::max(row_, 0); }
 
 private:
     const QAbstractItemModel &list_;

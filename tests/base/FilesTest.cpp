@@ -25,6 +25,23 @@ TEST(ReplaceFileTest, WritesANewFileAndReplacesAnOldOne) {
     EXPECT_EQ(QDir(dir.Path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
 }
 
+TEST(ReplaceFileTest, WhereAPieceIsMissingTheOldFileStays) {
+    const test::TempDir dir;
+    const QString path = dir / QStringLiteral("a.txt");
+    ASSERT_TRUE(ReplaceFile(path, "old"));
+    int pieces = 0;
+    QString error = QStringLiteral("before");
+    EXPECT_FALSE(ReplaceFile(
+        path,
+        [&]() -> std::optional<QByteArray> {
+            return ++pieces < 3 ? std::optional<QByteArray>(QByteArray(1000, 'x')) : std::nullopt;
+        },
+        &error));
+    EXPECT_EQ(error, QString());
+    EXPECT_EQ(ReadFile(path), QByteArray("old"));
+    EXPECT_EQ(QDir(dir.Path()).entryList(QDir::Files).size(), 1);
+}
+
 TEST(ReplaceFileTest, SaysWhyItCannot) {
     test::TempDir dir;
     QString error;

@@ -210,6 +210,8 @@ TEST_F(FilesTest, OpeningHandsOverInOrder) {
     EXPECT_EQ(session.DatabaseFile, QDir::toNativeSeparators(QFileInfo(Path(u"My Films.v2.mdb"_s)).absoluteFilePath()));
     EXPECT_EQ(GetINIString(session, u"Main"_s, u"DatabasePath"_s, {}),
               QDir::toNativeSeparators(QFileInfo(folder_.Path()).absoluteFilePath()));
+    EXPECT_EQ(session.DatabasePath, GetINIString(session, u"Main"_s, u"DatabasePath"_s, {}))
+        << "the folder that the database manager lists";
 }
 
 TEST_F(FilesTest, ARelativePathBecomesAbsolute) {

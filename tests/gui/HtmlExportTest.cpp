@@ -17,6 +17,7 @@
 #include <QRadioButton>
 #include <QRegularExpression>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTabWidget>
 #include <QTimer>
 #include <QTreeView>
@@ -543,6 +544,46 @@ TEST_F(HtmlExportWindow, FitsASmallScreenAtTwiceTheScale) {
         ASSERT_TRUE(area);
         EXPECT_LE(area->widget()->minimumSizeHint().width(), 640) << i;
     }
+}
+
+TEST_F(HtmlExportWindow, CtrlTabTurnsThePages) {
+    Show();
+    auto *tabs = Find<QTabWidget>("tabHTMLExport");
+    const int count = tabs->count();
+    for (const auto &[from, widget] : {std::pair(0, static_cast<QWidget *>(Find<QLineEdit>("textExportPath"))),
+                                       std::pair(count - 1, static_cast<QWidget *>(Button("cbStart")))}) {
+        tabs->setCurrentIndex(from);
+        widget->setFocus();
+        QTest::keyClick(widget, Qt::Key_Tab, Qt::ControlModifier);
+        EXPECT_EQ(tabs->currentIndex(), (from + 1) % count);
+        widget->setFocus();
+        QTest::keyClick(widget, Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+        EXPECT_EQ(tabs->currentIndex(), from);
+    }
+}
+
+TEST_F(HtmlExportWindow, OnANarrowScreenThePagesScrollDownOnly) {
+    Show();
+    auto *tabs = Find<QTabWidget>("tabHTMLExport");
+    auto *tab_boxes = Find<QRadioButton>("opUseCollectionType")->parentWidget();
+    auto *sort_boxes = Find<QRadioButton>("opSortByColNo")->parentWidget();
+    tabs->setCurrentIndex(1);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(tab_boxes->y(), sort_boxes->y()) << "beside each other where there is room";
+    const QFontMetrics font = window->fontMetrics();
+    window->resize(font.averageCharWidth() * 58, window->height());
+    for (int i = 0; i < tabs->count(); ++i) {
+        tabs->setCurrentIndex(i);
+        QCoreApplication::processEvents();
+        const auto *area = qobject_cast<QScrollArea *>(tabs->widget(i));
+        ASSERT_TRUE(area);
+        EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0) << i;
+    }
+    EXPECT_EQ(tab_boxes->x(), sort_boxes->x());
+    EXPECT_LT(tab_boxes->geometry().bottom(), sort_boxes->y());
+    window->resize(font.averageCharWidth() * 100, window->height());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(tab_boxes->y(), sort_boxes->y());
 }
 
 class HtmlExportCommand : public test::MainWindowTest {};

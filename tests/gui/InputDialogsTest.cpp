@@ -4,8 +4,11 @@
 #include "shell/ui/frmBrowseFolder.h"
 #include "support/Scripted.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
+#include <QCompleter>
 #include <QDir>
+#include <QLineEdit>
 #include <QTest>
 #include <QTimer>
 #include <QTreeView>
@@ -78,6 +81,37 @@ TEST(InputDialogTest, AListOffersItsValuesAndTakesFreeText) {
         FindControl<QPushButton>(window, "cbOK")->click();
     });
     EXPECT_EQ(dialogs.InputCombo(u"?"_s, {}, {u"Ann"_s, u"Zoe"_s}, {}), u"An"_s);
+}
+
+TEST(InputDialogTest, EnterTakesWhatIsWrittenThoughTheListIsOpen) {
+    const struct {
+        const char *name;
+        QList<Qt::Key> keys;
+        bool taken;
+        QString text;
+    } cases[] = {
+        {"free text", {Qt::Key_Return}, true, u"As"_s},
+        {"on the numbers' side of the keyboard", {Qt::Key_Enter}, true, u"As"_s},
+        {"a value of the list is chosen first", {Qt::Key_Down, Qt::Key_Return}, false, u"Ash"_s},
+        {"and taken then", {Qt::Key_Down, Qt::Key_Return, Qt::Key_Return}, true, u"Ash"_s},
+    };
+    for (const auto &c : cases) {
+        frmSQLUserInput dialog({}, u"Value"_s, {});
+        dialog.SetValues({u"Ash"_s, u"Birch"_s});
+        dialog.show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        auto *combo = FindControl<QComboBox>(dialog, "comboVarValues");
+        QTest::keyClicks(combo->lineEdit(), u"As"_s);
+        QAbstractItemView *list = combo->completer()->popup();
+        ASSERT_TRUE(list->isVisible()) << c.name;
+        for (const Qt::Key key : c.keys) {
+            QTest::keyClick(list->isVisible() ? static_cast<QWidget *>(list) : combo->lineEdit(), key);
+        }
+        QCoreApplication::processEvents();
+        EXPECT_EQ(!dialog.isVisible(), c.taken) << c.name;
+        EXPECT_EQ(combo->currentText(), c.text) << c.name;
+        EXPECT_EQ(dialog.OutputString(), c.taken ? std::optional(c.text) : std::nullopt) << c.name;
+    }
 }
 
 TEST(InputDialogTest, AnEmptyListIsAListToo) {

@@ -51,6 +51,21 @@ TEST_F(ProgressWindowTest, ComesUpEmptyAndBlocksTheOtherWindows) {
     EXPECT_EQ(close->text(), u"Zu"_s);
 }
 
+TEST_F(ProgressWindowTest, IsLowAgainBehindAJobWithDetails) {
+    job.Load(u"Copying"_s);
+    QApplication::processEvents();
+    const int low = window.height();
+    job.Close();
+    job.Load(u"Importing"_s);
+    job.ShowDetails(true);
+    job.AddInfo(u"Ash"_s);
+    EXPECT_GT(window.height(), low);
+    job.Close();
+    job.Load(u"Copying"_s);
+    QApplication::processEvents();
+    EXPECT_EQ(window.height(), low);
+}
+
 TEST_F(ProgressWindowTest, ShowsLinesAndBar) {
     job.Load(u"Importing"_s);
     job.SetTitle(u"Still importing"_s);

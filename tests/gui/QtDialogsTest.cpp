@@ -50,6 +50,22 @@ TEST(NameFilterTest, IsInTheToolkitsForm) {
     }
 }
 
+TEST(QtDialogsTest, AMessageBehindADialogBelongsToTheSameWindow) {
+    PlainDialogs dialogs;
+    QWidget owner;
+    owner.show();
+    owner.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&owner));
+    QApplication::setActiveWindow(nullptr); // until the desktop has turned to the window again
+    QWidget *parent = nullptr;
+    WithModal<QMessageBox>([&](QMessageBox &box) {
+        parent = box.parentWidget();
+        box.button(QMessageBox::Ok)->click();
+    });
+    dialogs.Show({.text = u"Done"_s});
+    EXPECT_EQ(parent, &owner);
+}
+
 TEST(QtDialogsTest, AMessageShowsTextTitleIconAndButtons) {
     const struct {
         MessageIcon icon;

@@ -11,6 +11,7 @@
 #include <QListWidget>
 #include <QRegularExpression>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTabWidget>
 #include <QTest>
 #include <QTimer>
@@ -212,6 +213,52 @@ TEST_F(SettingsWindow, TextsAreTranslated) {
     Show();
     EXPECT_EQ(Find<QCheckBox>(u"chkShowToolbar"_s)->text(), u"&Leiste && Knöpfe"_s);
     EXPECT_EQ(Find<QCheckBox>(u"chkShowToolbar"_s)->accessibleName(), u"Leiste & Knöpfe"_s);
+}
+
+TEST_F(SettingsWindow, NumbersRefuseWhatIsNoNumber) {
+    Show();
+    const struct {
+        QString control, typed, shown;
+    } cases[] = {
+        {u"textLoanPeriod"_s, u"1x2-,4"_s, u"124"_s},
+        {u"textFontSize"_s, u"a9x.2,5"_s, u"9.25"_s},
+        {u"textFontSize"_s, u"10,5 pt"_s, u"10,5"_s},
+    };
+    for (const auto &c : cases) {
+        auto *edit = Find<QLineEdit>(c.control);
+        edit->clear();
+        QTest::keyClicks(edit, c.typed);
+        EXPECT_EQ(edit->text(), c.shown) << qPrintable(c.typed);
+    }
+}
+
+TEST_F(SettingsWindow, CtrlTabTurnsThePages) {
+    Show();
+    auto *tabs = Find<QTabWidget>(u"tabSettings"_s);
+    const int count = tabs->count();
+    for (const auto &[from, widget] : {std::pair(0, static_cast<QWidget *>(Find<QPushButton>(u"cbOK"_s))),
+                                       std::pair(count - 1, static_cast<QWidget *>(tabs->tabBar()))}) {
+        tabs->setCurrentIndex(from);
+        widget->setFocus();
+        QTest::keyClick(widget, Qt::Key_Tab, Qt::ControlModifier);
+        EXPECT_EQ(tabs->currentIndex(), (from + 1) % count);
+        widget->setFocus();
+        QTest::keyClick(widget, Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+        EXPECT_EQ(tabs->currentIndex(), from);
+    }
+}
+
+TEST_F(SettingsWindow, ComesUpWithEachPageWhole) {
+    Show();
+    auto *tabs = Find<QTabWidget>(u"tabSettings"_s);
+    for (int i = 0; i < tabs->count(); ++i) {
+        tabs->setCurrentIndex(i);
+        QCoreApplication::processEvents();
+        const auto *area = qobject_cast<QScrollArea *>(tabs->widget(i));
+        ASSERT_TRUE(area);
+        EXPECT_EQ(area->verticalScrollBar()->maximum(), 0) << i;
+        EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0) << i;
+    }
 }
 
 TEST_F(SettingsWindow, FitsASmallScreenAtTwiceTheScale) {

@@ -61,6 +61,23 @@ TEST_F(SqlQueryWindow, TheEntryAndTheButtonOpenTheSameWindow) {
     EXPECT_EQ(window->windowModality(), Qt::NonModal);
 }
 
+TEST_F(SqlQueryWindow, OnlyAResultCanBeSaved) {
+    Open();
+    const auto *save = In<QPushButton>("cbSaveResult");
+    EXPECT_FALSE(save->isEnabled());
+    Send(u"SELECT Title FROM Profiles WHERE Title = 'none'"_s);
+    EXPECT_TRUE(save->isEnabled()) << "the headings are something";
+}
+
+TEST_F(SqlQueryWindow, TheEntryBringsTheMinimisedWindowBack) {
+    Open();
+    window->showMinimized();
+    ASSERT_TRUE(window->isMinimized());
+    Trigger("mSQLQuery");
+    EXPECT_FALSE(window->isMinimized());
+    EXPECT_TRUE(window->isVisible());
+}
+
 TEST_F(SqlQueryWindow, EachControlHasItsNameAndCanBeReachedByTheKeyboard) {
     Open();
     for (const char *name : {"textQuery", "textError", "listQueries", "listQueryResult", "cbSendQuery", "cbListTables",

@@ -79,6 +79,9 @@ protected:
                 << GetParam() << ' ' << qPrintable(shown_name);
             Photograph(window, shown_name);
         }
+        // Of a screen of 1366 x 768 points at twice the scale.
+        EXPECT_LE(window.minimumSizeHint().width(), 683) << GetParam() << ' ' << qPrintable(name);
+        EXPECT_LE(window.minimumSizeHint().height(), 384) << GetParam() << ' ' << qPrintable(name);
     }
     void CheckAndClose(QWidget &window, const QString &name) {
         Check(window, name);
@@ -206,6 +209,7 @@ TEST_P(TextFit, TheWindowsOfPersons) {
     frmCrossLinks links(session);
     CheckAndClose(links, u"frmCrossLinks"_s);
     frmManageHeadshots manage(session);
+    test::FindControl<QLabel>(manage, "labelImageSizeExisting")->setText(u"1000 x 1400 / 1000.5 kBytes"_s);
     CheckAndClose(manage, u"frmManageHeadshots"_s);
     frmCompare compare(session);
     CheckAndClose(compare, u"frmCompare"_s);

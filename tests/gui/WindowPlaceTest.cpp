@@ -65,6 +65,16 @@ TEST_F(WindowPlaceTest, AFirstWindowHasItsDesign) {
     EXPECT_EQ(Stored(), u"- - - -"_s); // reading writes nothing
 }
 
+TEST_F(WindowPlaceTest, AFirstWindowIsNoLargerThanTheScreen) {
+    new WindowPlace(session, u"Awards"_s, &window, {5000, 123});
+    const QSize screen = window.screen()->availableSize();
+    EXPECT_LT(window.width(), screen.width());
+    EXPECT_GT(window.width(), screen.width() / 2);
+    EXPECT_EQ(window.height(), 123);
+    new WindowPlace(session, u"Awards"_s, &window, {321, 4000});
+    EXPECT_LT(window.height(), screen.height());
+}
+
 TEST_F(WindowPlaceTest, TakesWhatIsStored) {
     Store(u"3000"_s, u"4500"_s, u"150"_s, u"300"_s);
     new WindowPlace(session, u"Awards"_s, &window, {321, 123});

@@ -30,6 +30,10 @@ protected:
     void ExpectName(const std::optional<QString> &name) {
         services.dialogs.ExpectInput(u"Enter a name for the query:"_s, name, u"Query Name"_s);
     }
+    void ExpectSaved() {
+        services.dialogs.ExpectSaveFile(Path(u"r.txt"_s));
+        services.dialogs.ExpectInput({}, u"|"_s);
+    }
     void FillAliases() {
         for (int i = 0; i < 200; ++i) {
             Run(QString(u"INSERT INTO Alias (AliasName, CommonName, BirthYear) VALUES ('a%1', 'c', 0)"_s.arg(i)));
@@ -338,6 +342,51 @@ TEST_F(QueryToolTest, SavingTheResultCanBeCancelledTwice) {
     services.dialogs.ExpectMessage({}, MessageIcon::Critical, MessageAnswer::Ok, u"Save Result"_s);
     tool.SaveResult();
     EXPECT_TRUE(services.dialogs.messages.back().text.startsWith(u"The file cannot be written: "_s));
+}
+
+TEST_F(QueryToolTest, ALargeResultIsSavedWithProgress) {
+    FillAliases();
+    Send(u"SELECT a.AliasName, b.AliasName FROM Alias a, Alias b"_s);
+    ASSERT_EQ(tool.listQueryResult.rowCount(), 40000);
+    services.progress.calls.clear();
+    ExpectSaved();
+    tool.SaveResult();
+    EXPECT_EQ(services.progress.calls.first(), u"opened Save Result"_s);
+    EXPECT_TRUE(services.progress.Has(u"line Row 0 of 40000"_s));
+    EXPECT_TRUE(services.progress.Has(u"bar 40000/40000"_s));
+    EXPECT_GT(services.pump.Turns(), 5) << "events run in between";
+    EXPECT_EQ(services.progress.calls.last(), u"closed"_s);
+    EXPECT_EQ(folder_.Read(u"r.txt"_s).count('\n'), 40001);
+}
+
+TEST_F(QueryToolTest, SavingALargeResultCanBeCancelledAndLeavesTheFile) {
+    FillAliases();
+    Send(u"SELECT a.AliasName, b.AliasName FROM Alias a, Alias b"_s);
+    folder_.Write(u"r.txt"_s, "old");
+    services.pump.At(services.pump.Turns() + 3, [this] { session.progress.Close(); });
+    ExpectSaved();
+    tool.SaveResult();
+    EXPECT_EQ(folder_.Read(u"r.txt"_s), "old");
+    EXPECT_FALSE(session.progress.IsShown());
+    EXPECT_TRUE(services.dialogs.messages.empty()) << "the user knows";
+}
+
+TEST_F(QueryToolTest, AProgramThatEndsSavesNoMore) {
+    FillAliases();
+    Send(u"SELECT a.AliasName, b.AliasName FROM Alias a, Alias b"_s);
+    services.pump.At(services.pump.Turns() + 3, [this] { session.EndProgram = true; });
+    ExpectSaved();
+    tool.SaveResult();
+    EXPECT_FALSE(folder_.Has(u"r.txt"_s));
+}
+
+TEST_F(QueryToolTest, ASmallResultIsSavedWithoutProgress) {
+    Send(u"SELECT Title FROM Profiles"_s);
+    services.progress.calls.clear();
+    ExpectSaved();
+    tool.SaveResult();
+    EXPECT_TRUE(folder_.Has(u"r.txt"_s));
+    EXPECT_TRUE(services.progress.calls.isEmpty());
 }
 
 TEST_F(QueryToolTest, ALongStatementShowsProgressAndCanBeCancelled) {

@@ -34,6 +34,7 @@
 #include "queries/ui/frmSQLQuery.h"
 #include "shell/FileCommands.h"
 #include "shell/Session.h"
+#include "shell/ui/BringUp.h"
 #include "shell/ui/frmAbout.h"
 #include "shell/ui/frmSettings.h"
 
@@ -61,9 +62,7 @@ void ShowDropBox(frmMain &main) {
         window = new frmDropBox(main.browser.session, &main);
         QObject::connect(&main.browser, &Browser::LanguageChanged, window, &frmDropBox::TranslateTexts);
     }
-    window->show();
-    window->raise();
-    window->activateWindow(); // desktops give a tool window no focus of their own
+    BringUp(*window);
 }
 
 void ShowCoverWindow(frmMain &main) {
@@ -71,9 +70,7 @@ void ShowCoverWindow(frmMain &main) {
     if (!window) {
         window = new frmCover(main.browser, &main);
     }
-    window->show();
-    window->raise();
-    window->activateWindow();
+    BringUp(*window);
 }
 
 void ShowFilterTags(frmMain &main) {
@@ -82,9 +79,7 @@ void ShowFilterTags(frmMain &main) {
         window = new frmFilterTags(main.browser, &main);
         window->perform = [&main](const std::function<void()> &action) { main.Perform(action); };
     }
-    window->show();
-    window->raise();
-    window->activateWindow();
+    BringUp(*window);
 }
 
 void ShowProfile(frmMain &main, const SheetTitle &title) {
@@ -103,8 +98,7 @@ void ShowProfile(frmMain &main, const SheetTitle &title) {
     } else {
         window->GetProfileInfo(title.id);
     }
-    window->raise();
-    window->activateWindow();
+    BringUp(*window);
 }
 
 void ShowProfileInfo(frmMain &main) {
@@ -123,9 +117,7 @@ void ShowSqlQuery(frmMain &main) {
         window = new frmSQLQuery(main.browser, &main);
         window->perform = [&main](const std::function<void()> &action) { main.Perform(action); };
     }
-    window->show();
-    window->raise();
-    window->activateWindow();
+    BringUp(*window);
 }
 
 void ToggleGridLines(Browser &browser, bool ViewState::GridLines::*shown) {

@@ -1,6 +1,8 @@
 #include "html_export/ui/frmHTMLExport.h"
 
 #include "shell/Session.h"
+#include "shell/ui/FoldingRow.h"
+#include "shell/ui/PageArea.h"
 #include "shell/ui/TextSize.h"
 #include "shell/ui/WindowPlace.h"
 
@@ -16,7 +18,6 @@
 #include <QListView>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QScrollArea>
 #include <QShortcut>
 #include <QTabWidget>
 #include <QTreeView>
@@ -32,15 +33,6 @@ constexpr int kWindowLines = 42;   // both pages without scrolling
 constexpr int kMarginLetters = 10; // around the pages
 constexpr int kComboLetters = 24;
 constexpr int kListLines = 5;
-
-QScrollArea *MakeScrollArea(QWidget *content) {
-    auto *area = new QScrollArea; // a page may be higher than a small screen
-    area->setFrameShape(QFrame::NoFrame);
-    area->setWidgetResizable(true);
-    area->setWidget(content);
-    area->setFocusPolicy(Qt::NoFocus);
-    return area;
-}
 
 /// A list of few rows, which takes what room is left.
 void MakeLow(QAbstractItemView &list) {
@@ -82,8 +74,9 @@ frmHTMLExport::frmHTMLExport(Session &session, SiteHost host, QWidget *parent) :
     keys_ = keys;
     QWidget *second = MakeListsTab();
     const int widest = std::max(first->minimumSizeHint().width(), second->minimumSizeHint().width());
-    tabs->addTab(MakeScrollArea(first), pages);
-    tabs->addTab(MakeScrollArea(second), lists);
+    tabs->addTab(new PageArea(first), pages);
+    tabs->addTab(new PageArea(second), lists);
+    LetTurnPages(*tabs, *this);
     path_->setFocus();
     const int letters = widest / fontMetrics().averageCharWidth() + kMarginLetters;
     ResizeToText(*this, std::max(kWindowLetters, letters), kWindowLines);
@@ -267,17 +260,17 @@ QWidget *frmHTMLExport::MakeListsTab() {
     auto *page = new QWidget;
     auto *layout = new QVBoxLayout(page);
     layout->addWidget(MakeProfiles(), 1);
-    auto *pairs = new QHBoxLayout;
-    pairs->addWidget(MakeFlags(u"Tabs", {{u"opUseCollectionType", u"Collection Type",
-                                          u"One list for each collection type", &SiteOptions::UseCollectionType, true},
-                                         {u"opUseMediaType", u"Media Type", u"One list for each media type",
-                                          &SiteOptions::UseCollectionType, false}}));
-    pairs->addWidget(MakeFlags(
+    auto *pairs = new FoldingRow;
+    pairs->Add(MakeFlags(u"Tabs", {{u"opUseCollectionType", u"Collection Type", u"One list for each collection type",
+                                    &SiteOptions::UseCollectionType, true},
+                                   {u"opUseMediaType", u"Media Type", u"One list for each media type",
+                                    &SiteOptions::UseCollectionType, false}}));
+    pairs->Add(MakeFlags(
         u"Sort By",
         {{u"opSortBySortTitle", u"Sort Title", u"Lists go by the sort titles", &SiteOptions::SortByTitle, true},
          {u"opSortByColNo", u"Collection Number", u"Lists go by the collection numbers, the highest first",
           &SiteOptions::SortByTitle, false}}));
-    layout->addLayout(pairs);
+    layout->addWidget(pairs);
     layout->addWidget(
         MakeFlags(u"Titles", {{u"opUseTitle", u"Title", u"Lists show the titles", &SiteOptions::UseTitle, true},
                               {u"opUseOriginalTitle", u"Original Title",

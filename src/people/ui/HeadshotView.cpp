@@ -45,7 +45,7 @@ QSize HeadshotView::sizeHint() const {
 }
 
 QSize HeadshotView::minimumSizeHint() const {
-    return {fontMetrics().averageCharWidth() * 16, fontMetrics().height() * 8};
+    return {fontMetrics().averageCharWidth() * 10, fontMetrics().height() * 8};
 }
 
 void HeadshotView::ShowFile(const QString &path) {

@@ -5,6 +5,7 @@
 #include "people/ui/frmDropBox.h"
 #include "platform_qt/ElidedLabel.h"
 #include "shell/Session.h"
+#include "shell/ui/BringUp.h"
 #include "shell/ui/PressedLabel.h"
 #include "shell/ui/WindowPlace.h"
 
@@ -116,13 +117,14 @@ void frmCompare::MakeButtons(QBoxLayout &layout) {
 
 void frmCompare::MakeList(QBoxLayout &layout) {
     auto *label = new QLabel(keys_.Mark(Text(u"Files in Source Folder")), this);
+    label->setWordWrap(true);
     layout.addWidget(label);
     FileListImages_ = new QListView(this);
     FileListImages_->setObjectName(u"FileListImages"_s);
     FileListImages_->setAccessibleName(Text(u"Files in Source Folder"));
     FileListImages_->setModel(&import_.FileListImages);
     FileListImages_->setUniformItemSizes(true);
-    FileListImages_->setMinimumWidth(fontMetrics().averageCharWidth() * 24);
+    FileListImages_->setMinimumWidth(fontMetrics().averageCharWidth() * 14);
     label->setBuddy(FileListImages_);
     LetCopy(*FileListImages_);
     layout.addWidget(FileListImages_, 1);
@@ -231,9 +233,7 @@ void frmCompare::OpenDropBox() {
         box = new frmDropBox(session_, this); // a child, so that it can be used beside this modal window
         connect(box, &frmDropBox::PictureStored, this, &frmCompare::UpdateSourceImageList);
     }
-    box->show();
-    box->raise();
-    box->activateWindow();
+    BringUp(*box);
 }
 
 void frmCompare::done(int result) {

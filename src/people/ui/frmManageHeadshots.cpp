@@ -86,7 +86,7 @@ void frmManageHeadshots::MakeList(QBoxLayout &layout) {
     FileListImages_->setModel(&manager_.FileListImages);
     FileListImages_->setUniformItemSizes(true);
     FileListImages_->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    FileListImages_->setMinimumWidth(fontMetrics().averageCharWidth() * 26);
+    FileListImages_->setMinimumWidth(fontMetrics().averageCharWidth() * 16);
     LetCopy(*FileListImages_);
     OnDelete(*FileListImages_, u"Delete Images", [this] { DeleteSelected(); });
     row->addWidget(listAlphabeth_);
@@ -101,11 +101,9 @@ void frmManageHeadshots::MakePicture(QBoxLayout &layout) {
     picExisting_->setAccessibleName(Text(u"Selected picture"));
     picExisting_->SetFaultText(Text(u"This file is no picture that can be shown."));
     layout.addWidget(picExisting_, 1);
-    auto *row = new QHBoxLayout;
-    labelImageSizeExisting_ = AddLabel(*row, "labelImageSizeExisting");
-    row->addStretch();
-    checkNoResizeLeft_ = AddCheckBox(*row, "checkNoResizeLeft", u"Do not resize", u"Shows pictures in their own size");
-    layout.addLayout(row);
+    labelImageSizeExisting_ = AddLabel(layout, "labelImageSizeExisting");
+    checkNoResizeLeft_ =
+        AddCheckBox(layout, "checkNoResizeLeft", u"Do not resize", u"Shows pictures in their own size");
     checkNoResizeLeft_->setChecked(manager_.no_resize_left);
     picExisting_->SetNaturalSize(manager_.no_resize_left);
     connect(checkNoResizeLeft_, &QCheckBox::toggled, this, [this](bool on) {

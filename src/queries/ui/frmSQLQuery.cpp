@@ -341,6 +341,7 @@ void frmSQLQuery::Refresh() {
         textError_->setPlainText(tool_.textError);
     }
     labelInfo_->setText(tool_.labelInfo);
+    findChild<QPushButton *>(u"cbSaveResult"_s)->setEnabled(tool_.listQueryResult.columnCount() > 0);
     ShowQueries();
 }
 

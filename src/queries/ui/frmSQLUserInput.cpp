@@ -52,6 +52,7 @@ frmSQLUserInput::frmSQLUserInput(const Translator &translator, const QString &pr
     comboVarValues_->setObjectName(u"comboVarValues"_s);
     comboVarValues_->setAccessibleName(prompt);
     PrepareCombo(*comboVarValues_);
+    connect(comboVarValues_->lineEdit(), &QLineEdit::returnPressed, this, &frmSQLUserInput::TakeWrittenText);
     comboVarValues_->hide();
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(labelMessage_);
@@ -107,6 +108,14 @@ void frmSQLUserInput::SetNumeric(bool on) {
 
 QString frmSQLUserInput::InputString() const {
     return combo_ ? comboVarValues_->currentText() : textInput_->text();
+}
+
+void frmSQLUserInput::TakeWrittenText() {
+    const QAbstractItemView *offered = comboVarValues_->completer()->popup();
+    // Enter, which otherwise would do no more than close the list. On a value in the list it chooses that.
+    if (offered->isVisible() && !offered->currentIndex().isValid()) {
+        QMetaObject::invokeMethod(this, &frmSQLUserInput::accept, Qt::QueuedConnection);
+    }
 }
 
 void frmSQLUserInput::accept() {

@@ -38,6 +38,7 @@ public:
 
 private:
     void AddButtons(const Translator &translator);
+    void TakeWrittenText();
 
     QLabel *labelMessage_;
     QLineEdit *textInput_;

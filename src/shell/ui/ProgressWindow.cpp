@@ -97,23 +97,24 @@ void ProgressWindow::ShowAs(Qt::WindowModality modality) {
     if (open && windowModality() == modality) {
         return;
     }
-    QWidget *active = QApplication::activeWindow();
+    QWidget *window = windows_.Get();
+    const bool foreground = windows_.InForeground();
     if (open) {
         hide();
     }
     setWindowModality(modality);
     // A program in the background stays there.
-    setAttribute(Qt::WA_ShowWithoutActivating, active == nullptr);
+    setAttribute(Qt::WA_ShowWithoutActivating, !foreground);
     winId();
-    if (active && active != this) {
-        windowHandle()->setTransientParent(active->windowHandle());
+    if (window && window != this) {
+        windowHandle()->setTransientParent(window->windowHandle());
         if (!open) {
             const QRect frame(QPoint(), size());
-            move(active->geometry().center() - frame.center());
+            move(window->geometry().center() - frame.center());
         }
     }
     show();
-    if (active) {
+    if (foreground) {
         activateWindow(); // while it was hidden, the desktop may have turned to another
     }
 }
@@ -130,6 +131,7 @@ void ProgressWindow::Opened(const QString &title) {
     treeDetails_->setAccessibleName(Translate(translator_, u"Details"_s));
     progress_->setAccessibleName(Translate(translator_, u"Progress"_s));
     setWindowTitle(title);
+    layout()->activate(); // or the tree of a job before would still hold its room
     resize(DesignSize(false));
     ShowAs(Qt::ApplicationModal);
     // The job may go on for a while before it gives the next turn.

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/Services.h"
+#include "platform_qt/WindowInUse.h"
 #include "shell/Translator.h"
 
 #include <QDialog>
@@ -53,6 +54,7 @@ private:
     void ShowAs(Qt::WindowModality modality);
     void NodeActivated(const QTreeWidgetItem *item);
 
+    WindowInUse windows_;
     frmProgress *rules_ = nullptr;
     Translator translator_;
     QLabel *labelProgress_;

@@ -3,12 +3,10 @@
 #include "queries/ui/frmSQLUserInput.h"
 #include "shell/ui/frmBrowseFolder.h"
 
-#include <QApplication>
-
 namespace ostrand {
 
 std::optional<QString> WindowDialogs::InputText(const QString &prompt, const QString &title, const QString &preset) {
-    frmSQLUserInput dialog(translate, prompt, title, QApplication::activeWindow());
+    frmSQLUserInput dialog(translate, prompt, title, Parent());
     dialog.SetPlainFont();
     dialog.SetPreset(preset);
     dialog.exec();
@@ -17,7 +15,7 @@ std::optional<QString> WindowDialogs::InputText(const QString &prompt, const QSt
 
 std::optional<QString> WindowDialogs::InputCombo(const QString &prompt, const QString &title, const QStringList &values,
                                                  const QString &preset) {
-    frmSQLUserInput dialog(translate, prompt, title, QApplication::activeWindow());
+    frmSQLUserInput dialog(translate, prompt, title, Parent());
     dialog.SetValues(values);
     dialog.SetPreset(preset);
     dialog.exec();
@@ -25,7 +23,7 @@ std::optional<QString> WindowDialogs::InputCombo(const QString &prompt, const QS
 }
 
 QString WindowDialogs::BrowseFolder(const QString &title, const QString &current) {
-    frmBrowseFolder dialog(*this, translate, title, SystemDrives(translate), QApplication::activeWindow());
+    frmBrowseFolder dialog(*this, translate, title, SystemDrives(translate), Parent());
     dialog.SetCurrentFolder(current);
     return dialog.exec() == QDialog::Accepted ? dialog.CurrentFolder() : QString();
 }

@@ -116,7 +116,8 @@ void WriteWindowPlace(const Session &session, const QString &section, const QWid
 WindowPlace::WindowPlace(const Session &session, QString section, QWidget *window, QSize design) :
     QObject(window), session_(session), section_(std::move(section)), window_(window) {
     Q_ASSERT(IsWindowSection(section_));
-    ReadWindowPlace(session_, section_, *window_, design);
+    const QSize room = window->screen()->availableSize() * 9 / 10; // leaves some for the frame
+    ReadWindowPlace(session_, section_, *window_, design.boundedTo(room));
     window_->installEventFilter(this);
 }
 

@@ -29,7 +29,8 @@ void WriteWindowPlace(const Session &session, const QString &section, const QWid
 class WindowPlace : public QObject {
     Q_OBJECT
 public:
-    /// `section` is one of WindowSections() (shell/SettingsTable.h).
+    /// `section` is one of WindowSections() (shell/SettingsTable.h). On a small screen a first window has less than its
+    /// design.
     WindowPlace(const Session &session, QString section, QWidget *window, QSize design);
     bool eventFilter(QObject *watched, QEvent *event) override;
 

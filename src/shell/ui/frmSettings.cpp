@@ -1,6 +1,7 @@
 #include "shell/ui/frmSettings.h"
 
 #include "shell/Session.h"
+#include "shell/ui/PageArea.h"
 #include "shell/ui/TextSize.h"
 
 #include <QCheckBox>
@@ -9,7 +10,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QListWidget>
-#include <QScrollArea>
+#include <QRegularExpressionValidator>
 #include <QTabWidget>
 
 namespace ostrand {
@@ -57,6 +58,7 @@ QTabWidget *frmSettings::MakePages() {
         keys_ = keys; // one page is seen at a time
         tabs->addTab(MakePage(page), title);
     }
+    LetTurnPages(*tabs, *this);
     return tabs;
 }
 
@@ -69,12 +71,7 @@ QWidget *frmSettings::MakePage(const QString &page) {
         }
     }
     layout->addStretch();
-    auto *area = new QScrollArea; // a page may be higher than a small screen
-    area->setFrameShape(QFrame::NoFrame);
-    area->setWidgetResizable(true);
-    area->setWidget(content);
-    area->setFocusPolicy(Qt::NoFocus);
-    return area;
+    return new PageArea(content);
 }
 
 QWidget *frmSettings::MakeGroup(const SettingsGroupTexts &group) {
@@ -103,6 +100,9 @@ void frmSettings::AddEntry(QFormLayout &layout, const SettingsEntry &entry) {
     case SettingsEntryKind::WholeNumber:
     case SettingsEntryKind::FontSize: {
         QLineEdit *edit = MakeText(entry);
+        const bool whole = entry.kind == SettingsEntryKind::WholeNumber;
+        const QRegularExpression number(whole ? u"[0-9]*"_s : u"[0-9]*([.,][0-9]*)?"_s);
+        edit->setValidator(new QRegularExpressionValidator(number, edit)); // other values would not be kept
         edit->setMaximumWidth(fontMetrics().averageCharWidth() * 14);
         AddLabelled(layout, entry, edit, edit);
         break;
