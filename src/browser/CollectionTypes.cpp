@@ -3,6 +3,7 @@
 #include "browser/Browser.h"
 #include "browser/CollectionTabs.h"
 #include "database/DatabaseFunctions.h"
+#include "database/RecordOperations.h"
 #include "shell/Dialogs.h"
 #include "shell/Session.h"
 #include "sql/Collation.h"
@@ -42,11 +43,12 @@ QStringList ProfilesOfColType(Session &session, const QString &type) {
 }
 
 void WriteColType(Session &session, const QStringList &ids, const QString &name) {
-    const sql::Database::Bracket bracket(*session.Database);
-    for (const QString &id : ids) {
-        session.Database->Execute(u"UPDATE Profiles SET ColType = '"_s + EscapeSql(name) + u"' WHERE ProfileID = '"_s +
-                                  EscapeSql(id) + u'\'');
-    }
+    WriteTogether(session, [&] {
+        for (const QString &id : ids) {
+            session.Database->Execute(u"UPDATE Profiles SET ColType = '"_s + EscapeSql(name) +
+                                      u"' WHERE ProfileID = '"_s + EscapeSql(id) + u'\'');
+        }
+    });
 }
 
 /// Gives the tab at `index` another type, or takes it away where that type has a tab; a default type's stays.

@@ -1,6 +1,7 @@
 #include "browser/ProfileReview.h"
 
 #include "database/DatabaseFunctions.h"
+#include "database/RecordOperations.h"
 #include "shell/Session.h"
 
 namespace ostrand {
@@ -42,8 +43,7 @@ Review ReadReview(Session &session, const SheetTitle &title) {
 
 void UpdateDbReview(Session &session, const SheetTitle &title, const Review &review) {
     const QString id = EscapeSql(title.id);
-    {
-        const sql::Database::Bracket bracket(*session.Database);
+    WriteTogether(session, [&] {
         session.Database->Execute(QString(u"DELETE FROM Reviews WHERE ProfileID = '"_s + id + u'\''));
         session.Database->Execute(u"INSERT INTO Reviews (ProfileID, Film, Video, Audio, Extras) VALUES ('%1', '%2', "
                                   "'%3', '%4', '%5')"_s.arg(id)
@@ -51,8 +51,8 @@ void UpdateDbReview(Session &session, const SheetTitle &title, const Review &rev
                                       .arg(review.Video)
                                       .arg(review.Audio)
                                       .arg(review.Extras));
-    }
-    MarkEdited(session, title, u"Reviews");
+        MarkEdited(session, title, u"Reviews");
+    });
 }
 
 } // namespace ostrand
