@@ -83,10 +83,6 @@ bool SiteExport::Run() {
         SiteTemplates::TellMissing(session_, u"Skin"_s, skin_);
         return false;
     }
-    if (const QString missing = MissingSiteTemplate(session_); !missing.isEmpty()) {
-        ShowMessage(session_, {.text = missing + u' ' + Text(u"does not exist!"_s), .icon = MessageIcon::Critical});
-        return false;
-    }
     const qint64 begin = session_.services.clock.Milliseconds();
     Trace(session_, u"Start CreateOfflineHTML"_s, kTraceEntry);
     session_.progress.Load(Text(u"Creating HTML Export..."_s));

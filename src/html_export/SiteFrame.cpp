@@ -8,10 +8,6 @@
 #include "html_export/SiteText.h"
 #include "shell/Session.h"
 
-#include <QFileInfo>
-
-#include <array>
-
 namespace ostrand {
 
 namespace {
@@ -33,18 +29,7 @@ void WriteFilled(const SiteRun &run, QLatin1String source, QLatin1String target,
     PutFile(run.site + target, SiteBytes(FillSiteTemplate(DecodeUserText(*text), values)));
 }
 
-constexpr std::array kTemplates = {"list.html"_L1, "common/0.js"_L1, "index2.html"_L1, "start.html"_L1,
-                                   "iPhone.html"_L1};
-
 } // namespace
-
-QString MissingSiteTemplate(const Session &session) {
-    const QString folder = SiteSourceFolder(session);
-    const auto *missing = std::find_if(kTemplates.begin(), kTemplates.end(), [&](QLatin1String name) {
-        return folder.isEmpty() || !QFileInfo(folder + name).isFile();
-    });
-    return missing == kTemplates.end() ? QString() : "html/"_L1 + *missing;
-}
 
 QString FillSiteTemplate(const QString &text, const SiteValues &values) {
     QString filled;

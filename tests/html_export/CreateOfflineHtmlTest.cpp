@@ -108,19 +108,6 @@ TEST_F(CreateOfflineHtmlTest, WhatIsMissingEndsTheRun) {
     }
 }
 
-TEST_F(CreateOfflineHtmlTest, AProgramWithoutItsTemplatesMakesNoSite) {
-    AddOwned(u"Key_1"_s, u"Amber"_s);
-    const QString templates = services.folders.Program() + u"/html/"_s;
-    ASSERT_TRUE(QFile::remove(templates + u"index2.html"_s));
-    Expect(u"html/index2.html does not exist!"_s, {}, MessageIcon::Critical);
-    EXPECT_FALSE(Export());
-    ASSERT_TRUE(QDir(templates).removeRecursively());
-    Expect(u"html/list.html does not exist!"_s, {}, MessageIcon::Critical);
-    EXPECT_FALSE(Export());
-    EXPECT_FALSE(Has(u"Profiles"_s));
-    EXPECT_FALSE(session.progress.IsLoaded());
-}
-
 TEST_F(CreateOfflineHtmlTest, NoTypeEndsTheRun) {
     EXPECT_FALSE(Export()) << "no profile";
     AddOwned(u"Key_1"_s, u"Amber"_s);
@@ -339,6 +326,15 @@ TEST_F(CreateOfflineHtmlTest, AFolderThatCannotBeMadeIsTold) {
     EXPECT_FALSE(Export());
     EXPECT_FALSE(session.progress.IsLoaded());
     EXPECT_TRUE(LogLines().join(u'\n').contains(u"CreateOfflineHTML: "_s));
+}
+
+TEST_F(CreateOfflineHtmlTest, MissingTemplatesArePassedOver) {
+    AddOwned(u"Key_1"_s, u"Amber"_s);
+    QDir(services.folders.Program() + u"/html"_s).removeRecursively();
+    EXPECT_TRUE(Export());
+    EXPECT_FALSE(Has(u"list.html"_s));
+    EXPECT_TRUE(Has(u"common/1.js"_s));
+    EXPECT_TRUE(Has(u"Profiles/1.html"_s));
 }
 
 TEST_F(CreateOfflineHtmlTest, TitlesThatLookLikePlaceholdersStay) {
