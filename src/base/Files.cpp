@@ -2,11 +2,34 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QSaveFile>
 
 #include <utility>
 
+#ifdef Q_OS_UNIX
+#include <cerrno>
+#include <unistd.h>
+#endif
+
 namespace ostrand {
+
+namespace {
+
+/// False where the disk does not take what was written; some tell so only now.
+bool Sync([[maybe_unused]] const QSaveFile &file) {
+#ifdef Q_OS_UNIX
+    return ::fsync(file.handle()) == 0 || (errno != EIO && errno != ENOSPC && errno != EDQUOT);
+#else
+    return true;
+#endif
+}
+
+} // namespace
+
+bool CommitFile(QSaveFile &file) {
+    return file.flush() && Sync(file) && file.commit();
+}
 
 bool ReplaceFile(const QString &path, const QByteArray &content, QString *error) {
     bool given = false;
@@ -28,15 +51,20 @@ bool ReplaceFile(const QString &path, const std::function<std::optional<QByteArr
             break;
         written = file.write(*piece) == piece->size();
     }
-    written = written && file.commit(); // which syncs
+    written = written && CommitFile(file);
     if (!written && error != nullptr)
         *error = file.errorString();
     return written;
 }
 
+bool IsEndless(const QString &path) {
+    const QFileInfo info(path);
+    return info.exists() && !info.isFile() && !info.isDir();
+}
+
 std::optional<QByteArray> ReadFile(const QString &path) {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    if (IsEndless(path) || !file.open(QIODevice::ReadOnly))
         return std::nullopt;
     QByteArray content = file.readAll();
     if (file.error() != QFileDevice::NoError)

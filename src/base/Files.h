@@ -7,7 +7,13 @@
 #include <functional>
 #include <optional>
 
+class QSaveFile;
+
 namespace ostrand {
+
+/// Puts a file that was written in the place of the old one. False where not all of it reached the disk, which leaves
+/// the old file; QSaveFile alone loses the fault of its last buffer.
+bool CommitFile(QSaveFile &file);
 
 /// Writes a new file beside the old one, makes it durable and puts it in the old one's place, so that a crash leaves
 /// either the one or the other. False on a fault, which leaves the old file; `error` then says why.
@@ -18,7 +24,10 @@ bool ReplaceFile(const QString &path, const QByteArray &content, QString *error 
 bool ReplaceFile(const QString &path, const std::function<std::optional<QByteArray>()> &next_piece,
                  QString *error = nullptr);
 
-/// The whole file; nothing when it cannot be read.
+/// True for a pipe or a device: whoever opens or reads one may wait for ever.
+bool IsEndless(const QString &path);
+
+/// The whole file; nothing when it cannot be read, or is endless.
 std::optional<QByteArray> ReadFile(const QString &path);
 
 /// Creates every missing folder of a path. False when one cannot be created.

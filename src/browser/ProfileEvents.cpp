@@ -160,14 +160,13 @@ void ProfileEvents::Add(const SheetTitle &title, const EventInput &input) {
         return;
     }
     const TitleEvent event = FromInput(input);
-    WriteTogether(session_, [&] {
+    Write(title, [&] {
         for (const QString &user : users.Checked()) {
             Insert(title, user, event);
             FollowLoan(title, user, event);
         }
     });
     RememberType(event.type);
-    Finish(title);
 }
 
 void ProfileEvents::Change(const SheetTitle &title, const QString &id, const EventInput &input) {
@@ -176,11 +175,12 @@ void ProfileEvents::Change(const SheetTitle &title, const QString &id, const Eve
         return;
     }
     const TitleEvent event = FromInput(input);
-    session_.Database->Execute(QString(u"UPDATE Events SET EventType = "_s + Quoted(event.type) +
-                                       u", EventTimeStamp = "_s + Quoted(event.stamp) + u", Comment = "_s +
-                                       Quoted(event.comment) + u" WHERE EventID = "_s + old->id));
+    Write(title, [&] {
+        session_.Database->Execute(QString(u"UPDATE Events SET EventType = "_s + Quoted(event.type) +
+                                           u", EventTimeStamp = "_s + Quoted(event.stamp) + u", Comment = "_s +
+                                           Quoted(event.comment) + u" WHERE EventID = "_s + old->id));
+    });
     RememberType(event.type);
-    Finish(title);
 }
 
 void ProfileEvents::Delete(const SheetTitle &title, const QString &id) {
@@ -188,15 +188,17 @@ void ProfileEvents::Delete(const SheetTitle &title, const QString &id) {
     if (!old) {
         return;
     }
-    session_.Database->Execute(QString(u"DELETE FROM Events WHERE EventID = "_s + old->id));
-    Finish(title);
+    Write(title, [&] { session_.Database->Execute(QString(u"DELETE FROM Events WHERE EventID = "_s + old->id)); });
 }
 
-void ProfileEvents::Finish(const SheetTitle &title) {
-    if (session_.view.AutoLockEvents) {
-        SetLock(session_, title.id, u"Events"_s);
-    }
-    MarkEdited(session_, title, u"Events");
+void ProfileEvents::Write(const SheetTitle &title, const std::function<void()> &changes) {
+    WriteTogether(session_, [&] {
+        changes();
+        if (session_.view.AutoLockEvents) {
+            SetLock(session_, title.id, u"Events"_s);
+        }
+        MarkEdited(session_, title, u"Events");
+    });
     ReadEvents(title);
 }
 

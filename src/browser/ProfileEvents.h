@@ -61,7 +61,7 @@ private:
     void FollowLoan(const SheetTitle &title, const QString &user, const TitleEvent &event);
     TitleEvent FromInput(const EventInput &input);
     void RememberType(const QString &type);
-    void Finish(const SheetTitle &title);
+    void Write(const SheetTitle &title, const std::function<void()> &changes);
 
     Session &session_;
     std::vector<TitleEvent> events_;

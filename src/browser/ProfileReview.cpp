@@ -51,8 +51,8 @@ void UpdateDbReview(Session &session, const SheetTitle &title, const Review &rev
         session.Database->Execute(QString(u"DELETE FROM Reviews WHERE ProfileID = "_s + id));
         session.Database->Execute(
             QString(u"INSERT INTO Reviews (ProfileID, Film, Video, Audio, Extras) VALUES ("_s + values + u')'));
+        MarkEdited(session, title, u"Reviews");
     });
-    MarkEdited(session, title, u"Reviews");
 }
 
 } // namespace ostrand

@@ -143,9 +143,14 @@ void ImportAdditionalInfos(Session &session, const QString &path) {
     }
     const UnpackedFile file(session, path, u"xml"_s);
     pugi::xml_document document;
-    const XmlResult result = XmlLoadFile(file.Path(), document);
+    XmlResult result = XmlLoadFile(file.Path(), document);
     const pugi::xml_node root = document.child("AdditionalInfos");
-    if (!result.ok || !root) {
+    if (result.ok && !root) {
+        result.reason = Translate(session, u"The file holds no element AdditionalInfos."_s);
+        result.line = 1;
+        result.ok = false;
+    }
+    if (!result.ok) {
         ShowMessage(session, {.text = Translate(session, u"Invalid XML file!"_s) + u'\n' + result.reason + u'\n' +
                                       Translate(session, u"Line"_s) + u' ' + QString::number(result.line),
                               .title = Translate(session, u"Invalid file"_s),

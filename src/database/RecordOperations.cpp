@@ -132,13 +132,16 @@ void MarkEdited(Session &session, const QString &id) {
 
 void WriteTogether(Session &session, const std::function<void()> &changes) {
     session.Database->Flush();
-    sql::Database::Bracket bracket(*session.Database);
-    try {
-        changes();
-    } catch (...) {
-        bracket.Abandon();
-        throw;
+    {
+        sql::Database::Bracket bracket(*session.Database);
+        try {
+            changes();
+        } catch (...) {
+            bracket.Abandon();
+            throw;
+        }
     }
+    session.Database->Flush(); // a disk that is full shows here, before anybody shows the changes
 }
 
 } // namespace ostrand

@@ -30,8 +30,8 @@ bool AskToDeleteImages(Session &session);
 /// The next import and whoever looks at dates must see that a profile was changed by hand. Throws SqlError.
 void MarkEdited(Session &session, const QString &id);
 
-/// Runs changes that belong together: a fault, which is thrown on, takes all of them back, and a crash leaves all or
-/// nothing.
+/// Runs changes that belong together and makes them durable: a fault, which is thrown on, takes all of them back, and a
+/// crash leaves all or nothing.
 void WriteTogether(Session &session, const std::function<void()> &changes);
 
 } // namespace ostrand

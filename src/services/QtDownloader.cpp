@@ -1,5 +1,7 @@
 #include "services/QtDownloader.h"
 
+#include "base/Files.h"
+
 #include <QEventLoop>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
@@ -65,7 +67,7 @@ QString Receive(QNetworkReply &reply, const QString &path, EventPump &pump) {
     if (reply.error() != QNetworkReply::NoError) {
         return reply.errorString();
     }
-    return Take(reply, file) && file.commit() ? QString() : file.errorString();
+    return Take(reply, file) && CommitFile(file) ? QString() : file.errorString();
 }
 
 } // namespace

@@ -6,6 +6,8 @@
 #include <QDir>
 #include <QDirIterator>
 
+#include <filesystem>
+
 namespace ostrand {
 
 namespace {
@@ -22,13 +24,24 @@ QString OwnSkins(const Session &session) {
     return {};
 }
 
-void CopyFile(const Session &session, const QString &from, const QString &to) {
+bool CopyFile(const Session &session, const QString &from, const QString &to) {
     if (!MakeFolderPath(QFileInfo(to).path()) || !QFile::copy(from, to)) {
         Trace(session, u"InstallSkins: "_s + to, kTraceError);
-        return;
+        return false;
     }
     // Installed files may be read-only, and skins are there to be changed.
     QFile::setPermissions(to, QFile::permissions(to) | QFile::ReadOwner | QFile::WriteOwner);
+    return true;
+}
+
+bool CopyAll(const Session &session, const QString &from, const QString &to) {
+    QDirIterator files(from, QDir::Files, QDirIterator::Subdirectories);
+    bool copied = true;
+    while (copied && files.hasNext()) {
+        const QString file = files.next();
+        copied = CopyFile(session, file, to + file.mid(from.size()));
+    }
+    return copied;
 }
 
 } // namespace
@@ -43,11 +56,17 @@ void InstallSkins(const Session &session) {
     if (own.isEmpty()) {
         return;
     }
-    QDirIterator files(own, QDir::Files, QDirIterator::Subdirectories);
-    while (files.hasNext()) {
-        const QString from = files.next();
-        CopyFile(session, from, folder + from.mid(own.size()));
+    // All or none, as a folder that holds one is never filled again: a disk may be full, a first start may be cut off.
+    const QString part = folder + u"_new"_s;
+    QDir(part).removeRecursively();
+    std::error_code error;
+    if (CopyAll(session, own, part)) {
+        std::filesystem::rename(QFileInfo(part).filesystemFilePath(), QFileInfo(folder).filesystemFilePath(), error);
+        if (error) {
+            Trace(session, u"InstallSkins: "_s + QString::fromLocal8Bit(error.message().c_str()), kTraceError);
+        }
     }
+    QDir(part).removeRecursively();
 }
 
 } // namespace ostrand

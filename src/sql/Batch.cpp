@@ -40,11 +40,21 @@ void Batch::RequireSound() {
     }
 }
 
+/// What is written into a file that has no name any more is gone when it is closed.
+void Batch::RequirePlace() const {
+    if (connection_.HasMoved()) {
+        throw SqlError(ErrorCode::CannotOpenDatabase,
+                       QStringLiteral("The database file was moved, removed or replaced while it was open. Nothing "
+                                      "more is written into it; open the database again."));
+    }
+}
+
 void Batch::BeforeWrite() {
     RequireSound();
     if (open_) {
         return;
     }
+    RequirePlace();
     RunOnce(begin_);
     open_ = true;
     statements_ = 0;

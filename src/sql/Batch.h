@@ -21,7 +21,8 @@ public:
 
     Batch(Connection &connection, Clock clock);
 
-    /// Opens a transaction where none is open. Throws CannotLock while another process writes.
+    /// Opens a transaction where none is open. Throws CannotLock while another process writes, and CannotOpenDatabase
+    /// when the file is no longer where it was opened.
     void BeforeWrite();
     /// Counts a statement that succeeded, and ends the transaction when it is due.
     void AfterWrite();
@@ -46,6 +47,7 @@ private:
     bool IsLost() const;
     bool IsOverdue() const;
     void RequireSound();
+    void RequirePlace() const;
     void Commit();
 
     Connection &connection_;

@@ -1,6 +1,7 @@
 #include "sql/Connection.h"
 
 #include <array>
+#include <cerrno>
 
 #include <sqlite3.h>
 
@@ -68,13 +69,19 @@ SqlError MakeConstraintError(int extended, const QString &text) {
     }
 }
 
+/// Some full disks show as faults of another kind; the index of the log fails only for want of room.
+bool IsFull(sqlite3 *handle, int extended) {
+    const bool system_fault = (extended & 0xff) == SQLITE_IOERR || (extended & 0xff) == SQLITE_CANTOPEN;
+    return extended == SQLITE_IOERR_SHMSIZE || (system_fault && sqlite3_system_errno(handle) == ENOSPC);
+}
+
 SqlError MakeSqliteError(sqlite3 *handle) {
     if (handle == nullptr) {
         return {ErrorCode::Internal, QStringLiteral("No database is open.")};
     }
     const int extended = sqlite3_extended_errcode(handle);
     const QString text = QString::fromUtf8(sqlite3_errmsg(handle));
-    switch (extended & 0xff) {
+    switch (IsFull(handle, extended) ? SQLITE_FULL : extended & 0xff) {
     case SQLITE_FULL:
         return {ErrorCode::DiskFull, QStringLiteral("The disk is full; the database can't be written.")};
     case SQLITE_READONLY:
@@ -243,6 +250,11 @@ Value Connection::Single(QStringView sql) const {
 
 int Connection::Changes() const {
     return sqlite3_changes(handle_.get());
+}
+
+bool Connection::HasMoved() const {
+    int moved = 0;
+    return sqlite3_file_control(handle_.get(), "main", SQLITE_FCNTL_HAS_MOVED, &moved) == SQLITE_OK && moved != 0;
 }
 
 } // namespace ostrand::sql

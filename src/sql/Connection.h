@@ -56,6 +56,8 @@ public:
     Value Single(QStringView sql) const;
     /// Rows that the last INSERT, UPDATE or DELETE changed.
     int Changes() const;
+    /// True where the file no longer stands under the name that it was opened by.
+    bool HasMoved() const;
 
 private:
     struct Closer {

@@ -90,22 +90,22 @@ Database::~Database() = default;
 
 std::unique_ptr<Database> Database::Create(const QString &path, Environment environment) {
     auto impl = std::make_unique<Impl>(path, std::move(environment));
-    {
-        Connection connection = CreateFile(path, RegisterWith(impl->environment));
-        try {
-            impl->lock = std::make_unique<LockFile>(path);
-        } catch (const SqlError &) {
-            connection = {};
-            RemoveNewFile(path);
-            throw;
-        }
+    Connection connection = CreateFile(path, RegisterWith(impl->environment));
+    try {
+        impl->lock = std::make_unique<LockFile>(path);
         impl->Attach(std::move(connection));
+    } catch (const SqlError &) {
+        connection = {};
+        impl.reset();
+        RemoveNewFile(path);
+        throw;
     }
     return std::unique_ptr<Database>(new Database(std::move(impl)));
 }
 
 std::unique_ptr<Database> Database::Open(const QString &path, Environment environment) {
     auto impl = std::make_unique<Impl>(path, std::move(environment));
+    LockFile::RequireSameFile(path);
     Connection connection = OpenFile(path, RegisterWith(impl->environment));
     impl->lock = std::make_unique<LockFile>(path);
     impl->Attach(std::move(connection));

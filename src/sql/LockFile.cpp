@@ -18,8 +18,15 @@ struct Holder {
     qint64 process = 0;
     QByteArray start_time;
     int number = 0;
+    quint64 file = 0; ///< what the database is known by in its folder, whatever its name
     QByteArray program;
 };
+
+/// 0 where there is no file.
+quint64 FileNumber(const QString &database_path) {
+    struct stat status = {};
+    return ::stat(QFile::encodeName(database_path).constData(), &status) == 0 ? quint64(status.st_ino) : 0;
+}
 
 /// The start time of a living process in the system's clock ticks; empty for none, and for one that has ended and only
 /// waits to be asked how.
@@ -41,17 +48,18 @@ QByteArray StartTime(qint64 process) {
 
 QByteArray ToLine(const Holder &holder) {
     return QByteArray::number(holder.process) + ' ' + holder.start_time + ' ' + QByteArray::number(holder.number) +
-           ' ' + holder.program + '\n';
+           ' ' + QByteArray::number(holder.file) + ' ' + holder.program + '\n';
 }
 
 std::vector<Holder> LivingHolders(const QByteArray &text) {
     std::vector<Holder> holders;
     for (const QByteArray &line : text.split('\n')) {
         const QList<QByteArray> fields = line.split(' ');
-        if (fields.size() < 4) {
+        if (fields.size() < 5) {
             continue;
         }
-        Holder holder{fields.at(0).toLongLong(), fields.at(1), fields.at(2).toInt(), fields.mid(3).join(' ')};
+        Holder holder{fields.at(0).toLongLong(), fields.at(1), fields.at(2).toInt(), fields.at(3).toULongLong(),
+                      fields.mid(4).join(' ')};
         if (holder.process > 0 && !holder.start_time.isEmpty() && StartTime(holder.process) == holder.start_time) {
             holders.push_back(std::move(holder));
         }
@@ -143,7 +151,7 @@ std::vector<Holder> ReadHolders(const QString &database_path) {
 
 LockFile::LockFile(const QString &database_path) : path_(PathFor(database_path)) {
     const OpenLockFile file(path_, O_RDWR | O_CREAT);
-    Holder own{::getpid(), StartTime(::getpid()), 1, ProgramName()};
+    Holder own{::getpid(), StartTime(::getpid()), 1, FileNumber(database_path), ProgramName()};
     std::vector<Holder> holders = file.IsOpen() ? LivingHolders(file.Read()) : std::vector<Holder>();
     for (const Holder &holder : holders) {
         if (holder.process == own.process) {
@@ -187,6 +195,17 @@ bool LockFile::IsHeldByOther(const QString &database_path) {
     const std::vector<Holder> holders = ReadHolders(database_path);
     return std::any_of(holders.begin(), holders.end(),
                        [](const Holder &holder) { return holder.process != ::getpid(); });
+}
+
+void LockFile::RequireSameFile(const QString &database_path) {
+    const quint64 file = FileNumber(database_path);
+    for (const Holder &holder : ReadHolders(database_path)) {
+        if (holder.file != file && holder.file != 0 && file != 0) {
+            throw SqlError(ErrorCode::CannotLock,
+                           QStringLiteral("Another application or instance still works on the file that stood here "
+                                          "before this one. Close it first."));
+        }
+    }
 }
 
 } // namespace ostrand::sql

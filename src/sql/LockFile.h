@@ -10,7 +10,7 @@ namespace ostrand::sql {
 /// one process. Holders that are gone without a word do not count and are cleaned away; the last one removes the file.
 ///
 /// A line of the file is one holder: process id, start time of the process (which tells a process from a later one
-/// with the same id), number of the holder within the process, name of the program.
+/// with the same id), number of the holder within the process, number of the database's file, name of the program.
 class LockFile {
 public:
     /// Throws SqlError (CannotLock) when the file can't be written.
@@ -25,6 +25,9 @@ public:
     static QStringList Holders(const QString &database_path);
     /// True while a process other than this one holds the database.
     static bool IsHeldByOther(const QString &database_path);
+    /// Throws CannotLock when a holder opened another file under that name, which was moved or removed since: the log
+    /// beside it belongs to that one and would be taken for this one's.
+    static void RequireSameFile(const QString &database_path);
 
 private:
     QString path_;

@@ -98,7 +98,7 @@ QString ReadUtf8File(const QString &path) {
 bool IsUnicodeFile(const QString &path) {
     QFile file(path);
     char first = 0;
-    if (!file.open(QIODevice::ReadOnly) || !file.getChar(&first))
+    if (IsEndless(path) || !file.open(QIODevice::ReadOnly) || !file.getChar(&first))
         return false;
     const auto byte = static_cast<unsigned char>(first);
     return byte == 0xFF || byte == 0xEF;

@@ -1,5 +1,6 @@
 #include "xml/XmlEventReader.h"
 
+#include "base/Files.h"
 #include "base/Text.h"
 #include "xml/ExpatEncoding.h"
 
@@ -173,6 +174,8 @@ QString Reading::SourceAtFault() {
 } // namespace
 
 XmlResult XmlReadFile(const QString &path, XmlEventHandler &handler) {
+    if (IsEndless(path))
+        return {false, path + QStringLiteral(" is no file"), {}, 0};
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return {false, file.errorString(), {}, 0};

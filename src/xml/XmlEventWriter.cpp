@@ -1,5 +1,6 @@
 #include "xml/XmlEventWriter.h"
 
+#include "base/Files.h"
 #include "xml/XmlNodes.h"
 
 namespace ostrand {
@@ -94,7 +95,7 @@ bool XmlEventWriter::Finish() {
         file_.cancelWriting();
         return false;
     }
-    failed_ = !file_.commit();
+    failed_ = !CommitFile(file_);
     return !failed_;
 }
 

@@ -7,6 +7,12 @@
 
 #include <gtest/gtest.h>
 
+#ifdef Q_OS_UNIX
+#include "sql/ForkedChild.h"
+
+#include <sys/resource.h>
+#endif
+
 namespace ostrand {
 namespace {
 
@@ -43,12 +49,40 @@ TEST(ReplaceFileTest, SaysWhyItCannot) {
     EXPECT_FALSE(error.isEmpty());
 }
 
+#ifdef Q_OS_UNIX
+TEST(ReplaceFileTest, AFullDiskLeavesTheOldFile) {
+    test::TempDir dir;
+    const QString path = dir.Write(QStringLiteral("a.txt"), "old");
+    EXPECT_EQ(sql::testing::InChild([&] {
+                  std::signal(SIGXFSZ, SIG_IGN);
+                  const rlimit limit = {10, RLIM_INFINITY}; // no file takes a byte beyond it
+                  ::setrlimit(RLIMIT_FSIZE, &limit);
+                  QString error;
+                  return ReplaceFile(path, "much too long", &error) || error.isEmpty() ? 1 : 0;
+              }),
+              0);
+    EXPECT_EQ(dir.Read(QStringLiteral("a.txt")), QByteArray("old"));
+    EXPECT_EQ(QDir(dir.Path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
+}
+#endif
+
 TEST(ReadFileTest, TellsAMissingFileFromAnEmptyOne) {
     test::TempDir dir;
     EXPECT_EQ(ReadFile(dir.Write(QStringLiteral("e"), "")), QByteArray());
     EXPECT_EQ(ReadFile(dir / QStringLiteral("none")), std::nullopt);
     EXPECT_EQ(ReadFile(dir.Path()), std::nullopt);
 }
+
+#ifdef Q_OS_UNIX
+TEST(ReadFileTest, TouchesNeitherPipesNorDevices) {
+    EXPECT_TRUE(IsEndless(QStringLiteral("/dev/null")));
+    EXPECT_EQ(ReadFile(QStringLiteral("/dev/null")), std::nullopt);
+    test::TempDir dir;
+    EXPECT_FALSE(IsEndless(dir.Path()));
+    EXPECT_FALSE(IsEndless(dir / QStringLiteral("none")));
+    EXPECT_FALSE(IsEndless(dir.Write(QStringLiteral("a.txt"), "a")));
+}
+#endif
 
 TEST(MakeFolderPathTest, MakesEveryMissingFolder) {
     test::TempDir dir;

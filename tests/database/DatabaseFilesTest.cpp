@@ -124,14 +124,17 @@ void FillDisk(qint64 size) {
 }
 
 TEST_F(FilesTest, AFullDiskLeavesNoHalfDatabase) {
-    const int status = sql::testing::InChild([&] {
-        FillDisk(40'000);
-        Expect({}, u"Cannot open database"_s, MessageIcon::Critical);
-        const bool made = NewCollectionDatabase(session, Path(u"New.mdb"_s));
-        return made || session.Database || services.dialogs.messages.size() != 1 ? 1 : 0;
-    });
-    EXPECT_EQ(status, 0);
-    EXPECT_TRUE(QDir(folder_.Path()).entryList(QDir::Files).isEmpty());
+    // Without room for the file, for the index of its log, for the log, and for all tables.
+    for (const qint64 size : {1'000, 10'000, 34'000, 40'000}) {
+        const int status = sql::testing::InChild([&] {
+            FillDisk(size);
+            Expect({}, u"Cannot open database"_s, MessageIcon::Critical);
+            const bool made = NewCollectionDatabase(session, Path(u"New.mdb"_s));
+            return made || session.Database || services.dialogs.messages.size() != 1 ? 1 : 0;
+        });
+        EXPECT_EQ(status, 0) << size;
+        EXPECT_EQ(QDir(folder_.Path()).entryList(QDir::Files), QStringList()) << size;
+    }
 }
 
 TEST_F(FilesTest, AFullDiskLeavesTheOldVersion) {

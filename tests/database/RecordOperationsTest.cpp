@@ -3,6 +3,12 @@
 #include "CollectionFixture.h"
 #include "sql/SqlError.h"
 
+#ifdef Q_OS_UNIX
+#include "sql/ForkedChild.h"
+
+#include <sys/resource.h>
+#endif
+
 namespace ostrand {
 namespace {
 
@@ -226,6 +232,26 @@ TEST_F(RecordOperations, AnEditShowsInTheProfile) {
     EXPECT_EQ(Rows(u"SELECT MD5, LastEdited FROM Profiles ORDER BY Title"),
               (QStringList{u"|2024-05-17 10:20:30"_s, u"def|"_s}));
 }
+
+#ifdef Q_OS_UNIX
+TEST_F(RecordOperations, AFullDiskIsToldBeforeChangesCountAsDone) {
+    AddTitle(u"Key_1"_s, false);
+    session.Database->Flush();
+    EXPECT_EQ(sql::testing::InChild([&] {
+                  std::signal(SIGXFSZ, SIG_IGN);
+                  const rlimit limit = {1'000, RLIM_INFINITY}; // no file takes a byte beyond it
+                  ::setrlimit(RLIMIT_FSIZE, &limit);
+                  try {
+                      WriteTogether(session, [&] { Run(u"UPDATE Profiles SET Title = 'Beryl'"); });
+                      return 1;
+                  } catch (const sql::SqlError &) {
+                      const QString title = session.Database->OpenRecordset(u"SELECT Title FROM Profiles").Text(0);
+                      return title == u"Amber" ? 0 : 2;
+                  }
+              }),
+              0);
+}
+#endif
 
 } // namespace
 } // namespace ostrand

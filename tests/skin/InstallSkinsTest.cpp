@@ -3,6 +3,12 @@
 #include "../database/CollectionFixture.h"
 #include "shell/StartUp.h"
 
+#ifdef Q_OS_UNIX
+#include "sql/ForkedChild.h"
+
+#include <sys/resource.h>
+#endif
+
 namespace ostrand {
 namespace {
 
@@ -69,6 +75,31 @@ TEST_F(InstallSkinsTest, WithoutAnyTheFolderIsMade) {
     EXPECT_TRUE(QDir(Skins()).exists());
     EXPECT_TRUE(QDir(Skins()).isEmpty());
 }
+
+#ifdef Q_OS_UNIX
+TEST_F(InstallSkinsTest, WhatAFullDiskKeepsOutComesWithALaterStart) {
+    Write(Own(u"Plain/Skin.html"_s), QByteArray(2'000, 'p'));
+    EXPECT_EQ(sql::testing::InChild([&] {
+                  std::signal(SIGXFSZ, SIG_IGN);
+                  const rlimit limit = {1'000, RLIM_INFINITY}; // no file takes a byte beyond it
+                  ::setrlimit(RLIMIT_FSIZE, &limit);
+                  InstallSkins(session);
+                  return QDir(Skins()).isEmpty() ? 0 : 1;
+              }),
+              0);
+    InstallSkins(session);
+    EXPECT_EQ(Installed(u"Plain/Skin.html"_s).size(), 2'000);
+    EXPECT_EQ(Installed(u"Fine/Images/star.png"_s), "star");
+    EXPECT_EQ(QDir(session.DataFolder).entryList({u"Skins*"_s}, QDir::Dirs), QStringList{u"Skins"_s});
+}
+
+TEST_F(InstallSkinsTest, AFirstStartThatWasCutOffDoesNotCount) {
+    Write(session.DataFolder + u"/Skins_new/Plain/Skin.html"_s, "pl");
+    InstallSkins(session);
+    EXPECT_EQ(Installed(u"Plain/Skin.html"_s), "plain");
+    EXPECT_EQ(QDir(session.DataFolder).entryList({u"Skins*"_s}, QDir::Dirs), QStringList{u"Skins"_s});
+}
+#endif
 
 TEST_F(InstallSkinsTest, TheFirstStartDoesIt) {
     PrepareStartUp(session, {});

@@ -201,6 +201,24 @@ TEST_F(BatchTest, AnotherWriterIsToldInWords) {
     EXPECT_TRUE(batch_.IsOpen());
 }
 
+#ifdef Q_OS_UNIX
+TEST_F(BatchTest, AFileThatIsNotInItsPlaceTakesNothingMore) {
+    const QString path = PathOf(u"own.mdb"_s);
+    const QString away = PathOf(u"away.mdb"_s);
+    EXPECT_EQ(Insert(1), 0);
+    batch_.Flush();
+    ASSERT_TRUE(QFile::rename(path, away));
+    EXPECT_EQ(Insert(2), int(ErrorCode::CannotOpenDatabase));
+    ASSERT_TRUE(QFile::copy(away, path)) << "another file of that name is not the one that is open";
+    EXPECT_EQ(Insert(2), int(ErrorCode::CannotOpenDatabase));
+    EXPECT_FALSE(batch_.IsOpen());
+    EXPECT_EQ(Seen(), 1);
+    ASSERT_TRUE(QFile::remove(path));
+    ASSERT_TRUE(QFile::rename(away, path));
+    EXPECT_EQ(Insert(2), 0);
+}
+#endif
+
 TEST_F(BatchTest, AProcessThatDiesLeavesBracketsWhollyOrNotAtAll) {
     const QString path = PathOf(u"own.mdb"_s);
     {

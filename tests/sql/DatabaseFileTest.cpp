@@ -12,6 +12,7 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace ostrand::sql::testing {
@@ -131,6 +132,25 @@ TEST_F(DatabaseFileTest, AFailedCreationLeavesNothing) {
     EXPECT_THROW(CreateFile(path_, [](sqlite3 *) { throw SqlError(ErrorCode::Internal, u"no"_s); }), SqlError);
     EXPECT_EQ(Files(), QStringList());
 }
+
+#ifdef Q_OS_UNIX
+TEST_F(DatabaseFileTest, ADiskWithoutRoomForTheIndexOfTheLogIsFull) {
+    Make(path_);
+    EXPECT_EQ(InChild([&] {
+                  std::signal(SIGXFSZ, SIG_IGN);
+                  const rlimit limit = {10'000, RLIM_INFINITY}; // no file takes a byte beyond it
+                  ::setrlimit(RLIMIT_FSIZE, &limit);
+                  try {
+                      OpenFile(path_, RegisterTestFunctions);
+                      return 1;
+                  } catch (const SqlError &error) {
+                      return error.Code() == ErrorCode::DiskFull ? 0 : 2;
+                  }
+              }),
+              0);
+    EXPECT_EQ(RowsOf(path_), 500);
+}
+#endif
 
 TEST_F(DatabaseFileTest, FilesThatFailACheckStayAsTheyAre) {
     Make(path_);

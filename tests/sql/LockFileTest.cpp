@@ -1,5 +1,6 @@
 #include "ForkedChild.h"
 
+#include "sql/Database.h"
 #include "sql/LockFile.h"
 #include "sql/SqlError.h"
 
@@ -100,12 +101,34 @@ TEST_F(LockFileTest, HoldersThatAreGoneAreCleanedByTheNext) {
 
 TEST_F(LockFileTest, AReusedProcessIdDoesNotCount) {
     const QByteArray own = QByteArray::number(::getpid());
-    for (const QByteArray &text : {own + " 1 1 old program\n", QByteArray("garbage\n\n"), QByteArray(" \n"), own,
-                                   QByteArray(), QByteArray("0  1 x\n"), QByteArray("-1 5 1 x\n")}) {
+    for (const QByteArray &text : {own + " 1 1 5 old program\n", QByteArray("garbage\n\n"), QByteArray(" \n"), own,
+                                   QByteArray(), QByteArray("0  1 5 x\n"), QByteArray("-1 5 1 5 x\n")}) {
         Write(text);
         EXPECT_EQ(LockFile::Holders(path_), QStringList()) << text.toStdString();
         EXPECT_FALSE(Exists());
     }
+}
+
+TEST_F(LockFileTest, AFileThatTookThePlaceOfAHeldOneIsNotOpened) {
+    const auto make = [](const QString &path) { Database::Create(path, {})->Execute(u"CREATE TABLE T (A varchar)"); };
+    const QString other = directory_.filePath(u"other.mdb"_s);
+    make(path_);
+    make(other);
+    {
+        const std::unique_ptr<Database> held = Database::Open(path_, {});
+        held->Execute(u"INSERT INTO T (A) VALUES ('held')");
+        held->Flush();
+        ASSERT_TRUE(QFile::rename(path_, directory_.filePath(u"away.mdb"_s)));
+        ASSERT_TRUE(QFile::rename(other, path_));
+        try {
+            Database::Open(path_, {});
+            ADD_FAILURE();
+        } catch (const SqlError &error) {
+            EXPECT_EQ(error.Code(), ErrorCode::CannotLock);
+        }
+    }
+    EXPECT_EQ(Database::Open(path_, {})->RecordCount(u"T"), 0);
+    EXPECT_EQ(Database::Open(directory_.filePath(u"away.mdb"_s), {})->RecordCount(u"T"), 1);
 }
 
 TEST_F(LockFileTest, AFolderThatTakesNoFileIsTold) {

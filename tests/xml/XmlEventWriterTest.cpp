@@ -8,6 +8,12 @@
 
 #include <gtest/gtest.h>
 
+#ifdef Q_OS_UNIX
+#include "sql/ForkedChild.h"
+
+#include <sys/resource.h>
+#endif
+
 namespace ostrand {
 namespace {
 
@@ -98,6 +104,23 @@ TEST_F(XmlEventWriterTest, AnUnfinishedFileLeavesTheOldOne) {
     EXPECT_EQ(dir.Read(Text("a.xml")), QByteArray("old"));
     EXPECT_EQ(QDir(dir.Path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
 }
+
+#ifdef Q_OS_UNIX
+TEST_F(XmlEventWriterTest, AFullDiskLeavesTheOldOne) {
+    dir.Write(Text("a.xml"), "old");
+    EXPECT_EQ(sql::testing::InChild([&] {
+                  std::signal(SIGXFSZ, SIG_IGN);
+                  const rlimit limit = {10, RLIM_INFINITY}; // no file takes a byte beyond it
+                  ::setrlimit(RLIMIT_FSIZE, &limit);
+                  XmlEventWriter writer(dir / Text("a.xml"));
+                  writer.StartElement("Element");
+                  writer.EndElement("Element");
+                  return writer.Finish() ? 1 : 0;
+              }),
+              0);
+    EXPECT_EQ(dir.Read(Text("a.xml")), QByteArray("old"));
+}
+#endif
 
 TEST_F(XmlEventWriterTest, SaysThatAFileCannotBeMade) {
     XmlEventWriter writer(dir / Text("none/a.xml"));

@@ -246,5 +246,14 @@ TEST(XmlLoaderTest, LoadsCollectionFiles) {
     }
 }
 
+#ifdef Q_OS_UNIX
+TEST(XmlLoaderTest, ADeviceIsNoFile) {
+    pugi::xml_document document;
+    const XmlResult result = XmlLoadFile(QStringLiteral("/dev/null"), document);
+    EXPECT_FALSE(result.ok);
+    EXPECT_EQ(result.reason, QStringLiteral("/dev/null is no file"));
+}
+#endif
+
 } // namespace
 } // namespace ostrand
