@@ -2,7 +2,6 @@
 
 #include "browser/Browser.h"
 #include "browser/Navigation.h"
-#include "browser/ui/Guarded.h"
 #include "browser/ui/frmMain.h"
 #include "platform_qt/DesktopColours.h"
 #include "platform_qt/OutlinedTicks.h"
@@ -14,6 +13,7 @@
 #include "services/StopSignals.h"
 #include "services/SystemFolders.h"
 #include "services/SystemServices.h"
+#include "shell/ui/Guarded.h"
 #include "shell/ui/ProgressWindow.h"
 #include "shell/ui/SessionPump.h"
 #include "shell/ui/WindowDialogs.h"

@@ -351,12 +351,12 @@ void RefillAppearances(Browser &browser) {
             keep = true;
         }
         if (column >= 0) {
-            panel.sort_column = column;
-            panel.sort_order = order;
-            panel.listAppearences.sort(column, order);
-            Q_EMIT panel.SortChanged();
+            Sort(panel, column, order);
         }
-        panel.current_row = row < panel.listAppearences.rowCount() ? row : -1;
+        if (row >= 0 && row < panel.listAppearences.rowCount()) {
+            panel.current_row = row;
+            Q_EMIT panel.CurrentRowChanged();
+        }
     }
     if (const AppearancesPanel::Person person = panel.awards_of; !person.first.isEmpty()) {
         FindAwardsForActor(browser, person.first, person.second);

@@ -77,18 +77,17 @@ void FollowBrowser(Browser &browser) {
     if (!view.mTVShows) {
         view.TabColList = browser.tabColList_selected;
     }
-    const int row = browser.current_row;
-    const bool selected = row >= 0 && row < browser.listSeries.rowCount();
-    view.LastSelectedItem = selected ? browser.listSeries.At(row).key : browser.find.HiddenKey();
+    const QString key = browser.listSeries.KeyAt(browser.current_row);
+    view.LastSelectedItem = key.isEmpty() ? browser.find.HiddenKey() : key;
 }
 
 /// The cover folder may have been settled after the current row was shown.
 void ShowCoverAgain(Browser &browser) {
-    const int row = browser.current_row;
+    const QString key = browser.listSeries.KeyAt(browser.current_row);
     const Session &session = browser.session;
     // Links of a page can lead from the row to an episode.
-    if (!session.view.mTVShows && !session.CurrentIsEpisode && row >= 0 && row < browser.listSeries.rowCount()) {
-        ShowCover(browser, browser.listSeries.At(row).key);
+    if (!session.view.mTVShows && !session.CurrentIsEpisode && !key.isEmpty()) {
+        ShowCover(browser, key);
     }
 }
 
@@ -103,9 +102,7 @@ void RestoreSelection(Browser &browser) {
 /// After an import: the tab that holds every title, and on it the one that was shown.
 void ReloadTitles(Browser &browser) {
     Session &session = browser.session;
-    const int row = browser.current_row;
-    const bool selected = row >= 0 && row < browser.listSeries.rowCount();
-    const QString key = selected ? ProfileOfKey(browser.listSeries.At(row).key) : QString();
+    const QString key = ProfileOfKey(browser.listSeries.KeyAt(browser.current_row));
     SelectTab(browser, 1);
     ChangeMode(browser, !session.view.mTVShows);
     const int restored = key.isEmpty() ? -1 : browser.listSeries.RowOfTitle(key);

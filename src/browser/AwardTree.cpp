@@ -1,7 +1,6 @@
 #include "browser/AwardTree.h"
 
 #include "shell/Session.h"
-#include "shell/TranslatedTexts.h"
 #include "sql/Collation.h"
 
 namespace ostrand {
@@ -62,35 +61,11 @@ std::vector<AwardGroup> ReadGroups(Session &session, sql::Recordset &awards) {
 
 } // namespace
 
-QModelIndex AwardTree::index(int row, int column, const QModelIndex &parent) const {
-    const Node &node = nodes_[parent.isValid() ? size_t(parent.internalId()) : 0];
-    if (column != 0 || row < 0 || row >= int(node.children.size())) {
-        return {};
-    }
-    return createIndex(row, 0, quintptr(node.children[size_t(row)]));
-}
-
-QModelIndex AwardTree::parent(const QModelIndex &index) const {
-    if (!index.isValid()) {
-        return {};
-    }
-    const int above = nodes_[size_t(index.internalId())].parent;
-    return above == 0 ? QModelIndex() : createIndex(nodes_[size_t(above)].row, 0, quintptr(above));
-}
-
-int AwardTree::rowCount(const QModelIndex &parent) const {
-    return int(nodes_[parent.isValid() ? size_t(parent.internalId()) : 0].children.size());
-}
-
-int AwardTree::columnCount(const QModelIndex &) const {
-    return 1;
-}
-
 QVariant AwardTree::data(const QModelIndex &index, int role) const {
     if (!index.isValid()) {
         return {};
     }
-    const Node &node = nodes_[size_t(index.internalId())];
+    const AwardNode &node = At(index);
     switch (role) {
     case Qt::DisplayRole:
     case Qt::ToolTipRole:
@@ -110,45 +85,36 @@ QVariant AwardTree::data(const QModelIndex &index, int role) const {
     }
 }
 
-int AwardTree::Add(int parent, Node node) {
-    const int number = int(nodes_.size());
-    node.parent = parent;
-    node.row = int(nodes_[size_t(parent)].children.size());
-    nodes_.push_back(std::move(node));
-    nodes_[size_t(parent)].children.push_back(number);
-    return number;
-}
-
 void AwardTree::ShowAwards(Session &session, sql::Recordset &awards) {
     const std::vector<AwardGroup> groups = ReadGroups(session, awards);
     const QString won = Translate(session, u"Won"_s);
     const QString nominated = Translate(session, u"Nominated"_s);
     beginResetModel();
-    nodes_.assign(1, {});
+    RemoveNodes();
     const auto add = [this](int award, const QString &text, const QString &icon,
                             const std::vector<Nomination> &nominations) {
         if (nominations.empty()) {
             return;
         }
-        Node branch;
+        AwardNode branch;
         branch.text = text;
         branch.icon = icon;
-        const int above = Add(award, std::move(branch));
+        const int above = AddNode(award, std::move(branch));
         for (const Nomination &nomination : nominations) {
-            Node leaf;
+            AwardNode leaf;
             leaf.text = nomination.text;
-            leaf.key = "Movie|"_L1 + QString::number(nodes_.size());
+            leaf.key = "Movie|"_L1 + QString::number(NextNumber());
             leaf.icon = icon;
             leaf.movie_title = nomination.movie_title;
             leaf.movie_year = nomination.movie_year;
             leaf.award_year = nomination.award_year;
-            Add(above, std::move(leaf));
+            AddNode(above, std::move(leaf));
         }
     };
     for (const AwardGroup &group : groups) {
-        Node node;
+        AwardNode node;
         node.text = group.award;
-        const int award = Add(0, std::move(node));
+        const int award = AddNode(0, std::move(node));
         add(award, won, u"X"_s, group.won);
         add(award, nominated, u"NX"_s, group.nominated);
     }
@@ -157,7 +123,7 @@ void AwardTree::ShowAwards(Session &session, sql::Recordset &awards) {
 
 void AwardTree::Clear() {
     beginResetModel();
-    nodes_.assign(1, {});
+    RemoveNodes();
     endResetModel();
 }
 

@@ -5,7 +5,6 @@
 #include "browser/ProfileInfos.h"
 #include "browser/TitleQueries.h"
 #include "browser/Views.h"
-#include "database/DatabaseFunctions.h"
 #include "shell/Session.h"
 #include "shell/Settings.h"
 #include "sql/Collation.h"

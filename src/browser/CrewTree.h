@@ -1,10 +1,9 @@
 // The crew below its categories.
 #pragma once
 
-#include <QAbstractItemModel>
-#include <QStringList>
+#include "browser/NodeTree.h"
 
-#include <vector>
+#include <QStringList>
 
 namespace ostrand {
 
@@ -24,19 +23,24 @@ struct CrewTeam {
     std::vector<CrewMember> unassigned;
 };
 
+struct CrewNode : TreeNode {
+    QString key; ///< "N" and a running number
+    QString text;
+    QString tag;
+    bool caption = false;
+    bool has_headshot = false;
+    int position = 0;
+};
+
 /// The item model of treeCrew: categories with their members, then the members without a category below a node of their
 /// own, then each team with the same below its caption. Nodes without members are left out.
-class CrewTree : public QAbstractItemModel {
+class CrewTree : public NodeTree<CrewNode> {
     Q_OBJECT
 public:
     enum DataRole { KeyRole = Qt::UserRole, TagRole, CaptionRole, HeadshotRole, NameRole, PositionRole };
 
-    using QAbstractItemModel::QAbstractItemModel;
+    using NodeTree::NodeTree;
 
-    QModelIndex index(int row, int column, const QModelIndex &parent = {}) const override;
-    QModelIndex parent(const QModelIndex &index) const override;
-    int rowCount(const QModelIndex &parent = {}) const override;
-    int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
 
     /// `categories` are the captions of `CrewTeam::members`, `unassigned` that of the members without one.
@@ -44,21 +48,8 @@ public:
     void Clear() { Assign({}, {}, {}); }
 
 private:
-    struct Node {
-        QString key; ///< "N" and a running number
-        QString text;
-        QString tag;
-        bool caption = false;
-        bool has_headshot = false;
-        int position = 0;
-        int parent = 0;
-        int row = 0;
-        std::vector<int> children;
-    };
     int Add(int parent, const QString &text, const QString &tag = {});
     void AddCategory(int parent, const QString &text, std::vector<CrewMember> members);
-
-    std::vector<Node> nodes_ = std::vector<Node>(1); ///< the first is the root, which is not shown
 };
 
 } // namespace ostrand

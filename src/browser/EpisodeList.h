@@ -35,6 +35,8 @@ public:
     /// Gives an episode another title; it stays in its place.
     void SetTitle(int row, const QString &title);
     const std::vector<EpisodeRow> &Rows() const { return rows_; }
+    /// The key of a row; empty outside the list.
+    QString KeyAt(int row) const { return row < 0 || row >= rowCount() ? QString() : rows_[size_t(row)].key; }
     /// -1 when there is none.
     int RowOfKey(const QString &key) const;
 

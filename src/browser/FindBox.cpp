@@ -58,17 +58,26 @@ void FindBox::Forget() {
 }
 
 void FindBox::Prepare() {
-    FollowDatabase();
+    TryToFollowDatabase();
 }
 
 void FindBox::FollowChanges() {
     if (IsOn()) {
-        FollowDatabase();
+        TryToFollowDatabase();
     }
 }
 
 const FindIndex *FindBox::Index() const {
     return index_ ? index_.get() : reader_ ? &reader_->Index() : nullptr;
+}
+
+/// As FollowDatabase; a fault of the database, which some other statement will tell, leaves the index that is there.
+void FindBox::TryToFollowDatabase() {
+    try {
+        FollowDatabase();
+    } catch (const sql::SqlError &error) {
+        Trace(browser_.session, u"FindBox: "_s + error.Text(), kTraceError);
+    }
 }
 
 /// Begins another index where the one that is there, or that is being made, does not tell of the present rows.
@@ -92,7 +101,7 @@ void FindBox::FollowDatabase() {
 
 bool FindBox::Step() {
     if (reader_) {
-        FollowDatabase();
+        TryToFollowDatabase();
     }
     if (!reader_) {
         return false;
@@ -126,7 +135,7 @@ std::vector<bool> FindBox::Matching(const std::vector<TitleRow> &rows, int order
     if (!IsOn()) {
         return {};
     }
-    FollowDatabase();
+    TryToFollowDatabase();
     std::vector<bool> passes(rows.size());
     if (const FindIndex *index = Index()) {
         const std::vector<int> &owners = OwnersOfRows(*index, rows, order);

@@ -60,6 +60,7 @@ private:
     /// By row, its owner in the index, -1 without one.
     const std::vector<int> &OwnersOfRows(const FindIndex &index, const std::vector<TitleRow> &rows, int order);
     void FollowDatabase();
+    void TryToFollowDatabase();
     void Narrow();
     void Restore();
 

@@ -8,23 +8,22 @@ namespace ostrand {
 using namespace Qt::StringLiterals;
 
 void MenuStrings(Session &session, Commands &commands) {
-    Trace(session, u"MenuStrings()"_s, 2);
+    Trace(session, u"MenuStrings()"_s, kTraceEntry);
     commands.Together([&] {
         for (const MenuEntry &entry : MenuEntries()) {
             if (entry.IsSeparator()) {
                 continue;
             }
-            const QString name = QStringView(entry.name).toString();
-            if (const QStringView text(entry.text); !text.isEmpty()) {
-                commands.SetText(name, Translate(session, text.toString()));
+            if (const QString text = OfTable(entry.text); !text.isEmpty()) {
+                commands.SetText(OfTable(entry.name), Translate(session, text));
             }
             if (entry.tool_tip != nullptr) {
-                commands.SetToolTip(name, Translate(session, QStringView(entry.tool_tip).toString()));
+                commands.SetToolTip(OfTable(entry.name), Translate(session, OfTable(entry.tool_tip)));
             }
         }
         commands.RefreshTexts();
     });
-    Trace(session, u"MenuStrings()"_s, 4);
+    Trace(session, u"MenuStrings()"_s, kTraceExit);
 }
 
 } // namespace ostrand

@@ -6,6 +6,7 @@
 #include "browser/KeySet.h"
 #include "browser/ListFilling.h"
 #include "browser/ProfileInfos.h"
+#include "browser/SheetTitle.h"
 #include "browser/TitleQueries.h"
 #include "browser/Titles.h"
 #include "browser/Views.h"
@@ -48,6 +49,10 @@ QString CurrentProfile(const Browser &browser) {
     return HasProfiles(browser) ? ProfileOfRow(browser, browser.current_row) : QString();
 }
 
+QString CurrentEpisode(const Browser &browser) {
+    return browser.session.Database ? SelectedEpisode(browser).id : QString();
+}
+
 /// Each selected profile once, in the order of the rows.
 QStringList SelectedProfiles(const Browser &browser) {
     QStringList ids;
@@ -72,10 +77,6 @@ bool Confirm(Session &session, const QString &question, const QString &what, con
                                  .neutral = MessageAnswer::No}) == MessageAnswer::Yes;
 }
 
-QString KeyOfRow(const Browser &browser, int row) {
-    return row < 0 || row >= browser.listSeries.rowCount() ? QString() : browser.listSeries.At(row).key;
-}
-
 /// The first row from the current one on whose profile is none of these, or else the last one before.
 QString KeyBeside(const Browser &browser, const QStringList &ids) {
     KeySet left_out;
@@ -89,12 +90,12 @@ QString KeyBeside(const Browser &browser, const QStringList &ids) {
     const int from = std::max(browser.current_row, 0);
     for (int row = from; row < browser.listSeries.rowCount(); ++row) {
         if (stays(row)) {
-            return KeyOfRow(browser, row);
+            return browser.listSeries.KeyAt(row);
         }
     }
     for (int row = std::min(from, browser.listSeries.rowCount()) - 1; row >= 0; --row) {
         if (stays(row)) {
-            return KeyOfRow(browser, row);
+            return browser.listSeries.KeyAt(row);
         }
     }
     return {};
@@ -191,8 +192,7 @@ void MoveProfile(Session &session, const QString &id, const QString &type) {
 
 /// The rows of a title in a grouped list say its new texts, each in its place.
 void RenameRows(Browser &browser, const QString &id) {
-    const sql::Recordset record = browser.session.Database->OpenRecordset(
-        u"SELECT * FROM Profiles WHERE ProfileID = '"_s + EscapeSql(id) + u'\'');
+    const sql::Recordset record = browser.session.Database->OpenRecordset(TitleStatement({id, false}));
     if (record.Eof()) {
         return;
     }
@@ -207,7 +207,7 @@ void RenameRows(Browser &browser, const QString &id) {
 void ShowChangedProfiles(Browser &browser, const QStringList &ids, const QString &renamed) {
     const QString id = browser.session.CurrentProfileID;
     const QString tab = SelectedColType(browser);
-    const QStringList keys = {KeyOfRow(browser, browser.current_row), KeyBeside(browser, ids)};
+    const QStringList keys = {browser.listSeries.KeyAt(browser.current_row), KeyBeside(browser, ids)};
     ReloadColTypeTabs(browser); // a type may have come or gone
     if (ShowsWholeTab(browser) || SelectedColType(browser) != tab) {
         RefillMovieNames(browser, keys);
@@ -223,8 +223,7 @@ void ShowChangedEpisode(Browser &browser) {
     Session &session = browser.session;
     const QString id = session.CurrentProfileID;
     if (const int row = browser.listEpisodes.RowOfKey(id); row >= 0) {
-        const sql::Recordset record =
-            session.Database->OpenRecordset(u"SELECT * FROM Episodes WHERE EpisodeID = '"_s + EscapeSql(id) + u'\'');
+        const sql::Recordset record = session.Database->OpenRecordset(TitleStatement({id, true}));
         if (!record.Eof()) {
             browser.listEpisodes.SetTitle(row, GetEpisodeTitle(session.view, record));
         }
@@ -266,11 +265,14 @@ void ToggleProfileLock(Browser &browser) {
     }
 }
 
+bool IsEpisodeLocked(Browser &browser) {
+    const QString id = CurrentEpisode(browser);
+    return !id.isEmpty() && IsLocked(browser.session, id, Entire());
+}
+
 void ToggleEpisodeLock(Browser &browser) {
-    const auto &episodes = browser.listEpisodes.Rows();
-    const int row = browser.current_episode;
-    if (browser.session.Database && row >= 0 && row < int(episodes.size())) {
-        ToggleLock(browser.session, episodes[size_t(row)].key, Entire());
+    if (const QString id = CurrentEpisode(browser); !id.isEmpty()) {
+        ToggleLock(browser.session, id, Entire());
     }
 }
 
@@ -303,7 +305,13 @@ void MoveSelectedProfiles(Browser &browser) {
     if (type.isEmpty()) {
         return;
     }
-    WithEach(browser, u"Moving profiles"_s, ids, [&](const QString &id) { MoveProfile(browser.session, id, type); });
+    try {
+        WithEach(browser, u"Moving profiles"_s, ids,
+                 [&](const QString &id) { MoveProfile(browser.session, id, type); });
+    } catch (const sql::SqlError &) {
+        ShowChangedProfiles(browser, ids, {}); // some may have moved
+        throw;
+    }
     ShowChangedProfiles(browser, ids, {});
 }
 

@@ -17,6 +17,7 @@ void RemoveCurrentProfile(Browser &browser);
 bool IsProfileLocked(Browser &browser);
 void ToggleProfileLock(Browser &browser);
 /// The same of the episode that is selected in listEpisodes (mLockEpisode).
+bool IsEpisodeLocked(Browser &browser);
 void ToggleEpisodeLock(Browser &browser);
 
 // What stands in mEditSelected: the profiles whose rows are selected in listSeries. Many of them show the progress

@@ -45,7 +45,8 @@ public:
     static bool HasType(const EventInput &input) { return !input.type.trimmed().isEmpty(); }
     bool CanAdd(const EventInput &input) const { return HasType(input) && !users.Checked().isEmpty(); }
 
-    /// An event of each ticked user. One that lends the title notes the loan, and one that brings it back ends it.
+    /// An event of each ticked user. One that lends the title notes the loan, and one that brings it back ends it. A
+    /// fault leaves events and loans as they were.
     void Add(const SheetTitle &title, const EventInput &input);
     /// Gives an event another type, time and comment; loans stay as they are.
     void Change(const SheetTitle &title, const QString &id, const EventInput &input);

@@ -5,6 +5,7 @@
 #include "browser/CollectionTabs.h"
 #include "browser/Credits.h"
 #include "browser/MediaIcon.h"
+#include "browser/SheetTitle.h"
 #include "browser/Views.h"
 #include "database/DatabaseFunctions.h"
 #include "shell/Session.h"
@@ -105,12 +106,6 @@ void FillPanels(Browser &browser, const sql::Recordset &record, const QString &i
     }
 }
 
-QString FindTitle(const QString &id, bool is_episode) {
-    return (is_episode ? u"SELECT * FROM Episodes WHERE EpisodeID = '"_s
-                       : u"SELECT * FROM Profiles WHERE ProfileID = '"_s) +
-           EscapeSql(id) + u'\'';
-}
-
 } // namespace
 
 void UpdateSeriesList(Browser &browser, int row) {
@@ -163,7 +158,7 @@ void GetProfileInfos(Browser &browser, const QString &key, bool is_episode, bool
         ShowNoTitle(browser);
         return;
     }
-    const sql::Recordset record = session.Database->OpenRecordset(FindTitle(id, is_episode));
+    const sql::Recordset record = session.Database->OpenRecordset(TitleStatement({id, is_episode}));
     if (record.Eof()) {
         ShowNoTitle(browser);
         return;

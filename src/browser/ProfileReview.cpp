@@ -42,15 +42,15 @@ Review ReadReview(Session &session, const SheetTitle &title) {
 }
 
 void UpdateDbReview(Session &session, const SheetTitle &title, const Review &review) {
-    const QString id = EscapeSql(title.id);
+    const QString id = u'\'' + EscapeSql(title.id) + u'\'';
+    QString values = id;
+    for (const int mark : {review.Film, review.Video, review.Audio, review.Extras}) {
+        values += u", '"_s + QString::number(mark) + u'\'';
+    }
     WriteTogether(session, [&] {
-        session.Database->Execute(QString(u"DELETE FROM Reviews WHERE ProfileID = '"_s + id + u'\''));
-        session.Database->Execute(u"INSERT INTO Reviews (ProfileID, Film, Video, Audio, Extras) VALUES ('%1', '%2', "
-                                  "'%3', '%4', '%5')"_s.arg(id)
-                                      .arg(review.Film)
-                                      .arg(review.Video)
-                                      .arg(review.Audio)
-                                      .arg(review.Extras));
+        session.Database->Execute(QString(u"DELETE FROM Reviews WHERE ProfileID = "_s + id));
+        session.Database->Execute(
+            QString(u"INSERT INTO Reviews (ProfileID, Film, Video, Audio, Extras) VALUES ("_s + values + u')'));
         MarkEdited(session, title, u"Reviews");
     });
 }

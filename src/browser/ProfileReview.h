@@ -30,7 +30,7 @@ QString MarkText(const Session &session, int mark);
 
 /// The row of a title, without marks where there is none; marks out of range count as the nearest. Throws SqlError.
 Review ReadReview(Session &session, const SheetTitle &title);
-/// Writes it in place of what was there. Throws SqlError.
+/// Writes it in place of what was there. Throws SqlError, which leaves that.
 void UpdateDbReview(Session &session, const SheetTitle &title, const Review &review);
 
 } // namespace ostrand

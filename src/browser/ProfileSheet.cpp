@@ -18,12 +18,6 @@ namespace {
 constexpr const char16_t *kCaptions[kSheetTabs] = {u"Main",          u"Overview",         u"Notes", u"Easter Eggs",
                                                    u"Events/Review", u"Additional Infos", u"Skins"};
 
-QString FindSheetTitle(const SheetTitle &title) {
-    return (title.is_episode ? u"SELECT * FROM Episodes WHERE EpisodeID = '"_s
-                             : u"SELECT * FROM Profiles WHERE ProfileID = '"_s) +
-           EscapeSql(title.id) + u'\'';
-}
-
 } // namespace
 
 QString SheetTabCaption(SheetTab tab) {
@@ -50,7 +44,7 @@ void ProfileSheet::Show(const SheetTitle &title) {
         ClearProfileInfos();
         return;
     }
-    const sql::Recordset record = session_.Database->OpenRecordset(FindSheetTitle(title));
+    const sql::Recordset record = session_.Database->OpenRecordset(TitleStatement(title));
     if (record.Eof()) {
         ClearProfileInfos();
         return;
@@ -196,7 +190,7 @@ bool ProfileSheet::HasTitle() const {
 }
 
 bool ProfileSheet::IsThere(const SheetTitle &title) const {
-    return !session_.Database->OpenRecordset(FindSheetTitle(title)).Eof();
+    return !session_.Database->OpenRecordset(TitleStatement(title)).Eof();
 }
 
 void ProfileSheet::Write(const std::function<void()> &change) {

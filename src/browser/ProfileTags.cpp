@@ -50,7 +50,7 @@ void ProfileTags::ReadTree() {
     root_ = std::make_unique<Node>();
     nodes_.clear();
     for (; !rows.Eof(); rows.MoveNext()) {
-        MakeNode(rows.Text(0));
+        MakeNode(rows.Text(0), Telling::OfReset);
     }
     endResetModel();
 }
@@ -86,7 +86,7 @@ void ProfileTags::ClearTags() {
 }
 
 void ProfileTags::CheckTag(const QString &full_name) {
-    if (Node *node = MakeNode(full_name)) {
+    if (Node *node = MakeNode(full_name, Telling::OfEachNode)) {
         Tick(*node, true);
     }
 }
@@ -106,7 +106,7 @@ QModelIndex ProfileTags::Find(const QString &full_name) const {
     return node ? IndexOf(*node) : QModelIndex();
 }
 
-ProfileTags::Node *ProfileTags::MakeNode(const QString &full_name) {
+ProfileTags::Node *ProfileTags::MakeNode(const QString &full_name, Telling telling) {
     if (!IsTag(full_name)) {
         return nullptr;
     }
@@ -116,15 +116,16 @@ ProfileTags::Node *ProfileTags::MakeNode(const QString &full_name) {
         end = full_name.indexOf(u'/', begin);
         const QString path = full_name.left(end < 0 ? full_name.size() : end);
         Node *found = nodes_.value(Key(path));
-        node = found ? found : AddBelow(*node, path.mid(begin), path);
+        node = found ? found : AddBelow(*node, path.mid(begin), path, telling);
     }
     return node;
 }
 
-ProfileTags::Node *ProfileTags::AddBelow(Node &above, const QString &name, const QString &path) {
+ProfileTags::Node *ProfileTags::AddBelow(Node &above, const QString &name, const QString &path, Telling telling) {
     const int row = int(above.below.size());
-    const QModelIndex place = &above == root_.get() ? QModelIndex() : IndexOf(above);
-    beginInsertRows(place, row, row);
+    if (telling == Telling::OfEachNode) {
+        beginInsertRows(&above == root_.get() ? QModelIndex() : IndexOf(above), row, row);
+    }
     auto node = std::make_unique<Node>();
     node->name = name;
     node->path = path;
@@ -133,7 +134,9 @@ ProfileTags::Node *ProfileTags::AddBelow(Node &above, const QString &name, const
     Node *added = node.get();
     above.below.push_back(std::move(node));
     nodes_.insert(Key(path), added);
-    endInsertRows();
+    if (telling == Telling::OfEachNode) {
+        endInsertRows();
+    }
     return added;
 }
 

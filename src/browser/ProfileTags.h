@@ -53,9 +53,11 @@ private:
     struct Node;
     const Node &At(const QModelIndex &index) const;
     QModelIndex IndexOf(const Node &node) const;
+    /// What views learn of new nodes: that of the reset which they come with, or each for itself.
+    enum class Telling { OfReset, OfEachNode };
     /// The node of a full name, made with those above it where it is missing; null for no tag.
-    Node *MakeNode(const QString &full_name);
-    Node *AddBelow(Node &above, const QString &name, const QString &path);
+    Node *MakeNode(const QString &full_name, Telling telling);
+    Node *AddBelow(Node &above, const QString &name, const QString &path, Telling telling);
     void Tick(Node &node, bool on);
     void ForEach(const std::function<void(Node &)> &visit) const;
 

@@ -13,16 +13,17 @@ SheetTitle SelectedTitle(const Browser &browser) {
     if (browser.session.view.mTVShows) {
         return SelectedEpisode(browser);
     }
-    const int row = browser.current_row;
-    const bool selected = row >= 0 && row < browser.listSeries.rowCount();
-    return {selected ? ProfileOfKey(browser.listSeries.At(row).key) : QString(), false};
+    return {ProfileOfKey(browser.listSeries.KeyAt(browser.current_row)), false};
 }
 
 SheetTitle SelectedEpisode(const Browser &browser) {
-    const auto &episodes = browser.listEpisodes.Rows();
-    const int row = browser.current_episode;
-    const bool selected = row >= 0 && row < int(episodes.size());
-    return {selected ? episodes[size_t(row)].key : QString(), true};
+    return {browser.listEpisodes.KeyAt(browser.current_episode), true};
+}
+
+QString TitleStatement(const SheetTitle &title) {
+    return (title.is_episode ? u"SELECT * FROM Episodes WHERE EpisodeID = '"_s
+                             : u"SELECT * FROM Profiles WHERE ProfileID = '"_s) +
+           EscapeSql(title.id) + u'\'';
 }
 
 QString RowsOf(QStringView table, const SheetTitle &title) {

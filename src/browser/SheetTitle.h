@@ -22,6 +22,8 @@ SheetTitle SelectedTitle(const Browser &browser);
 /// The episode that is selected in listEpisodes.
 SheetTitle SelectedEpisode(const Browser &browser);
 
+/// The statement for the record of a title.
+QString TitleStatement(const SheetTitle &title);
 /// "SELECT * FROM `table`" for the rows of a title.
 QString RowsOf(QStringView table, const SheetTitle &title);
 /// What the audit trail calls a change of that kind, such as "Tags": "Edit Tags", or "Edit Episode Tags".

@@ -33,30 +33,6 @@ QStringList ReadTags(Session &session) {
 
 } // namespace
 
-QModelIndex TagTree::index(int row, int column, const QModelIndex &parent) const {
-    const Node &node = nodes_[parent.isValid() ? size_t(parent.internalId()) : 0];
-    if (column != 0 || row < 0 || row >= int(node.children.size())) {
-        return {};
-    }
-    return createIndex(row, 0, quintptr(node.children[size_t(row)]));
-}
-
-QModelIndex TagTree::parent(const QModelIndex &index) const {
-    if (!index.isValid()) {
-        return {};
-    }
-    const int above = nodes_[size_t(index.internalId())].parent;
-    return above == 0 ? QModelIndex() : createIndex(nodes_[size_t(above)].row, 0, quintptr(above));
-}
-
-int TagTree::rowCount(const QModelIndex &parent) const {
-    return int(nodes_[parent.isValid() ? size_t(parent.internalId()) : 0].children.size());
-}
-
-int TagTree::columnCount(const QModelIndex &) const {
-    return 1;
-}
-
 Qt::ItemFlags TagTree::flags(const QModelIndex &index) const {
     return index.isValid() ? QAbstractItemModel::flags(index) | Qt::ItemIsUserCheckable : Qt::NoItemFlags;
 }
@@ -65,7 +41,7 @@ QVariant TagTree::data(const QModelIndex &index, int role) const {
     if (!index.isValid()) {
         return {};
     }
-    const Node &node = nodes_[size_t(index.internalId())];
+    const TagNode &node = At(index);
     switch (role) {
     case Qt::DisplayRole:
         return node.text;
@@ -85,7 +61,7 @@ bool TagTree::setData(const QModelIndex &index, const QVariant &value, int role)
     if (!index.isValid() || role != Qt::CheckStateRole) {
         return false;
     }
-    bool &checked = nodes_[size_t(index.internalId())].checked;
+    bool &checked = At(index).checked;
     const bool wanted = value.toInt() == Qt::Checked;
     if (checked != wanted) {
         checked = wanted;
@@ -132,7 +108,7 @@ void TagTree::Fill(const QStringList &tags, const QStringList &checked) {
     for (const QString &tag : checked) {
         const auto found = by_path_.constFind(sql::SortKey(tag));
         if (found != by_path_.constEnd()) {
-            nodes_[size_t(*found)].checked = true;
+            At(*found).checked = true;
         }
     }
     endResetModel();
@@ -146,7 +122,7 @@ QStringList TagTree::CheckedTags() const {
 
 void TagTree::Clear() {
     beginResetModel();
-    nodes_.assign(1, {});
+    RemoveNodes();
     by_path_.clear();
     read_.clear();
     endResetModel();
@@ -167,20 +143,19 @@ int TagTree::AddLevel(int parent, const QString &text, const QString &path) {
     if (const auto found = by_path_.constFind(key); found != by_path_.constEnd()) {
         return *found;
     }
-    const int number = int(nodes_.size());
-    std::vector<int> &siblings = nodes_[size_t(parent)].children;
-    Node node{.text = text, .tag = path, .parent = parent, .row = int(siblings.size()), .children = {}};
-    siblings.push_back(number);
-    nodes_.push_back(std::move(node)); // ends the reference to the siblings
+    TagNode node;
+    node.text = text;
+    node.tag = path;
+    const int number = AddNode(parent, std::move(node));
     by_path_.insert(key, number);
     return number;
 }
 
 // As deep as a tag has levels, which its 255 characters limit.
 void TagTree::CollectChecked(int node, QStringList &tags) const {
-    for (const int child : nodes_[size_t(node)].children) {
-        if (nodes_[size_t(child)].checked) {
-            tags += nodes_[size_t(child)].tag;
+    for (const int child : At(node).children) {
+        if (At(child).checked) {
+            tags += At(child).tag;
         }
         CollectChecked(child, tags);
     }

@@ -1,32 +1,32 @@
 // The tags of the collection, level below level.
 #pragma once
 
+#include "browser/NodeTree.h"
 #include "sql/TableWatch.h"
 
-#include <QAbstractItemModel>
 #include <QHash>
 #include <QStringList>
-
-#include <vector>
 
 namespace ostrand {
 
 struct Session;
 
+struct TagNode : TreeNode {
+    QString text;
+    QString tag;
+    bool checked = false;
+};
+
 /// The item model of treeTags. Every level of a tag has a node that can be checked, whether a title has that tag or
 /// not. Levels that differ in case alone are one, as they are in statements.
-class TagTree : public QAbstractItemModel {
+class TagTree : public NodeTree<TagNode> {
     Q_OBJECT
 public:
     /// `KeyRole` is "t" and the full path of the tag, `TagRole` the path.
     enum DataRole { KeyRole = Qt::UserRole, TagRole };
 
-    using QAbstractItemModel::QAbstractItemModel;
+    using NodeTree::NodeTree;
 
-    QModelIndex index(int row, int column, const QModelIndex &parent = {}) const override;
-    QModelIndex parent(const QModelIndex &index) const override;
-    int rowCount(const QModelIndex &parent = {}) const override;
-    int columnCount(const QModelIndex &parent = {}) const override;
     Qt::ItemFlags flags(const QModelIndex &index) const override;
     QVariant data(const QModelIndex &index, int role) const override;
     /// Changes the check of a node; that of the nodes below and above stays.
@@ -46,21 +46,12 @@ Q_SIGNALS:
     void CheckChanged(const QModelIndex &node);
 
 private:
-    struct Node {
-        QString text;
-        QString tag;
-        bool checked = false;
-        int parent = 0;
-        int row = 0;
-        std::vector<int> children;
-    };
     void Clear();
     void Fill(const QStringList &tags, const QStringList &checked);
     void AddTag(const QString &tag);
     int AddLevel(int parent, const QString &text, const QString &path);
     void CollectChecked(int node, QStringList &tags) const;
 
-    std::vector<Node> nodes_ = std::vector<Node>(1); ///< the first is the root, which is not shown
     QHash<QByteArray, int> by_path_;
     QStringList read_; ///< what the nodes are made of
     sql::TableWatch watch_;

@@ -2,6 +2,8 @@
 
 #include "browser/KeySet.h"
 
+#include <QScopeGuard>
+
 #include <numeric>
 
 namespace ostrand {
@@ -83,11 +85,12 @@ int TitleList::Assign(std::vector<TitleRow> rows) {
     }
     keyed_column_ = -1;
     ++order_;
+    shown_.clear(); // should the filter fail
+    const auto end = qScopeGuard([this] { endResetModel(); });
     if (sorted_) {
         SortRows();
     }
     shown_ = Passing();
-    endResetModel();
     return int(clashes);
 }
 

@@ -64,7 +64,8 @@ public:
 
     /// By row of all that are there, whether it is to be shown; empty for all of them. Asked whenever there are other
     /// rows, and at Narrow. Rows above one that is shown are so too, and headers not by themselves. `order` is another
-    /// number when these are other rows than at the call before, or in another order.
+    /// number when these are other rows than at the call before, or in another order. What it throws leaves no row
+    /// shown.
     using RowFilter = std::function<std::vector<bool>(const std::vector<TitleRow> &rows, int order)>;
     void SetRowFilter(RowFilter filter) { filter_ = std::move(filter); }
     /// Asks the filter again; false where the same rows are shown as before.
@@ -100,6 +101,8 @@ public:
     int RowOfKey(const QString &key) const;
     /// The first row of a profile or series, whatever stands behind "|" in its key; -1 when there is none.
     int RowOfTitle(const QString &id) const;
+    /// The key of a row; empty outside the list.
+    QString KeyAt(int row) const { return row < 0 || row >= rowCount() ? QString() : At(row).key; }
     const TitleRow &At(int row) const { return rows_[size_t(shown_[size_t(row)])]; }
 
 Q_SIGNALS:

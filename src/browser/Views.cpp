@@ -117,10 +117,6 @@ void ReloadList(Browser &browser) {
     }
 }
 
-QString ChangeModeCaption(Browser &browser) {
-    return Translate(browser.session, browser.session.view.mTVShows ? u"Movies"_s : u"TV Shows"_s);
-}
-
 void ShowMovies(Browser &browser) {
     bool ok = false;
     const int tab = ReadDbInfo(browser.session, kTabColList, u"1"_s).toInt(&ok);
@@ -214,7 +210,7 @@ void UpdateEpisodes(Browser &browser, const QString &series_id, const QString &s
     if (!session.view.mTVShows) {
         return;
     }
-    const QString first = browser.listEpisodes.Rows().empty() ? QString() : browser.listEpisodes.Rows().front().key;
+    const QString first = browser.listEpisodes.KeyAt(0);
     if (first.isEmpty()) {
         GetProfileInfos(browser, {}, false, false);
     } else {
@@ -251,31 +247,15 @@ void Redisplay(Browser &browser) {
         }
         return;
     }
-    const auto &episodes = browser.listEpisodes.Rows();
-    const int row = browser.current_episode;
-    if (row >= 0 && row < int(episodes.size())) {
-        LoadEpisode(browser, QString(episodes[size_t(row)].key));
+    if (const QString key = browser.listEpisodes.KeyAt(browser.current_episode); !key.isEmpty()) {
+        LoadEpisode(browser, key);
     }
 }
 
 void SortEpisodes(Browser &browser, int column, Qt::SortOrder order) {
-    const auto &episodes = browser.listEpisodes.Rows();
-    const int row = browser.current_episode;
-    const QString key = row >= 0 && row < int(episodes.size()) ? episodes[size_t(row)].key : QString();
+    const QString key = browser.listEpisodes.KeyAt(browser.current_episode);
     browser.listEpisodes.sort(column, order);
     SetEpisode(browser, key.isEmpty() ? -1 : browser.listEpisodes.RowOfKey(key));
-}
-
-bool IsEpisodeLocked(Browser &browser) {
-    const auto &episodes = browser.listEpisodes.Rows();
-    const int row = browser.current_episode;
-    if (!browser.session.Database || row < 0 || row >= int(episodes.size())) {
-        return false;
-    }
-    const sql::Recordset lock =
-        browser.session.Database->OpenRecordset(u"SELECT * FROM Locks WHERE LockName = 'Entire' AND ProfileID = '"_s +
-                                                EscapeSql(episodes[size_t(row)].key) + u'\'');
-    return !lock.Eof();
 }
 
 } // namespace ostrand

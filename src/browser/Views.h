@@ -14,8 +14,6 @@ class Recordset;
 void ChangeMode(Browser &browser, bool movies);
 /// Fills listSeries anew for the view and the tab. A fault of the statement is traced and leaves an empty list.
 void ReloadList(Browser &browser);
-/// The caption of the button that changes the view: the other view's name, translated.
-QString ChangeModeCaption(Browser &browser);
 /// The menu entries: they remember and restore the tab.
 void ShowMovies(Browser &browser);
 void ShowTVShows(Browser &browser);
@@ -30,8 +28,6 @@ void UpdateEpisodeList(Browser &browser, sql::Recordset &rows);
 void LoadEpisode(Browser &browser, const QString &episode_id);
 /// Shows what is selected in the list of the view anew: a title, or an episode in TV view.
 void Redisplay(Browser &browser);
-/// The lock "Entire" of the episode that is selected in listEpisodes.
-bool IsEpisodeLocked(Browser &browser);
 /// Sorts the rows of listEpisodes; the selected one stays so.
 void SortEpisodes(Browser &browser, int column, Qt::SortOrder order);
 void SelectSeason(Browser &browser, int index);

@@ -4,6 +4,8 @@
 #include "database/Schema.h"
 #include "shell/Session.h"
 
+#include <QScopeGuard>
+
 namespace ostrand {
 
 namespace {
@@ -312,18 +314,13 @@ void ConvertTextFlagsWithProgress(const Chain &chain) {
     if (own) {
         progress.Load(line);
     }
-    progress.SetLine(line);
-    try {
-        ConvertTextFlags(chain);
-    } catch (const sql::SqlError &) {
+    const auto close = qScopeGuard([&] {
         if (own) {
             progress.UnloadForm(false);
         }
-        throw;
-    }
-    if (own) {
-        progress.UnloadForm(false);
-    }
+    });
+    progress.SetLine(line);
+    ConvertTextFlags(chain);
 }
 
 void DropAwardNumbers(const Chain &chain) {

@@ -2,7 +2,6 @@
 
 #include "base/Files.h"
 #include "browser/Titles.h"
-#include "database/DatabaseFunctions.h"
 #include "html_export/CrossLinkFiles.h"
 #include "html_export/ProfilePages.h"
 #include "html_export/SiteFiles.h"

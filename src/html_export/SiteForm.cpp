@@ -1,5 +1,6 @@
 #include "html_export/SiteForm.h"
 
+#include "database/RecordOperations.h"
 #include "shell/Session.h"
 #include "skin/SkinPage.h"
 
@@ -20,16 +21,7 @@ QStringList WithChosen(QStringList names, const QString &chosen) {
 
 /// All of the options or none.
 void WriteWhole(Session &session, const SiteOptions &options) {
-    session.Database->Flush();
-    {
-        sql::Database::Bracket bracket(*session.Database);
-        try {
-            SaveSiteOptions(session, options);
-        } catch (const sql::SqlError &) {
-            bracket.Abandon();
-            throw;
-        }
-    }
+    WriteTogether(session, [&] { SaveSiteOptions(session, options); });
     session.Database->Flush();
 }
 

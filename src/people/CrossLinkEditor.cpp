@@ -2,6 +2,7 @@
 
 #include "base/Dates.h"
 #include "database/DatabaseFunctions.h"
+#include "database/RecordOperations.h"
 #include "people/CrossLinks.h"
 #include "shell/Dialogs.h"
 #include "shell/Session.h"
@@ -180,9 +181,7 @@ void CrossLinkEditor::RemoveCommonName() {
 
 /// Wholly or not at all, since a group that is half moved would be lost.
 void CrossLinkEditor::MoveGroup(const QStringList &group, const CommonNames::Row &from, const CommonNames::Row &to) {
-    session_.Database->Flush();
-    sql::Database::Bracket bracket(*session_.Database);
-    try {
+    WriteTogether(session_, [&] {
         for (const QString &entry : group) {
             DeleteAlias(session_, entry, to.birth_year);
         }
@@ -192,10 +191,7 @@ void CrossLinkEditor::MoveGroup(const QStringList &group, const CommonNames::Row
                 MoveAlias(session_, entry, to);
             }
         }
-    } catch (const sql::SqlError &) {
-        bracket.Abandon();
-        throw;
-    }
+    });
 }
 
 void CrossLinkEditor::SetAsCommon(const QString &alias) {

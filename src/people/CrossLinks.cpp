@@ -5,6 +5,7 @@
 #include "sql/Collation.h"
 
 #include <QRegularExpression>
+#include <QScopeGuard>
 
 #include <array>
 
@@ -236,6 +237,11 @@ void RemoveUnneededBirthYears(Session &session) {
     } else {
         progress.SetTitle(title);
     }
+    const auto close = qScopeGuard([&] {
+        if (own_window) {
+            progress.UnloadForm(false);
+        }
+    });
     progress.SetLine(Translate(session, u"Removing unneeded BirthYears..."_s));
     progress.SetDetail(Translate(session, u"Identify BirthYears"_s));
 
@@ -259,9 +265,6 @@ void RemoveUnneededBirthYears(Session &session) {
         progress.SetCounter(QString::number(done) + u'/' + total + checking);
         session.services.pump.Turn();
         database.FlushIfDue();
-    }
-    if (own_window) {
-        progress.UnloadForm(false);
     }
     Trace(session, u"RemoveUnneededBirthYears: "_s, kTraceExit);
 }

@@ -2,7 +2,6 @@
 
 #include "base/FileNames.h"
 #include "base/Files.h"
-#include "base/Text.h"
 #include "platform/Services.h"
 
 #include <QDir>

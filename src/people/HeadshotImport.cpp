@@ -18,10 +18,6 @@ namespace {
 
 constexpr QLatin1StringView kSection = "HeadhotWizard"_L1; // spelt so in every file: deliberate
 
-QString Flag(bool on) {
-    return on ? u"True"_s : u"False"_s;
-}
-
 #ifdef Q_OS_WIN
 constexpr QLatin1StringView kApplications = "|*.exe"_L1;
 #else
@@ -77,9 +73,9 @@ void HeadshotImport::KeepSettings() const {
     const auto write = [&](const QString &key, const QString &value) {
         WriteINIString(session_, kSection, key, value);
     };
-    write(u"NoResizeImageLeft"_s, Flag(no_resize_left));
-    write(u"NoResizeImageRight"_s, Flag(no_resize_right));
-    write(u"CheckAlsoCopy"_s, Flag(also_copy));
+    write(u"NoResizeImageLeft"_s, TruthText(no_resize_left));
+    write(u"NoResizeImageRight"_s, TruthText(no_resize_right));
+    write(u"CheckAlsoCopy"_s, TruthText(also_copy));
     write(u"LastFolder"_s, FileListImages.Folder());
     write(u"AdditionalCopyFolder"_s, additional_folder);
 }

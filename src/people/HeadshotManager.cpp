@@ -27,7 +27,7 @@ HeadshotManager::HeadshotManager(Session &session) : session_(session) {
 }
 
 void HeadshotManager::KeepSettings() const {
-    WriteINIString(session_, kManagerSection, u"NoResizeImageLeft"_s, no_resize_left ? u"True"_s : u"False"_s);
+    WriteINIString(session_, kManagerSection, u"NoResizeImageLeft"_s, TruthText(no_resize_left));
 }
 
 QString HeadshotManager::Text(const char16_t *english) const {

@@ -5,6 +5,7 @@
 #include "collection_files/SideFile.h"
 #include "collection_files/UnpackedFile.h"
 #include "database/DatabaseFunctions.h"
+#include "database/RecordOperations.h"
 #include "shell/CommandFile.h"
 #include "shell/Session.h"
 #include "xml/XmlNodes.h"
@@ -80,16 +81,15 @@ void Store(Session &session, const Entry &entry) {
 }
 
 bool ReplaceTable(Session &session, const std::vector<Entry> &entries) {
-    session.Database->Flush();
-    sql::Database::Bracket bracket(*session.Database);
     try {
-        session.Database->Execute(u"DELETE FROM Translation");
-        for (const Entry &entry : entries) {
-            Store(session, entry);
-        }
+        WriteTogether(session, [&] {
+            session.Database->Execute(u"DELETE FROM Translation");
+            for (const Entry &entry : entries) {
+                Store(session, entry);
+            }
+        });
         return true;
     } catch (const sql::SqlError &error) {
-        bracket.Abandon();
         Trace(session, u"ImportStringsFromFile: "_s + error.Text(), kTraceError);
         ShowMessage(session,
                     {.text = error.Text(), .title = u"ImportStringsFromFile"_s, .icon = MessageIcon::Critical});

@@ -3,6 +3,7 @@
 #include "collection_files/SideFile.h"
 #include "collection_files/UnpackedFile.h"
 #include "database/DatabaseFunctions.h"
+#include "database/RecordOperations.h"
 #include "shell/Session.h"
 #include "xml/XmlNodes.h"
 
@@ -45,14 +46,13 @@ bool ImportSQLFromFile(Session &session, const QString &path) {
     if (!root) {
         return false;
     }
-    session.Database->Flush();
-    sql::Database::Bracket bracket(*session.Database);
     try {
-        for (const pugi::xml_node query : root.children("SQLQuery")) {
-            ReplaceQuery(session, XmlChildText(query, "SQLName"), XmlChildText(query, "SQLStatement"));
-        }
+        WriteTogether(session, [&] {
+            for (const pugi::xml_node query : root.children("SQLQuery")) {
+                ReplaceQuery(session, XmlChildText(query, "SQLName"), XmlChildText(query, "SQLStatement"));
+            }
+        });
     } catch (const sql::SqlError &error) {
-        bracket.Abandon();
         Trace(session, u"ImportSQLFromFile: "_s + error.Text(), kTraceError);
         ShowMessage(session, {.text = error.Text(), .title = u"ImportSQLFromFile"_s, .icon = MessageIcon::Critical});
         return false;

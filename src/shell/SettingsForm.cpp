@@ -1,8 +1,8 @@
 #include "shell/SettingsForm.h"
 
 #include "base/Files.h"
-#include "base/Text.h"
 #include "database/DatabaseFunctions.h"
+#include "database/RecordOperations.h"
 #include "shell/Session.h"
 #include "shell/Settings.h"
 #include "shell/SettingsTable.h"
@@ -133,20 +133,13 @@ QString CheckText(const SettingsEntry &entry, bool checked) {
 }
 
 void WriteTexts(Session &session, const QHash<QString, QString> &texts) {
-    session.Database->Flush();
-    {
-        sql::Database::Bracket bracket(*session.Database);
-        try {
-            for (const SettingsEntry &entry : kEntries) {
-                if (texts.contains(entry.Key())) {
-                    WriteDbInfo(session, entry.Key(), texts.value(entry.Key()));
-                }
+    WriteTogether(session, [&] {
+        for (const SettingsEntry &entry : kEntries) {
+            if (texts.contains(entry.Key())) {
+                WriteDbInfo(session, entry.Key(), texts.value(entry.Key()));
             }
-        } catch (const sql::SqlError &) {
-            bracket.Abandon();
-            throw;
         }
-    }
+    });
     session.Database->Flush();
 }
 

@@ -1,7 +1,6 @@
 // Expressions: names, literals, operators.
 
 #include "sql/Compiler.h"
-#include "sql/Functions.h"
 
 namespace ostrand::sql {
 

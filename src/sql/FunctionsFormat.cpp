@@ -1,6 +1,5 @@
 // Format and its sisters.
 
-#include "sql/Calendar.h"
 #include "sql/Call.h"
 #include "sql/Conversion.h"
 #include "sql/Format.h"

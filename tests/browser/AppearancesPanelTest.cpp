@@ -346,5 +346,15 @@ TEST_F(AppearancesPanelTest, CaptionsFollowTheLanguage) {
     EXPECT_EQ(List().rowCount(), 2);
 }
 
+TEST_F(AppearancesPanelTest, TheSelectedRowIsShownAgainInAnotherLanguage) {
+    Find(u"Mara Hale"_s);
+    browser.appearances.current_row = 1;
+    QList<int> told;
+    QObject::connect(&browser.appearances, &AppearancesPanel::CurrentRowChanged,
+                     [&] { told += browser.appearances.current_row; });
+    RefillAppearances(browser);
+    EXPECT_EQ(told, QList<int>{1});
+}
+
 } // namespace
 } // namespace ostrand

@@ -3,6 +3,7 @@
 #include "ShelfFixture.h"
 #include "browser/CollectionTabs.h"
 #include "browser/Views.h"
+#include "support/FailingStatements.h"
 
 namespace ostrand {
 namespace {
@@ -68,16 +69,13 @@ TEST_F(CollectionTypes, RenamingToAnotherTypeJoinsThem) {
     EXPECT_EQ(Keys(), (QStringList{u"Key_D1"_s, u"E1"_s}));
 }
 
-TEST_F(CollectionTypes, AFaultOfRenamingLeavesTheTab) {
+TEST_F(CollectionTypes, AFaultOfRenamingLeavesTheTabAndAllProfiles) {
+    Run(u"UPDATE Profiles SET ColType = 'Lent out' WHERE ProfileID = 'E1'");
     Select(u"Lent out"_s);
     const QStringList types = Types();
     const QStringList tabs = browser.tabColList;
     ExpectNewName(u"Archive"_s);
-    session.Database->SetObserver([](QStringView statement) {
-        if (statement.startsWith(u"UPDATE")) {
-            throw sql::SqlError(sql::ErrorCode::CannotOpenDatabase, u"The disk is full."_s);
-        }
-    });
+    test::FailFrom(*session.Database, u"UPDATE"_s, 2);
     EXPECT_THROW(RenameCollectionType(browser), sql::SqlError);
     session.Database->SetObserver({});
     EXPECT_EQ(Types(), types);

@@ -5,6 +5,7 @@
 #include "browser/ProfileInfos.h"
 #include "browser/TagFilter.h"
 #include "browser/Views.h"
+#include "support/FailingStatements.h"
 
 namespace ostrand {
 namespace {
@@ -239,6 +240,20 @@ TEST_F(ProfileCommands, AFaultLeavesTheListWithWhatIsStillThere) {
     EXPECT_THROW(RemoveSelectedProfiles(browser), sql::SqlError);
     EXPECT_EQ(Column(), (QStringList{u"A"_s, u"B"_s}));
     EXPECT_EQ(Ids(), (QStringList{u"A"_s, u"B"_s}));
+}
+
+TEST_F(ProfileCommands, AFaultOfMovingShowsWhatWasMoved) {
+    AddProfiles({u"A"_s, u"B"_s, u"C"_s});
+    SelectTab(u"Owned"_s);
+    Movies();
+    selected = {0, 1};
+    services.dialogs.ExpectInput(u"Move the selected profiles to:"_s, u"Attic"_s, u"Collection Type"_s);
+    test::FailFrom(*session.Database, u"UPDATE Profiles SET ColType"_s, 2);
+    EXPECT_THROW(MoveSelectedProfiles(browser), sql::SqlError);
+    session.Database->SetObserver({});
+    EXPECT_EQ(Rows(u"SELECT ProfileID FROM Profiles WHERE ColType = 'Owned' ORDER BY ProfileID"),
+              (QStringList{u"B"_s, u"C"_s}));
+    EXPECT_EQ(Column(), (QStringList{u"B"_s, u"C"_s}));
 }
 
 TEST_F(ProfileCommands, MovesAllSelectedProfiles) {

@@ -1,5 +1,6 @@
 // Events of a title: shown, added, changed, deleted, with the loans and the lock that go with them.
 #include "SheetFixture.h"
+#include "support/FailingStatements.h"
 
 namespace ostrand {
 namespace {
@@ -160,6 +161,17 @@ TEST_F(ProfileEventsTest, AnEventThatLendsNotesTheLoan) {
     EXPECT_EQ(Loans().size(), 1);
     sheet->AddEvent({u"Returned"_s, u"2024-04-03 09:00:00"_s, {}});
     EXPECT_EQ(Loans(), QStringList());
+}
+
+TEST_F(ProfileEventsTest, AFaultLeavesEventsAndLoans) {
+    const auto sheet = Open(u"Key_D1"_s, {ada});
+    sheet->AddEvent({u"Borrowed"_s, u"2024-02-25 22:00:00"_s, {}});
+    test::FailFrom(*session.Database, u"INSERT INTO LoanInfo"_s);
+    EXPECT_THROW(sheet->AddEvent({u"Borrowed"_s, u"2024-04-01 09:00:00"_s, {}}), sql::SqlError);
+    session.Database->SetObserver({});
+    EXPECT_EQ(Loans(), QStringList{u"Key_D1|Ada Quill|2024-03-03"_s});
+    EXPECT_EQ(Rows(u"SELECT EventTimeStamp FROM Events WHERE ProfileID = 'Key_D1'"),
+              QStringList{u"2024-02-25 22:00:00"_s});
 }
 
 TEST_F(ProfileEventsTest, ALoanWithoutATimeHasNoEnd) {

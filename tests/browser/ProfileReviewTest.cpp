@@ -1,5 +1,6 @@
 // The owner's marks.
 #include "SheetFixture.h"
+#include "support/FailingStatements.h"
 
 namespace ostrand {
 namespace {
@@ -41,6 +42,20 @@ TEST_F(ProfileReviewTest, UpdateDbReviewSendsItsStatements) {
                                  u"INSERT INTO Reviews (ProfileID, Film, Video, Audio, Extras) VALUES ('Key_D1', '1', "
                                  "'2', '3', '4')"_s,
                                  u"UPDATE Profiles SET MD5 = '' WHERE ProfileID = 'Key_D1'"_s}));
+}
+
+TEST_F(ProfileReviewTest, AnyKeyIsStoredAsItIs) {
+    Run(u"INSERT INTO Profiles (ProfileID, Title) VALUES ('50%2 off %1', 'Fifty')");
+    UpdateDbReview(session, {u"50%2 off %1"_s, false}, {1, 2, 3, 4});
+    EXPECT_EQ(Stored(), QStringList{u"50%2 off %1|1|2|3|4"_s});
+}
+
+TEST_F(ProfileReviewTest, AFaultLeavesTheReviewOfBefore) {
+    UpdateDbReview(session, dune, {1, 2, 3, 4});
+    test::FailFrom(*session.Database, u"INSERT INTO Reviews"_s);
+    EXPECT_THROW(UpdateDbReview(session, dune, {5, 0, 0, 0}), sql::SqlError);
+    session.Database->SetObserver({});
+    EXPECT_EQ(Stored(), QStringList{u"Key_D1|1|2|3|4"_s});
 }
 
 TEST_F(ProfileReviewTest, AnEpisodesReview) {

@@ -40,6 +40,16 @@ TEST_F(ProfileTagsTest, TheLevelsOfATagAreNodes) {
     EXPECT_EQ(Tree(), (QStringList{u"Seen"_s, u"Shelf"_s, u" Low"_s, u" Top"_s, u"  Left"_s}));
 }
 
+TEST_F(ProfileTagsTest, TheTreeIsReadInOneReset) {
+    QStringList told;
+    QObject::connect(&sheet.tags, &QAbstractItemModel::modelReset, [&] { told += u"reset"_s; });
+    QObject::connect(&sheet.tags, &QAbstractItemModel::rowsInserted, [&] { told += u"inserted"_s; });
+    sheet.tags.ReadTree();
+    EXPECT_EQ(told, QStringList{u"reset"_s});
+    sheet.tags.CheckTag(u"Lent/To"_s);
+    EXPECT_EQ(told, (QStringList{u"reset"_s, u"inserted"_s, u"inserted"_s}));
+}
+
 TEST_F(ProfileTagsTest, TheTagsOfATitleAreTicked) {
     AddTag(u"A1"_s, u"Shelf/Top"_s);
     AddTag(u"H110"_s, u"Seen"_s);

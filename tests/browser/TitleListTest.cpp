@@ -82,6 +82,22 @@ TEST(TitleList, AFilterShowsRowsAndThoseAboveThem) {
     EXPECT_NE(last_order, order);
 }
 
+TEST(TitleList, AFilterThatFailsLeavesNoRowShown) {
+    TitleList list;
+    list.Assign({Row(u"A"_s), Row(u"B"_s)});
+    int resets = 0;
+    QObject::connect(&list, &QAbstractItemModel::modelReset, [&] { ++resets; });
+    list.SetRowFilter([](const std::vector<TitleRow> &, int) -> std::vector<bool> {
+        throw sql::SqlError(sql::ErrorCode::DiskFull, u"no room"_s);
+    });
+    EXPECT_THROW(list.Assign({Row(u"C"_s)}), sql::SqlError);
+    EXPECT_EQ(resets, 1) << "a view waits for the end of a reset";
+    EXPECT_EQ(list.rowCount(), 0);
+    list.SetRowFilter({});
+    EXPECT_TRUE(list.Narrow());
+    EXPECT_EQ(Keys(list), QStringList{u"C"_s});
+}
+
 TEST(TitleList, SortsWhatIsNotShownToo) {
     TitleList list;
     std::vector<bool> passes;

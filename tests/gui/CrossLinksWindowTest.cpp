@@ -4,6 +4,7 @@
 
 #include "people/CrossLinks.h"
 #include "people/ui/frmCrossLinks.h"
+#include "support/FailingStatements.h"
 
 #include <QAction>
 #include <QLabel>
@@ -151,6 +152,22 @@ TEST_F(CrossLinksWindow, AYearChangesAndAllEntriesGo) {
     Click("cbClearAlias");
     EXPECT_EQ(names->model()->rowCount(), 0);
     EXPECT_EQ(Links(), 0);
+}
+
+TEST_F(CrossLinksWindow, AFaultIsToldWhereverTheUserActs) {
+    const auto expect_fault = [this] { services.dialogs.ExpectMessage(u"The disk is full."_s, MessageIcon::Critical); };
+    test::FailFrom(*session.Database, u"SELECT"_s);
+    expect_fault();
+    QTest::keyClick(names, Qt::Key_Down);
+    expect_fault();
+    Click("cbAdjustAwardData");
+    test::FailFrom(*session.Database, u"DELETE"_s);
+    names->setFocus();
+    services.dialogs.ExpectMessage({}, MessageAnswer::Yes, u"Remove Common Name"_s);
+    expect_fault();
+    QTest::keyClick(names, Qt::Key_Delete);
+    session.Database->SetObserver({});
+    EXPECT_EQ(Links(), 3);
 }
 
 TEST_F(CrossLinksWindow, AwardDataIsAdjusted) {

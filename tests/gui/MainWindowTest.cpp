@@ -4,6 +4,7 @@
 #include "shell/StartUp.h"
 #include "shell/ui/SplitPanel.h"
 #include "shell/ui/frmListView.h"
+#include "support/FailingStatements.h"
 
 #include <QAbstractItemView>
 #include <QClipboard>
@@ -519,6 +520,29 @@ TEST_F(MainWindow, AFaultOfTheDatabaseIsToldAndTheProgramGoesOn) {
     Trigger("mOrderByGenre");
     Trigger("mOrderTitleAsc");
     EXPECT_EQ(Titles().size(), 60);
+}
+
+TEST_F(MainWindow, AFaultIsToldWhereverTheUserActs) {
+    Start();
+    ClickRow(2);
+    ClickRow(3);
+    const struct {
+        const char *name;
+        std::function<void()> act;
+    } actions[] = {
+        {"a row", [&] { ClickRow(5); }},
+        {"a key", [&] { QTest::keyClick(List(), Qt::Key_Down); }},
+        {"back", [&] { Control<QToolButton>("MoveBack")->click(); }},
+        {"a tab", [&] { Control<QTabBar>("tabMain")->setCurrentIndex(1); }},
+    };
+    for (const auto &action : actions) {
+        test::FailFrom(*session.Database, u"SELECT"_s);
+        services.dialogs.messages.clear();
+        services.dialogs.ExpectMessage(u"The disk is full."_s, MessageIcon::Critical);
+        action.act();
+        session.Database->SetObserver({});
+        EXPECT_EQ(services.dialogs.messages.size(), 1u) << action.name;
+    }
 }
 
 TEST_F(MainWindow, ADatabaseWithoutProfilesIsAnEmptyList) {

@@ -4,6 +4,7 @@
 #include "people/CrossLinks.h"
 
 #include "database/CollectionFixture.h"
+#include "support/FailingStatements.h"
 
 using namespace Qt::StringLiterals;
 
@@ -206,12 +207,7 @@ TEST_F(CrossLinkEditorTest, AnAliasBecomesTheCommonNameOfItsGroup) {
 TEST_F(CrossLinkEditorTest, AGroupMovesWhollyOrNotAtAll) {
     Select(u"Ann"_s, 0);
     const QStringList before = Links();
-    int inserts = 0;
-    session.Database->SetObserver([&](QStringView statement) {
-        if (statement.startsWith(u"INSERT") && ++inserts == 2) {
-            throw sql::SqlError(sql::ErrorCode::DiskFull, u"no room"_s);
-        }
-    });
+    test::FailFrom(*session.Database, u"INSERT"_s, 2);
     EXPECT_THROW(editor->SetAsCommon(u"Anny"_s), sql::SqlError);
     session.Database->SetObserver({});
     EXPECT_EQ(Links(), before);

@@ -1,6 +1,7 @@
 #include "people/CrossLinks.h"
 
 #include "database/CollectionFixture.h"
+#include "support/FailingStatements.h"
 
 using namespace Qt::StringLiterals;
 
@@ -234,6 +235,15 @@ TEST_F(BirthYears, EpisodesCountToo) {
     EXPECT_EQ(Years(), QStringList{u"Ann Smith|1950"_s});
     EXPECT_EQ(Rows(u"SELECT Name, BirthYear FROM TVCastCrew ORDER BY Position"),
               (QStringList{u"Ann Smith|1960"_s, u"Bob Smith|0"_s}));
+}
+
+TEST_F(BirthYears, AFaultClosesTheWindow) {
+    Credit(u"Ann Smith"_s, 1950);
+    test::FailFrom(*session.Database, u"UPDATE CastCrew"_s);
+    EXPECT_THROW(RemoveUnneededBirthYears(session), sql::SqlError);
+    session.Database->SetObserver({});
+    EXPECT_FALSE(session.progress.IsLoaded());
+    EXPECT_EQ(services.progress.calls.last(), u"closed"_s);
 }
 
 TEST_F(BirthYears, InAnotherJobItsWindowStaysOpen) {

@@ -2,6 +2,7 @@
 
 #include "database/CollectionFixture.h"
 #include "shell/CommandFile.h"
+#include "support/FailingStatements.h"
 
 namespace ostrand {
 namespace {
@@ -82,11 +83,7 @@ TEST_F(SqlFileTest, InvalidFilesAreTold) {
 
 TEST_F(SqlFileTest, AFaultTakesBackWhatCameBeforeIt) {
     Save(u"Mine"_s, u"stays"_s);
-    session.Database->SetObserver([](QStringView statement) {
-        if (statement.startsWith(u"INSERT") && statement.contains(u"Two")) {
-            throw sql::SqlError(sql::ErrorCode::DiskFull, u"The disk is full."_s);
-        }
-    });
+    test::FailFrom(*session.Database, u"INSERT"_s, 2);
     Expect(u"The disk is full."_s, u"ImportSQLFromFile"_s, MessageIcon::Critical);
     EXPECT_FALSE(Import("<SQLQueries><SQLQuery><SQLName>Mine</SQLName></SQLQuery><SQLQuery><SQLName>Two</SQLName>"
                         "</SQLQuery></SQLQueries>"));

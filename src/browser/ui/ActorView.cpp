@@ -1,7 +1,7 @@
 #include "browser/ui/ActorView.h"
 
 #include "browser/Browser.h"
-#include "browser/ui/Guarded.h"
+#include "shell/ui/Guarded.h"
 
 #include <QContextMenuEvent>
 

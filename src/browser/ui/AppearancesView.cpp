@@ -4,7 +4,7 @@
 #include "browser/Navigation.h"
 #include "browser/ui/FractionColumns.h"
 #include "browser/ui/GridDelegate.h"
-#include "browser/ui/Guarded.h"
+#include "shell/ui/Guarded.h"
 
 #include <QContextMenuEvent>
 #include <QHeaderView>

@@ -2,7 +2,7 @@
 
 #include "browser/Browser.h"
 #include "browser/CreditCommands.h"
-#include "browser/ui/Guarded.h"
+#include "shell/ui/Guarded.h"
 
 #include <QKeyEvent>
 #include <QLabel>

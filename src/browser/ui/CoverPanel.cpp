@@ -8,7 +8,7 @@
 #include "browser/ui/GridDelegate.h"
 #include "browser/ui/MediumIcon.h"
 #include "browser/ui/PictureView.h"
-#include "shell/Session.h"
+#include "shell/ui/Guarded.h"
 
 #include <QHeaderView>
 #include <QResizeEvent>
@@ -40,7 +40,8 @@ CoverPanel::CoverPanel(Browser &browser, QWidget *parent) :
     listSeasons_->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(listSeasons_, &QWidget::customContextMenuRequested, this,
             [this](const QPoint &place) { Q_EMIT SeasonMenuWanted(listSeasons_->mapToGlobal(place)); });
-    connect(listSeasons_, &QComboBox::activated, this, [this](int index) { SelectSeason(browser_, index); });
+    connect(listSeasons_, &QComboBox::activated, this,
+            [this](int index) { Guarded(browser_.session, [&] { SelectSeason(browser_, index); }); });
     connect(&browser_, &Browser::CoverChanged, this, [this] {
         picCover_->ShowFile(CurrentCoverFile(browser_));
         ShareHeight();
@@ -159,7 +160,8 @@ void EpisodePanel::ConnectList() {
     connect(listEpisodes_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex &current) {
                 if (!following_ && current.isValid()) {
-                    LoadEpisode(browser_, current.data(EpisodeList::KeyRole).toString());
+                    Guarded(browser_.session,
+                            [&] { LoadEpisode(browser_, current.data(EpisodeList::KeyRole).toString()); });
                 }
             });
     connect(&browser_, &Browser::CurrentEpisodeChanged, this, [this] {

@@ -4,9 +4,9 @@
 #include "browser/CreditCommands.h"
 #include "browser/Navigation.h"
 #include "browser/ui/FractionColumns.h"
-#include "browser/ui/Guarded.h"
 #include "browser/ui/KeptPerson.h"
 #include "browser/ui/PersonDelegate.h"
+#include "shell/ui/Guarded.h"
 
 #include <QContextMenuEvent>
 #include <QHeaderView>

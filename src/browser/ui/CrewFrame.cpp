@@ -3,9 +3,9 @@
 #include "browser/Browser.h"
 #include "browser/CreditCommands.h"
 #include "browser/ui/CreditListView.h"
-#include "browser/ui/Guarded.h"
 #include "browser/ui/KeptPerson.h"
 #include "browser/ui/PersonDelegate.h"
+#include "shell/ui/Guarded.h"
 
 #include <QContextMenuEvent>
 #include <QStackedLayout>

@@ -1,7 +1,7 @@
 #include "browser/ui/FindEdit.h"
 
 #include "browser/Browser.h"
-#include "browser/ui/Guarded.h"
+#include "shell/ui/Guarded.h"
 
 #include <QKeyEvent>
 #include <QTimer>

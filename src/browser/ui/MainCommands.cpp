@@ -15,7 +15,6 @@
 #include "browser/SkinView.h"
 #include "browser/TitleQueries.h"
 #include "browser/Views.h"
-#include "browser/ui/Guarded.h"
 #include "browser/ui/frmCover.h"
 #include "browser/ui/frmFilterTags.h"
 #include "browser/ui/frmMain.h"
@@ -35,6 +34,7 @@
 #include "shell/FileCommands.h"
 #include "shell/Session.h"
 #include "shell/ui/BringUp.h"
+#include "shell/ui/Guarded.h"
 #include "shell/ui/frmAbout.h"
 #include "shell/ui/frmSettings.h"
 

@@ -7,7 +7,7 @@
 #include "browser/ui/PanelTabs.h"
 #include "browser/ui/ProfileAV.h"
 #include "browser/ui/ProfileDetails.h"
-#include "shell/Session.h"
+#include "shell/ui/Guarded.h"
 #include "shell/ui/SplitPanel.h"
 
 #include <QScopedValueRollback>
@@ -39,7 +39,7 @@ MiddlePanel::MiddlePanel(Browser &browser, QWidget *parent) :
 
     connect(tabMain_, &QTabBar::currentChanged, this, [this](int index) {
         if (!following_ && index >= 0) {
-            SelectMainTab(browser_, index + 1);
+            Guarded(browser_.session, [&] { SelectMainTab(browser_, index + 1); });
         }
     });
     for (const TextPanel *panel : {static_cast<TextPanel *>(Details_), static_cast<TextPanel *>(AV_)}) {

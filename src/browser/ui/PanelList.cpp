@@ -3,8 +3,8 @@
 #include "browser/Browser.h"
 #include "browser/Navigation.h"
 #include "browser/PanelFields.h"
-#include "browser/ui/Guarded.h"
 #include "shell/ListTable.h"
+#include "shell/ui/Guarded.h"
 
 #include <QAction>
 #include <QHeaderView>

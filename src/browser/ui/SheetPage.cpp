@@ -3,7 +3,7 @@
 #include "browser/Browser.h"
 #include "browser/Navigation.h"
 #include "browser/ProfileSheet.h"
-#include "browser/ui/Guarded.h"
+#include "shell/ui/Guarded.h"
 
 #include <QHeaderView>
 #include <QHelpEvent>

@@ -3,8 +3,8 @@
 #include "browser/Browser.h"
 #include "browser/SharedValues.h"
 #include "browser/ui/FieldText.h"
-#include "browser/ui/Guarded.h"
 #include "browser/ui/PanelList.h"
+#include "shell/ui/Guarded.h"
 
 namespace ostrand {
 

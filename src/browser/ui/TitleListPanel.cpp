@@ -4,9 +4,8 @@
 #include "browser/CollectionTabs.h"
 #include "browser/Navigation.h"
 #include "browser/ui/FindEdit.h"
-#include "browser/ui/Guarded.h"
 #include "browser/ui/PanelTabs.h"
-#include "shell/Session.h"
+#include "shell/ui/Guarded.h"
 
 #include <QAbstractItemView>
 #include <QContextMenuEvent>
@@ -122,7 +121,7 @@ void TitleListPanel::MakeFilterBox() {
     comboFilter_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     connect(comboFilter_, &FilterBox::AboutToOpen, this, [this] { OpenFilterList(browser_); });
     connect(comboFilter_, &QComboBox::textActivated, this,
-            [this](const QString &text) { ChooseFilter(browser_, text); });
+            [this](const QString &text) { Guarded(browser_.session, [&] { ChooseFilter(browser_, text); }); });
     connect(&browser_, &Browser::FilterChanged, this, &TitleListPanel::ShowFilters);
 }
 

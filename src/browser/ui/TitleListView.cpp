@@ -4,9 +4,8 @@
 #include "browser/Navigation.h"
 #include "browser/TitleQueries.h"
 #include "browser/TypedSearch.h"
-#include "browser/ui/Guarded.h"
 #include "browser/ui/TitleDelegate.h"
-#include "shell/Session.h"
+#include "shell/ui/Guarded.h"
 
 #include <QContextMenuEvent>
 #include <QHeaderView>
@@ -32,7 +31,8 @@ TitleListView::TitleListView(Browser &browser, QWidget *parent) :
     header()->setTextElideMode(Qt::ElideRight);
     connect(header(), &QHeaderView::sectionResized, this,
             [this](int column, int, int size) { KeepWidth(column, size); });
-    connect(header(), &QHeaderView::sectionClicked, this, [this](int column) { SortByHeader(browser_, column); });
+    connect(header(), &QHeaderView::sectionClicked, this,
+            [this](int column) { Guarded(browser_.session, [&] { SortByHeader(browser_, column); }); });
     connect(&browser_, &Browser::ListFillingBegun, this, [this] { ShowFilling(true); });
     connect(&browser_, &Browser::ListFillingEnded, this, [this] { ShowFilling(false); });
     connect(&browser_, &Browser::CurrentRowChanged, this, &TitleListView::FollowBrowser);
@@ -102,7 +102,7 @@ void TitleListView::currentChanged(const QModelIndex &current, const QModelIndex
 
 void TitleListView::Move(int row) {
     const QScopedValueRollback<bool> move(moving_, true);
-    MoveToRow(browser_, row);
+    Guarded(browser_.session, [&] { MoveToRow(browser_, row); });
 }
 
 void TitleListView::keyboardSearch(const QString &search) {

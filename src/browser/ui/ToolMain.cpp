@@ -4,7 +4,7 @@
 #include "browser/Navigation.h"
 #include "browser/ToolBarTable.h"
 #include "platform_qt/ThemedIcon.h"
-#include "shell/Session.h"
+#include "shell/ui/Guarded.h"
 
 #include <QAction>
 #include <QMenu>
@@ -62,7 +62,8 @@ void ToolMain::AddButton(const ToolButton &row, QWidget &window) {
         action->setShortcut(QKeySequence(OfTable(row.shortcut), QKeySequence::PortableText));
         window.addAction(action);
     }
-    connect(action, &QAction::triggered, this, [this, &row] { RunTool(browser_, row); });
+    connect(action, &QAction::triggered, this,
+            [this, &row] { Guarded(browser_.session, [&] { RunTool(browser_, row); }); });
 
     auto *widget = qobject_cast<QToolButton *>(widgetForAction(action));
     widget->setObjectName(OfTable(row.name));
@@ -107,11 +108,7 @@ void ToolMain::FillHistory(const Button &button) {
 }
 
 void ToolMain::MoveTo(bool back, int index) {
-    if (back) {
-        MoveBack(browser_, index);
-    } else {
-        MoveForward(browser_, index);
-    }
+    Guarded(browser_.session, [&] { back ? MoveBack(browser_, index) : MoveForward(browser_, index); });
 }
 
 void ToolMain::ShowStates() {

@@ -3,8 +3,8 @@
 #include "browser/Browser.h"
 #include "browser/CreditCommands.h"
 #include "browser/TagFilter.h"
-#include "browser/ui/Guarded.h"
 #include "shell/Session.h"
+#include "shell/ui/Guarded.h"
 #include "shell/ui/Mnemonics.h"
 #include "shell/ui/WindowPlace.h"
 

@@ -8,7 +8,6 @@
 #include "browser/PanelFields.h"
 #include "browser/ProfileCommands.h"
 #include "browser/SkinView.h"
-#include "browser/Views.h"
 #include "browser/ui/ActorView.h"
 #include "browser/ui/AppearancesView.h"
 #include "browser/ui/AwardsFrame.h"
@@ -16,12 +15,12 @@
 #include "browser/ui/CreditListView.h"
 #include "browser/ui/CrewFrame.h"
 #include "browser/ui/FileDrop.h"
-#include "browser/ui/Guarded.h"
 #include "browser/ui/MainCommands.h"
 #include "browser/ui/MainWindowPlace.h"
 #include "browser/ui/MenuBuilder.h"
 #include "browser/ui/MiddlePanel.h"
 #include "browser/ui/SkinRules.h"
+#include "browser/ui/TabOrder.h"
 #include "browser/ui/TitleListPanel.h"
 #include "browser/ui/ToolMain.h"
 #include "browser/ui/frmProfile.h"
@@ -30,21 +29,18 @@
 #include "shell/InstanceMarker.h"
 #include "shell/ListTable.h"
 #include "shell/StartUp.h"
-#include "shell/ui/SplitBar.h"
+#include "shell/ui/Guarded.h"
 #include "shell/ui/SplitPanel.h"
 #include "shell/ui/Twips.h"
 #include "shell/ui/frmListView.h"
 #include "shell/ui/frmSplash.h"
 
 #include <QCloseEvent>
-#include <QListView>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QShortcut>
-#include <QTabBar>
 #include <QTimer>
-#include <QToolButton>
 
 namespace ostrand {
 
@@ -154,74 +150,7 @@ void frmMain::Compose() {
     menus_ = new MenuBuilder(browser.commands, *menuBar(), *this);
     toolMain_ = new ToolMain(browser, *this);
     addToolBar(toolMain_);
-    OrderTabs();
-}
-
-void frmMain::OrderTabs() {
-    // The round ends with the bars: whoever walks through the panels does not want to stop at each one between them.
-    QWidgetList stops;
-    for (const SplitPanel *split : splits_) {
-        stops.append(split->findChild<SplitBar *>({}, Qt::FindDirectChildrenOnly));
-    }
-    for (const QAction *action : toolMain_->actions()) {
-        stops.append(toolMain_->findChild<QToolButton *>(action->objectName()));
-    }
-    for (const char16_t *name : {u"tabColList",
-                                 u"comboFilter",
-                                 u"textFind",
-                                 u"listSeries",
-                                 u"listSeasons",
-                                 u"picMedium",
-                                 u"picCover",
-                                 u"picActor",
-                                 u"listEpisodes",
-                                 u"tabMain",
-                                 u"ListCast",
-                                 u"ListCrew",
-                                 u"treeCrew",
-                                 u"UPC",
-                                 u"urlIMDB",
-                                 u"textTitle",
-                                 u"textSortTitle",
-                                 u"textOriginalTitle",
-                                 u"textOriginalSortTitle",
-                                 u"textCollectionNumber",
-                                 u"textCollectionType",
-                                 u"textReleaseDate",
-                                 u"textRuntime",
-                                 u"textRating",
-                                 u"textCaseType",
-                                 u"textRegions",
-                                 u"textLocality",
-                                 u"listGenres",
-                                 u"listStudios",
-                                 u"listFeatures",
-                                 u"listAudio",
-                                 u"listSubtitles",
-                                 u"textRatio",
-                                 u"textVideoFormat",
-                                 u"listAppearences",
-                                 u"treeAwards"}) {
-        stops.append(findChild<QWidget *>(QString::fromUtf16(name)));
-    }
-    // What takes no focus, such as an empty cover, could get no place.
-    QList<Qt::FocusPolicy> policies;
-    for (QWidget *stop : stops) {
-        policies.append(stop->focusPolicy());
-        stop->setFocusPolicy(Qt::StrongFocus);
-    }
-    for (qsizetype i = 1; i < stops.size(); ++i) {
-        setTabOrder(stops[i - 1], stops[i]);
-    }
-    for (qsizetype i = 0; i < stops.size(); ++i) {
-        stops[i]->setFocusPolicy(policies[i]);
-    }
-    // The arrow keys reach all tabs.
-    for (const QTabBar *tabs : findChildren<QTabBar *>()) {
-        for (QToolButton *scroll : tabs->findChildren<QToolButton *>()) {
-            scroll->setFocusPolicy(Qt::NoFocus);
-        }
-    }
+    OrderTabs(*this);
 }
 
 void frmMain::ConnectBrowser() {
@@ -289,12 +218,14 @@ void frmMain::CopyField() {
 
 void frmMain::ConnectPeople() {
     connect(middle_->ListCast(), &CreditListView::MenuWanted, this, [this](const QPoint &place) {
-        browser.commands.SetChecked(u"mLockCast"_s, AreCreditsLocked(browser, CreditKind::Cast));
+        Guarded(browser.session,
+                [this] { browser.commands.SetChecked(u"mLockCast"_s, AreCreditsLocked(browser, CreditKind::Cast)); });
         EnablePersonEntries(browser);
         OpenContextMenu(u"mCastTools"_s, place);
     });
     connect(middle_->FrameCrew(), &CrewFrame::MenuWanted, this, [this](const QPoint &place) {
-        browser.commands.SetChecked(u"mLockCrew"_s, AreCreditsLocked(browser, CreditKind::Crew));
+        Guarded(browser.session,
+                [this] { browser.commands.SetChecked(u"mLockCrew"_s, AreCreditsLocked(browser, CreditKind::Crew)); });
         EnablePersonEntries(browser);
         OpenContextMenu(u"mCrewTools"_s, place);
     });

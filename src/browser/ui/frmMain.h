@@ -60,7 +60,6 @@ protected:
 private:
     void MakeSkinView();
     void Compose();
-    void OrderTabs();
     void ConnectBrowser();
     void ConnectContextMenus();
     void ConnectPeople();

@@ -1,11 +1,11 @@
 #include "browser/ui/frmProfile.h"
 
 #include "browser/Browser.h"
-#include "browser/ui/Guarded.h"
 #include "browser/ui/ProfileEventsTab.h"
 #include "browser/ui/ProfileMainTab.h"
 #include "browser/ui/ProfileTextTab.h"
 #include "shell/Settings.h"
+#include "shell/ui/Guarded.h"
 #include "shell/ui/WindowPlace.h"
 
 #include <QKeyEvent>

@@ -1,6 +1,6 @@
 #include "people/ui/PeopleWindow.h"
 
-#include "shell/Session.h"
+#include "shell/ui/Guarded.h"
 
 #include <QAbstractItemView>
 #include <QAction>
@@ -59,7 +59,7 @@ QPushButton *PeopleWindow::AddButton(QBoxLayout &layout, const char *name, const
     button->setAccessibleName(Text(caption));
     button->setToolTip(Text(tool_tip));
     button->setAutoDefault(false);
-    connect(button, &QPushButton::clicked, this, [pressed = std::move(pressed)] { pressed(); });
+    connect(button, &QPushButton::clicked, this, [this, pressed = std::move(pressed)] { Guarded(session_, pressed); });
     layout.addWidget(button);
     return button;
 }
@@ -101,7 +101,7 @@ void PeopleWindow::LetCopy(QAbstractItemView &list) {
 void PeopleWindow::OnDelete(QAbstractItemView &list, const char16_t *caption, std::function<void()> pressed) {
     QAction *remove = AddEntry(list, Text(caption), QKeySequence::Delete);
     remove->setObjectName(u"mDelete"_s);
-    connect(remove, &QAction::triggered, this, [pressed = std::move(pressed)] { pressed(); });
+    connect(remove, &QAction::triggered, this, [this, pressed = std::move(pressed)] { Guarded(session_, pressed); });
 }
 
 void PeopleWindow::keyPressEvent(QKeyEvent *event) {

@@ -1,7 +1,7 @@
 #include "people/ui/frmCrossLinks.h"
 
 #include "people/Nominees.h"
-#include "shell/Session.h"
+#include "shell/ui/Guarded.h"
 #include "shell/ui/WindowPlace.h"
 
 #include <QHBoxLayout>
@@ -48,7 +48,7 @@ frmCrossLinks::frmCrossLinks(Session &session, QWidget *parent) :
     connect(listCommonNames_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex &current) {
                 if (current.isValid() && current.row() != editor_.Selected()) {
-                    editor_.Select(current.row());
+                    Guarded(session_, [&] { editor_.Select(current.row()); });
                 }
             });
     connect(listAlias_->selectionModel(), &QItemSelectionModel::selectionChanged, this, &frmCrossLinks::EnableButtons);

@@ -1,6 +1,7 @@
 #include "shell/ui/frmListView.h"
 
 #include "shell/Session.h"
+#include "shell/Settings.h"
 #include "shell/SettingsTable.h"
 #include "shell/ui/WindowPlace.h"
 
@@ -117,8 +118,7 @@ void frmListView::AddActions() {
     grid_lines_ = new QAction(MultiList_);
     grid_lines_->setObjectName(u"mToogleGridlinesMultiList"_s);
     grid_lines_->setCheckable(true);
-    grid_lines_->setChecked(
-        ReadIniSetting(session_, u"GridLines", u"MultiList").compare(u"True", Qt::CaseInsensitive) == 0);
+    grid_lines_->setChecked(IsTrueText(ReadIniSetting(session_, u"GridLines", u"MultiList")));
     MultiList_->setShowGrid(grid_lines_->isChecked());
     connect(grid_lines_, &QAction::toggled, this, &frmListView::SetGridLines);
 
@@ -134,7 +134,7 @@ void frmListView::TranslateActions() {
 
 void frmListView::SetGridLines(bool on) {
     MultiList_->setShowGrid(on);
-    WriteIniSetting(session_, u"GridLines", u"MultiList", on ? u"True"_s : u"False"_s);
+    WriteIniSetting(session_, u"GridLines", u"MultiList", TruthText(on));
 }
 
 void frmListView::Choose(const QModelIndex &index) {

@@ -1,4 +1,4 @@
-#include "browser/ui/Guarded.h"
+#include "shell/ui/Guarded.h"
 
 namespace ostrand {
 
