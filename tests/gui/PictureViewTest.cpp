@@ -96,6 +96,7 @@ TEST_F(PictureViewTest, FilesThatChangePlacesAreReadAgain) {
     view.ShowFile(red);
     Wait();
     ASSERT_EQ(Colour(), QColor(Qt::red));
+    QTest::qWait(20); // files are told apart by times in steps of some milliseconds
     ASSERT_TRUE(QFile::rename(red, dir / u"c.bmp"_s));
     ASSERT_TRUE(QFile::rename(blue, red));
     view.ShowFile(red);
